@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The one aggregate of the program's state, above all calculation houses. Passed by reference;
+// tests hold several side by side.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "base/Base.h"
+#include "base/Configuration.h"
+#include "comb/EtatCombinaisons.h"
+#include "stats/Occurrences.h"
+#include "tickets/Grille.h"
+
+namespace norvane {
+
+struct Atelier {
+    std::filesystem::path Repertoire;  ///< the program's directory; every file is relative to it
+    Configuration configuration;
+    Base base;
+    Occurrences occurrences;
+    EtatCombinaisons combinaisons;
+
+    std::vector<Grille> ListeGrilles;  ///< the working list of tickets
+    std::vector<Grille> ListeRecu;     ///< the tickets of the receipt in memory
+    std::vector<Grille> ListeChoix;    ///< the stock of grids
+
+    int TraitementsEnCours = 0;  ///< workers alive
+    bool Disponible = true;      ///< no long operation runs
+    bool QuitterEnAttente = false;  ///< the window was closed while a worker ran
+    bool Relance = false;           ///< the program must start itself again after closing
+    bool FiltreActif = false;       ///< the base in memory is a filtered one
+
+    /// What the user must be told once the window stands: one French sentence each.
+    std::vector<std::string> avertissements;
+
+    /// Reads the configuration, the base and the engine's state in `repertoire`, and builds the
+    /// occurrence structures. Cannot fail: what is damaged is replaced and told in avertissements.
+    explicit Atelier(std::filesystem::path repertoire);
+
+    /// True while work runs: every other command is then refused.
+    bool occupe() const { return TraitementsEnCours > 0 || !Disponible; }
+
+    /// Structures and state again after a change of the base.
+    void recalculer();
+
+    /// Saves the base to norvane.db, only when it differs from what was loaded or last saved.
+    Resultat<Rien> sauverBase();
+
+    std::filesystem::path fichier(const char* nom) const { return Repertoire / nom; }
+
+ private:
+    Base baseSauvee_;  // as on the disk, or built-in
+    bool surDisque_ = false;
+};
+
+}  // namespace norvane
