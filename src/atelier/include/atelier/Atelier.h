@@ -28,8 +28,8 @@ struct Atelier {
     std::vector<Grille> ListeRecu;     ///< the tickets of the receipt in memory
     std::vector<Grille> ListeChoix;    ///< the stock of grids
 
-    int TraitementsEnCours = 0;  ///< workers alive
-    bool Disponible = true;      ///< no long operation runs
+    int TraitementsEnCours = 0;     ///< workers alive
+    bool Disponible = true;         ///< no long operation runs
     bool QuitterEnAttente = false;  ///< the window was closed while a worker ran
     bool Relance = false;           ///< the program must start itself again after closing
     bool FiltreActif = false;       ///< the base in memory is a filtered one

@@ -30,9 +30,9 @@ struct Base {
 
 /// Answer of TirageParDate.
 struct RechercheDate {
-    int indice;      ///< zero-based index of the first record of that date, or -1
-    int precedent;   ///< when indice is -1: last record older than the date (-1 if there is none);
-                     ///< otherwise equal to indice
+    int indice;     ///< zero-based index of the first record of that date, or -1
+    int precedent;  ///< when indice is -1: last record older than the date (-1 if there is none);
+                    ///< otherwise equal to indice
 };
 
 /// Looks `date` (yyyymmdd) up among the first `nombre` records of `table`.

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// NORVANE.INI: what the user has set. Sections CONFIGURATION, MISES, MONNAIE, GAINS, BASE, INTERNET.
+// NORVANE.INI: what the user has set. Sections CONFIGURATION, MISES, MONNAIE, GAINS, BASE,
+// INTERNET.
 #pragma once
 
 #include <array>
@@ -22,12 +23,12 @@ struct Reglages {
     double DecalageImprimanteBordHaut = 0.0;    ///< millimetres, -50..50
     double DecalageImprimanteBordGauche = 0.0;  ///< millimetres, -50..50
     std::string Apparence = "auto";             ///< auto, claire or sombre
-    std::string Fenetre;                        ///< geometry of the main window, x,y,w,h; empty: none
+    std::string Fenetre;  ///< geometry of the main window, x,y,w,h; empty: none
     // [MISES]
     std::array<double, 5> Mises = {2.2, 13.2, 46.2, 123.2, 277.2};  ///< key montants, `;` between
     // [MONNAIE]
-    std::string SymboleMonnaie = "€";   ///< key symbole
-    double TauxConversion = 6.55957;    ///< key taux: francs for one euro
+    std::string SymboleMonnaie = "€";  ///< key symbole
+    double TauxConversion = 6.55957;   ///< key taux: francs for one euro
     // [GAINS]: nominal prizes of one simple grid with 2, 3, 4, 5 good numbers, euros
     std::array<double, 4> GainsNominaux = {5.0, 20.0, 500.0, 100000.0};  ///< keys G2..G5
     // [BASE]

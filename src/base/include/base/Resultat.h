@@ -21,7 +21,7 @@ struct Rien {};
 template <typename T>
 class [[nodiscard]] Resultat {
  public:
-    Resultat(T valeur) : etat_(std::in_place_index<0>, std::move(valeur)) {}  // NOLINT
+    Resultat(T valeur) : etat_(std::in_place_index<0>, std::move(valeur)) {}       // NOLINT
     Resultat(Erreur erreur) : etat_(std::in_place_index<1>, std::move(erreur)) {}  // NOLINT
 
     explicit operator bool() const { return etat_.index() == 0; }

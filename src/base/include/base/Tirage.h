@@ -9,30 +9,31 @@
 
 namespace norvane {
 
-inline constexpr int NumeroMax = 49;      ///< numbers run from 1 to NumeroMax
-inline constexpr int ChanceMax = 10;      ///< chances run from 1 to ChanceMax
-inline constexpr int NbBoules = 5;        ///< numbers in a draw
-inline constexpr int NbRangsLoto = 9;     ///< prize ranks of a 1er Tirage
-inline constexpr int NbRangs2nd = 4;      ///< prize ranks of a 2nd Tirage since DateSecondTirage
-inline constexpr int JokerAbsent = -1;    ///< the Joker+ of that date was never published
+inline constexpr int NumeroMax = 49;        ///< numbers run from 1 to NumeroMax
+inline constexpr int ChanceMax = 10;        ///< chances run from 1 to ChanceMax
+inline constexpr int NbBoules = 5;          ///< numbers in a draw
+inline constexpr int NbRangsLoto = 9;       ///< prize ranks of a 1er Tirage
+inline constexpr int NbRangs2nd = 4;        ///< prize ranks of a 2nd Tirage since DateSecondTirage
+inline constexpr int JokerAbsent = -1;      ///< the Joker+ of that date was never published
 inline constexpr int NbTiragesMax = 65534;  ///< record indices are 16-bit and 65535 means "none"
 
 // Eras of the game, as yyyymmdd, compared with Tirage::DateTirage.
-inline constexpr int DatePremierTirage = 19760519;   ///< first draw of the old game
-inline constexpr int DateNouveauLoto = 20081006;     ///< first draw with a Chance number
-inline constexpr int DateNouveauxRangs = 20170306;   ///< nine ranks instead of six
-inline constexpr int DateSecondTirage = 20191104;    ///< 2nd Tirage with prizes of its own
+inline constexpr int DatePremierTirage = 19760519;  ///< first draw of the old game
+inline constexpr int DateNouveauLoto = 20081006;    ///< first draw with a Chance number
+inline constexpr int DateNouveauxRangs = 20170306;  ///< nine ranks instead of six
+inline constexpr int DateSecondTirage = 20191104;   ///< 2nd Tirage with prizes of its own
 
 /// One record of the base. A date with a 1er and a 2nd Tirage takes two consecutive records.
 /// Kept as eleven plain 32-bit integers: the searches walk the table with that stride.
 struct Tirage {
     std::int32_t Numeros[NbBoules];  ///< 1..49, ascending
     std::int32_t Chance;             ///< 1..10, 0 when the record has none
-    std::int32_t DateForclusion;     ///< last day to claim, yyyymmdd in the shipped table; never read back
-    std::int32_t AnneeNumero;        ///< yyyy + one digit + nnn (8 digits) or yyyy + nnn (7 digits)
-    std::int32_t DateTirage;         ///< yyyymmdd
-    std::int32_t SousTirage;         ///< 1: 1er Tirage, 2: 2nd Tirage of the date
-    std::int32_t Joker;              ///< seven digits, or JokerAbsent
+    std::int32_t
+        DateForclusion;  ///< last day to claim, yyyymmdd in the shipped table; never read back
+    std::int32_t AnneeNumero;  ///< yyyy + one digit + nnn (8 digits) or yyyy + nnn (7 digits)
+    std::int32_t DateTirage;   ///< yyyymmdd
+    std::int32_t SousTirage;   ///< 1: 1er Tirage, 2: 2nd Tirage of the date
+    std::int32_t Joker;        ///< seven digits, or JokerAbsent
 
     friend bool operator==(const Tirage&, const Tirage&) = default;
 };

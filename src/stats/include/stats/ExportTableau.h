@@ -10,7 +10,7 @@
 namespace norvane {
 
 struct TableauExporte {
-    std::vector<std::string> titre;                ///< lines above the table
+    std::vector<std::string> titre;  ///< lines above the table
     std::vector<std::string> entetes;
     std::vector<bool> aDroite;                     ///< per column: figures, aligned to the right
     std::vector<std::vector<std::string>> lignes;  ///< in the order on show

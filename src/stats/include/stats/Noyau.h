@@ -15,13 +15,13 @@ namespace norvane {
 /// The twelve results over records f..l. A gap counts records without the item; a run counts
 /// consecutive records with it. Positions are one-based draw numbers.
 struct ResultatStats {
-    std::int16_t Sorties;      ///< appearances inside the interval
-    std::uint16_t Ecart;       ///< records since the last appearance; the whole interval if none
-    std::uint16_t EcartMax;    ///< longest gap, gaps at both ends included
-    std::uint16_t NbEcartMax;  ///< how many gaps have that length
-    std::uint16_t PosEcartMax; ///< draw that marks the last of them
-    std::uint16_t Suite;       ///< run that reaches the end of the interval, 0 if none does
-    std::uint16_t SuiteMax;    ///< longest run
+    std::int16_t Sorties;       ///< appearances inside the interval
+    std::uint16_t Ecart;        ///< records since the last appearance; the whole interval if none
+    std::uint16_t EcartMax;     ///< longest gap, gaps at both ends included
+    std::uint16_t NbEcartMax;   ///< how many gaps have that length
+    std::uint16_t PosEcartMax;  ///< draw that marks the last of them
+    std::uint16_t Suite;        ///< run that reaches the end of the interval, 0 if none does
+    std::uint16_t SuiteMax;     ///< longest run
     std::uint16_t NbSuiteMax;
     std::uint16_t PosSuiteMax;
     std::uint16_t EcartPrec;   ///< last non-zero gap that ended in an appearance

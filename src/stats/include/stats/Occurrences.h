@@ -13,7 +13,7 @@
 
 namespace norvane {
 
-using Occurrence = std::uint16_t;            ///< a record index
+using Occurrence = std::uint16_t;                  ///< a record index
 using ListeOccurrences = std::vector<Occurrence>;  ///< ascending, allocated exactly to size
 
 struct Occurrences {
@@ -43,10 +43,12 @@ struct Plage {
 // Counting and listing: one increment or one index for each number (or non-zero Chance) of each
 // record of the range. Counters are cleared first; lists are allocated exactly to the counts given.
 void CompterNumeros(const Base& base, Plage plage, std::array<std::int16_t, NumeroMax>& sorties);
-void ListerNumeros(const Base& base, Plage plage, const std::array<std::int16_t, NumeroMax>& sorties,
+void ListerNumeros(const Base& base, Plage plage,
+                   const std::array<std::int16_t, NumeroMax>& sorties,
                    std::array<ListeOccurrences, NumeroMax>& listes);
 void CompterChances(const Base& base, Plage plage, std::array<std::int16_t, ChanceMax>& sorties);
-void ListerChances(const Base& base, Plage plage, const std::array<std::int16_t, ChanceMax>& sorties,
+void ListerChances(const Base& base, Plage plage,
+                   const std::array<std::int16_t, ChanceMax>& sorties,
                    std::array<ListeOccurrences, ChanceMax>& listes);
 
 /// Ranges of the family: the whole base, and draws premier..dernier (one-based) of an interval.

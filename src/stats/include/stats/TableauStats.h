@@ -21,10 +21,10 @@ inline constexpr int NbColonnesStats = 10;
 enum class GenreStats { Numeros, Chances };
 
 struct LigneStats {
-    int element;            ///< the number or the Chance, from 1
+    int element;  ///< the number or the Chance, from 1
     ResultatStats resultat;
-    int ratioGraphique;     ///< trunc(Sorties x 100 / n x 100 + 0.5), of 10000
-    bool present;           ///< the record of the upper bound holds it, by the presence tables
+    int ratioGraphique;  ///< trunc(Sorties x 100 / n x 100 + 0.5), of 10000
+    bool present;        ///< the record of the upper bound holds it, by the presence tables
     /// Texts of columns Num to SuiteMax; Pos is the place in the sort and stays empty. Ratio
     /// holds the text form ("07,35% ").
     std::array<std::string, NbColonnesStats> cellules;
