@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What every interface test stands on: an atelier in a folder of its own, and services that answer
+// by script and remember what they were asked.
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <deque>
+#include <filesystem>
+
+#include "atelier/Atelier.h"
+#include "services/Services.h"
+#include "shell/Page.h"
+
+namespace norvane::ui::essais {
+
+class MessagesScriptes final : public Messages {
+ public:
+    std::deque<int> reponses;      ///< answers to come; the first button when none is left
+    QList<DemandeMessage> posees;  ///< everything asked or told so far
+
+ protected:
+    int poser(const DemandeMessage& demande) override {
+        posees.append(demande);
+        if (reponses.empty()) return CodeBouton1;
+        const int code = reponses.front();
+        reponses.pop_front();
+        return code;
+    }
+};
+
+class FichiersScriptes final : public DialoguesFichiers {
+ public:
+    QString reponse;  ///< the next path, empty to cancel
+    QString filtre;   ///< the filter chosen with it
+    QString enregistrer(QWidget*, const QString&, const QString&, const QString&,
+                        QString& filtreChoisi) override {
+        filtreChoisi = filtre;
+        return reponse;
+    }
+    QString ouvrir(QWidget*, const QString&, const QString&, const QString&) override {
+        return reponse;
+    }
+};
+
+class ImprimanteFichier final : public Imprimantes {
+ public:
+    QString pdf;  ///< where to print; empty to cancel
+    bool choisir(QWidget*, QPrinter& imprimante, const QString&) override {
+        imprimante.setOutputFormat(QPrinter::PdfFormat);
+        imprimante.setOutputFileName(pdf);
+        return !pdf.isEmpty();
+    }
+};
+
+class HorlogeFixe final : public Horloge {
+ public:
+    QDate jour{2024, 8, 1};
+    QDate aujourdhui() const override { return jour; }
+};
+
+class HasardFixe final : public Hasard {
+ public:
+    std::uint32_t valeur = 12345;
+    std::uint32_t graine() override { return valeur; }
+};
+
+class LanceurEspion final : public Lanceur {
+ public:
+    QStringList documents;
+    QStringList relances;
+    bool reussit = true;
+    bool ouvrirDocument(const QString& fichier) override {
+        documents.append(fichier);
+        return reussit;
+    }
+    bool relancer(const QString& repertoire) override {
+        relances.append(repertoire);
+        return reussit;
+    }
+};
+
+/// The scripted services, reachable by their own types.
+struct Scripts {
+    MessagesScriptes* messages;
+    FichiersScriptes* fichiers;
+    ImprimanteFichier* imprimantes;
+    HorlogeFixe* horloge;
+    HasardFixe* hasard;
+    LanceurEspion* lanceur;
+
+    /// Fills `services` with fresh scripted ones, which it owns.
+    static Scripts dans(Services& services) {
+        auto m = std::make_unique<MessagesScriptes>();
+        auto f = std::make_unique<FichiersScriptes>();
+        auto i = std::make_unique<ImprimanteFichier>();
+        auto ho = std::make_unique<HorlogeFixe>();
+        auto ha = std::make_unique<HasardFixe>();
+        auto l = std::make_unique<LanceurEspion>();
+        Scripts s{m.get(), f.get(), i.get(), ho.get(), ha.get(), l.get()};
+        services = {std::move(m),  std::move(f),  std::move(i),
+                    std::move(ho), std::move(ha), std::move(l)};
+        return s;
+    }
+};
+
+/// One page's surroundings.
+struct Banc {
+    QTemporaryDir dossier;
+    Atelier atelier{std::filesystem::path(dossier.path().toStdString())};
+    Services services;
+    Scripts scripts = Scripts::dans(services);
+    Modes modes;
+    Contexte contexte{atelier, services, modes, 1.28, 1.7075};
+};
+
+}  // namespace norvane::ui::essais
