@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "atelier/Atelier.h"
+
+#include <algorithm>
+
+#include "base/Stockage.h"
+
+namespace norvane {
+
+namespace {
+
+/// One sentence for all that the configuration file holds of nonsense.
+std::string phraseAnomalies(const std::vector<std::string>& anomalies) {
+    std::string phrase = "Le fichier NORVANE.INI contient des valeurs inutilisables (";
+    constexpr std::size_t citees = 3;
+    for (std::size_t i = 0; i < std::min(anomalies.size(), citees); ++i) {
+        if (i > 0) phrase += " ; ";
+        phrase += anomalies[i];
+    }
+    if (anomalies.size() > citees) phrase += " ; …";
+    return phrase +
+           ") : les valeurs par défaut les remplacent et le fichier reste tel quel, corrigez-le si "
+           "besoin.";
+}
+
+bool memeContenu(const Base& a, const Base& b) {
+    return a.AnciensTirages == b.AnciensTirages && a.NbAnciensTirages == b.NbAnciensTirages &&
+           std::ranges::equal(a.enUsage(), b.enUsage()) &&
+           std::equal(a.Rapports.begin(), a.Rapports.begin() + a.NbTirages, b.Rapports.begin());
+}
+
+}  // namespace
+
+Atelier::Atelier(std::filesystem::path repertoire)
+    : Repertoire(std::move(repertoire)), configuration(Repertoire / NomConfiguration) {
+    if (!configuration.anomalies.empty()) {
+        avertissements.push_back(phraseAnomalies(configuration.anomalies));
+    }
+    BaseChargee chargee = ChargerBase(Repertoire, configuration.reglages.AnciensTirages);
+    base = std::move(chargee.base);
+    surDisque_ = chargee.depuisFichier;
+    if (!chargee.avertissement.empty()) avertissements.push_back(std::move(chargee.avertissement));
+    baseSauvee_ = base;
+
+    auto etat = LireCombCalc(Repertoire, base.NbTirages);
+    if (etat) {
+        combinaisons = *etat;
+    } else {
+        avertissements.push_back(etat.erreur());
+    }
+    ConstruireOccurrences(base, occurrences);
+}
+
+void Atelier::recalculer() { RecalculBase(base, occurrences); }
+
+Resultat<Rien> Atelier::sauverBase() {
+    if (surDisque_ && memeContenu(base, baseSauvee_)) return Rien{};
+    auto resultat = SauverBase(base, Repertoire / NomStockage);
+    if (resultat) {
+        baseSauvee_ = base;
+        surDisque_ = true;
+    }
+    return resultat;
+}
+
+}  // namespace norvane
