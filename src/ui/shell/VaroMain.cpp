@@ -167,8 +167,8 @@ void TVaroMainForm::creerEtat() {
 }
 
 void TVaroMainForm::montrer() {
-    const QRect place = geometrieFenetre(contexte_.atelier.configuration.reglages.Fenetre,
-                                         screen()->availableGeometry());
+    const QRect place = geometrieFenetre(
+        versQt(contexte_.atelier.configuration.reglages.Fenetre), screen()->availableGeometry());
     setGeometry(place);
     if (Echelles{contexte_.Echelle, contexte_.EchelleLargeur}.maximisee()) {
         showMaximized();
