@@ -31,12 +31,9 @@ Resultat<Base> LireBaseFichier(const fs::path& fichier) {
 }
 
 Resultat<Base> ChoisirBase(const OptionsGlobales& options, const fs::path& repertoire) {
-    fs::path fichier = repertoire / options.base;
-    if (options.base.empty()) {
-        fichier = repertoire / NomStockage;
-        std::error_code erreur;
-        if (!fs::exists(fichier, erreur)) return BaseIntegree(options.globale);
-    }
+    const fs::path fichier = repertoire / options.base.value_or(NomStockage);
+    std::error_code erreur;
+    if (!options.base && !fs::exists(fichier, erreur)) return BaseIntegree(options.globale);
     auto base = LireBaseFichier(fichier);
     if (base && options.globale && !base->AnciensTirages)
         return Erreur{
