@@ -19,6 +19,10 @@ namespace fs = std::filesystem;
 namespace {
 
 Resultat<Base> LireBaseFichier(const fs::path& fichier) {
+    std::error_code erreur;
+    if (!fs::exists(fichier, erreur))
+        return Erreur{fmt::format("La base « {} » n'existe pas ou son dossier est inaccessible.",
+                                  fichier.string())};
     if (fichier.extension() == ".db") return LireStockage(fichier);
     if (fichier.extension() != ".csv")
         return Erreur{fmt::format("« {} » n'est pas une base : son nom doit finir par .db ou .csv.",

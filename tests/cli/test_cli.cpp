@@ -150,8 +150,8 @@ TEST_F(Cli, Refused) {
         Args args;
         const char* dit;
     } const cas[] = {
-        {{"--base", "absente.csv", "base"}, "absente.csv"},
-        {{"--base", "absente.db", "base"}, "absente.db"},
+        {{"--base", "absente.csv", "base"}, "absente.csv » n'existe pas"},
+        {{"--base", "absente.db", "base"}, "absente.db » n'existe pas"},
         {{"--base", "nonsens.csv", "base"}, "nonsens.csv"},
         {{"--base", "base.txt", "base"}, "doit finir par .db ou .csv"},
         {{"--base", "", "tirages"}, "doit finir par .db ou .csv"},
