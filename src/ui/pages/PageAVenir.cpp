@@ -34,7 +34,6 @@ PageAVenir::PageAVenir(Contexte& ctx, const QString& nom, const QString& titre,
     ligne->setMinimumWidth(contexte.px(420));
     detail_ = new QLabel(carte);
     detail_->setObjectName(u"Detail"_s);
-    detail_->setWordWrap(true);
     detail_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     detail_->hide();
     for (QLabel* etiquette : {entete, ligne, detail_}) colonne->addWidget(etiquette);
