@@ -9,7 +9,7 @@
 #include "base/TableCsv.h"
 #include "BasesEssai.h"
 #include "cli/Executer.h"
-#include "DossierTemporaire.h"
+#include "Contenu.h"
 #include "OracleStats.h"
 
 namespace norvane {
@@ -19,34 +19,30 @@ using Args = std::vector<std::string>;
 
 struct Sortie {
     int statut;
-    std::string out;
-    std::string err;
+    std::string out, err;
 };
 
-Sortie Lancer(const Args& args, const std::filesystem::path& repertoire) {
-    std::ostringstream out, err;
-    const int statut = Executer(args, out, err, repertoire);
-    return {statut, out.str(), err.str()};
-}
-
+/// A folder with the four records in quatre.csv, and the program run in it.
 class Cli : public testing::Test {
  protected:
     Cli() {
-        const Base base = QuatreTirages();
         std::ostringstream csv;
-        EcrireTableCsv(csv, base, 0, base.NbTirages - 1);
-        dossier.ecrire("quatre.csv", csv.str());
+        EcrireTableCsv(csv, QuatreTirages(), 0, 3);
+        poser(dossier / "quatre.csv", csv.str());
     }
 
-    Sortie lancer(const Args& args) const { return Lancer(args, dossier.chemin()); }
-
-    /// With the four records as base.
-    Sortie lancerQuatre(Args args) const {
-        args.insert(args.begin(), {"--base", "quatre.csv"});
-        return lancer(args);
+    /// The words of one line, between blanks.
+    Sortie lancer(const std::string& ligne) const {
+        std::istringstream mots(ligne);
+        return lancer(Args{std::istream_iterator<std::string>(mots), {}});
+    }
+    Sortie lancer(const Args& args) const {
+        std::ostringstream out, err;
+        const int statut = Executer(args, out, err, dossier.chemin());
+        return {statut, out.str(), err.str()};
     }
 
-    DossierTemporaire dossier;
+    Dossier dossier;
 };
 
 std::string Lignes(const std::string& texte, int premiere, int derniere) {
@@ -58,70 +54,44 @@ std::string Lignes(const std::string& texte, int premiere, int derniere) {
 }
 
 TEST_F(Cli, Base) {
-    const Sortie integree = lancer({"base"});
-    EXPECT_EQ(integree.statut, StatutFait) << integree.err;
-    EXPECT_EQ(integree.out,
+    EXPECT_EQ(lancer("base").out,
               "cle\tvaleur\nNbTirages\t3214\nNbAnciensTirages\t0\nAnciensTirages\t0\n"
               "Premier\t20081006\nDernier\t20240724\n");
-    EXPECT_EQ(lancer({"--globale", "base"}).out,
+    EXPECT_EQ(lancer("--globale base").out,
               "cle\tvaleur\nNbTirages\t8072\nNbAnciensTirages\t4858\nAnciensTirages\t1\n"
               "Premier\t19760519\nDernier\t20240724\n");
-    EXPECT_EQ(lancerQuatre({"base"}).out,
-              "cle\tvaleur\nNbTirages\t4\nNbAnciensTirages\t0\nAnciensTirages\t0\n"
-              "Premier\t20221003\nDernier\t20221005\n");
 }
 
 TEST_F(Cli, StoredBaseIsTheDefaultAndIsLeftAlone) {
-    ASSERT_TRUE(SauverBase(QuatreTirages(), dossier.chemin() / "norvane.db"));
-    const auto avant = dossier.contenu();
-    EXPECT_EQ(Lignes(lancer({"base"}).out, 1, 1), "NbTirages\t4\n");
-    EXPECT_EQ(dossier.contenu(), avant);
-    EXPECT_EQ(lancer({"--base", "norvane.db", "tirages"}).out, avant.at("quatre.csv"));
+    ASSERT_TRUE(SauverBase(QuatreTirages(), dossier / "norvane.db"));
+    const auto avant = Contenu(dossier);
+    EXPECT_EQ(lancer("tirages").out, avant.at("quatre.csv"));
+    EXPECT_EQ(lancer("--base norvane.db tirages").out, avant.at("quatre.csv"));
+    EXPECT_EQ(Contenu(dossier), avant);
 
-    dossier.ecrire("norvane.db", "ceci n'est pas une base");
-    const auto abimee = dossier.contenu();
-    const Sortie refus = lancer({"base"});
+    poser(dossier / "norvane.db", "ceci n'est pas une base");
+    const auto abimee = Contenu(dossier);
+    const Sortie refus = lancer("base");
     EXPECT_EQ(refus.statut, StatutRefus);
     EXPECT_NE(refus.err.find("norvane.db"), std::string::npos) << refus.err;
-    EXPECT_EQ(dossier.contenu(), abimee);
+    EXPECT_EQ(Contenu(dossier), abimee);
 }
 
 TEST_F(Cli, DrawsAreTheTableByteForByte) {
-    const std::string table = DossierTemporaire::lire(NORVANE_DATA "/tirages.csv");
-    EXPECT_TRUE(lancer({"--globale", "tirages"}).out == table);
-    EXPECT_TRUE(lancer({"--base", NORVANE_DATA "/tirages.csv", "--de=4859", "tirages"}).out ==
-                lancer({"tirages"}).out);
-    EXPECT_EQ(lancer({"--globale", "--de", "17", "--a", "17", "tirages"}).out,
+    const std::string table = lire(NORVANE_DATA "/tirages.csv");
+    EXPECT_TRUE(lancer("--globale tirages").out == table);
+    EXPECT_TRUE(lancer("--base " NORVANE_DATA "/tirages.csv --de=4859 tirages").out ==
+                lancer("tirages").out);
+    EXPECT_EQ(lancer("--globale --de 17 --a 17 tirages").out,
               Lignes(table, 0, 0) + Lignes(table, 17, 17));
-}
-
-TEST_F(Cli, StatisticsOfFourDraws) {
-    const std::string entete =
-        "n\tSorties\tEcart\tEcartMax\tNbEcartMax\tPosEcartMax\tSuite\tSuiteMax\tNbSuiteMax\t"
-        "PosSuiteMax\tEcartPrec\tSuitePrec\tSommeEcarts\n";
-    EXPECT_EQ(lancerQuatre({"stats", "chances"}).out,
-              entete +
-                  "1\t1\t3\t3\t1\t1\t0\t1\t1\t1\t0\t1\t3\n"
-                  "2\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "3\t1\t1\t2\t1\t3\t0\t1\t1\t3\t2\t1\t3\n"
-                  "4\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "5\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "6\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "7\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "8\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "9\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n"
-                  "10\t0\t4\t4\t1\t0\t0\t0\t1\t0\t0\t0\t4\n");
-    const std::string numeros = lancerQuatre({"--de", "2", "--a", "3", "stats", "numeros"}).out;
-    EXPECT_EQ(Lignes(numeros, 0, 0), entete);
-    EXPECT_EQ(Lignes(numeros, 7, 7), "7\t2\t0\t0\t1\t2\t2\t2\t1\t3\t0\t0\t0\n");
-    EXPECT_EQ(Lignes(numeros, 20, 20), "20\t1\t0\t1\t1\t3\t1\t1\t1\t3\t1\t0\t1\n");
-    EXPECT_EQ(Lignes(numeros, 49, 60), "49\t1\t0\t1\t1\t3\t1\t1\t1\t3\t1\t0\t1\n");
 }
 
 TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
     const Base base = BaseIntegree(true);
     const auto attendu = [&](int nombre, auto presencesDe, int de, int a) {
-        std::string texte;
+        std::string texte =
+            "n\tSorties\tEcart\tEcartMax\tNbEcartMax\tPosEcartMax\tSuite\tSuiteMax\tNbSuiteMax\t"
+            "PosSuiteMax\tEcartPrec\tSuitePrec\tSommeEcarts\n";
         for (int n = 1; n <= nombre; ++n) {
             const ResultatStats r = OracleStats(presencesDe(base, n), de - 1, a - 1);
             texte += std::to_string(n);
@@ -135,93 +105,66 @@ TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
         return texte;
     };
     for (const auto& [de, a] : {std::pair{1, 8072}, {4000, 5000}, {8072, 8072}}) {
-        Args args = {"--globale", "--de", std::to_string(de), "--a", std::to_string(a), "stats"};
-        args.push_back("numeros");
-        EXPECT_EQ(Lignes(lancer(args).out, 1, 99), attendu(NumeroMax, PresencesNumero, de, a));
-        args.back() = "chances";
-        EXPECT_EQ(Lignes(lancer(args).out, 1, 99), attendu(ChanceMax, PresencesChance, de, a));
+        const std::string stats =
+            "--globale --de " + std::to_string(de) + " --a " + std::to_string(a) + " stats ";
+        EXPECT_EQ(lancer(stats + "numeros").out, attendu(NumeroMax, PresencesNumero, de, a));
+        EXPECT_EQ(lancer(stats + "chances").out, attendu(ChanceMax, PresencesChance, de, a));
     }
 }
 
 TEST_F(Cli, Refused) {
-    dossier.ecrire("nonsens.csv", "a;b;c\n1;2;3\n");
-    dossier.ecrire("base.txt", "");
-    struct {
-        Args args;
-        const char* dit;
-    } const cas[] = {
-        {{"--base", "absente.csv", "base"}, "absente.csv » n'existe pas"},
-        {{"--base", "absente.db", "base"}, "absente.db » n'existe pas"},
-        {{"--base", "nonsens.csv", "base"}, "nonsens.csv"},
-        {{"--base", "base.txt", "base"}, "doit finir par .db ou .csv"},
-        {{"--base", "", "tirages"}, "doit finir par .db ou .csv"},
-        {{"--base", "quatre.csv", "--globale", "base"}, "--globale ne vaut que"},
-        {{"--base", "quatre.csv", "--de", "0", "tirages"}, "--de 0 est hors de la base"},
-        {{"--base", "quatre.csv", "--de", "-1", "base"}, "--de -1 est hors de la base"},
-        {{"--base", "quatre.csv", "--a", "5", "tirages"}, "--a 5 est hors de la base"},
-        {{"--base", "quatre.csv", "--a", "99999999999999999999", "tirages"}, "hors de la base"},
-        {{"--base", "quatre.csv", "--de", "3", "--a", "2", "stats", "chances"}, "croisé"},
+    poser(dossier / "nonsens.csv", "a;b;c\n1;2;3\n");
+    poser(dossier / "base.txt", "");
+    const std::pair<const char*, const char*> cas[] = {
+        {"--base absente.csv base", "absente.csv » n'existe pas"},
+        {"--base absente.db base", "absente.db » n'existe pas"},
+        {"--base nonsens.csv base", "nonsens.csv"},
+        {"--base base.txt base", "doit finir par .db ou .csv"},
+        {"--base quatre.csv --globale base", "--globale ne vaut que"},
+        {"--base quatre.csv --de 0 tirages", "--de 0 est hors de la base"},
+        {"--base quatre.csv --de -1 base", "--de -1 est hors de la base"},
+        {"--base quatre.csv --a 5 tirages", "--a 5 est hors de la base"},
+        {"--base quatre.csv --a 99999999999999999999 tirages", "est hors de la base"},
+        {"--base quatre.csv --de 3 --a 2 stats chances", "croisé"},
     };
-    for (const auto& c : cas) {
-        const Sortie sortie = lancer(c.args);
-        EXPECT_EQ(sortie.statut, StatutRefus) << sortie.err;
+    for (const auto& [ligne, dit] : cas) {
+        const Sortie sortie = lancer(ligne);
+        EXPECT_EQ(sortie.statut, StatutRefus) << ligne;
         EXPECT_EQ(sortie.out, "");
-        EXPECT_NE(sortie.err.find(c.dit), std::string::npos) << sortie.err;
+        EXPECT_NE(sortie.err.find(dit), std::string::npos) << ligne << '\n' << sortie.err;
         EXPECT_EQ(std::count(sortie.err.begin(), sortie.err.end(), '\n'), 1) << sortie.err;
     }
 }
 
 TEST_F(Cli, BadUsage) {
     struct {
-        Args args;
-        const char* raison;
-        const char* usage;
+        const char *ligne, *raison, *usage;
     } const cas[] = {
-        {{}, "il manque la commande", "norvane-cli [OPTIONS] COMMANDE"},
-        {{"stats"}, "il manque la commande", "norvane-cli [OPTIONS] stats COMMANDE"},
-        {{"danse"}, "argument inattendu « danse »", "norvane-cli [OPTIONS] COMMANDE"},
-        {{"--vite", "base"}, "argument inattendu « --vite »", "norvane-cli [OPTIONS] base"},
-        {{"base", "tirages"}, "argument inattendu « tirages »", "norvane-cli [OPTIONS] base"},
-        {{"base", "-x"}, "argument inattendu « -x »", "norvane-cli [OPTIONS] base"},
-        {{"stats", "boules"},
-         "argument inattendu « boules »",
-         "norvane-cli [OPTIONS] stats COMMANDE"},
-        {{"tirages", "--de", "3"},
-         "l'option globale --de se place avant la commande",
-         "norvane-cli [OPTIONS] tirages"},
-        {{"--de", "trois", "base"},
-         "option --de : « trois » n'est pas un nombre entier",
-         "norvane-cli [OPTIONS] base"},
-        {{"--a", "3.5", "base"},
-         "option --a : « 3.5 » n'est pas un nombre entier",
-         "norvane-cli [OPTIONS] base"},
-        {{"--de", "", "base"},
-         "option --de : «  » n'est pas un nombre entier",
-         "norvane-cli [OPTIONS] base"},
-        {{"--base"},
-         "option --base : nombre de valeurs incorrect",
-         "norvane-cli [OPTIONS] COMMANDE"},
-        {{"--de", "1", "--de", "2", "base"},
-         "option --de : nombre de valeurs incorrect",
-         "norvane-cli [OPTIONS] base"},
-        {{"--globale=non", "base"},
-         "option --globale : nombre de valeurs incorrect",
-         "norvane-cli [OPTIONS] COMMANDE"},
+        {"", "il manque la commande", "COMMANDE"},
+        {"stats", "il manque la commande", "stats COMMANDE"},
+        {"danse", "argument inattendu « danse »", "COMMANDE"},
+        {"--vite base", "argument inattendu « --vite »", "base"},
+        {"base tirages", "argument inattendu « tirages »", "base"},
+        {"stats boules", "argument inattendu « boules »", "stats COMMANDE"},
+        {"tirages --de 3", "l'option globale --de se place avant la commande", "tirages"},
+        {"--de trois base", "option --de : « trois » n'est pas un nombre entier", "base"},
+        {"--a 3.5 base", "option --a : « 3.5 » n'est pas un nombre entier", "base"},
+        {"--base", "option --base : nombre de valeurs incorrect", "COMMANDE"},
+        {"--de 1 --de 2 base", "option --de : nombre de valeurs incorrect", "base"},
+        {"--globale=non base", "option --globale : nombre de valeurs incorrect", "COMMANDE"},
     };
     for (const auto& c : cas) {
-        const Sortie sortie = lancer(c.args);
-        EXPECT_EQ(sortie.statut, StatutUsage) << c.raison;
+        const Sortie sortie = lancer(c.ligne);
+        EXPECT_EQ(sortie.statut, StatutUsage) << c.ligne;
         EXPECT_EQ(sortie.out, "");
-        EXPECT_EQ(sortie.err,
-                  std::string("norvane-cli : ") + c.raison + "\nUsage : " + c.usage + '\n');
+        EXPECT_EQ(sortie.err, std::string("norvane-cli : ") + c.raison +
+                                  "\nUsage : norvane-cli [OPTIONS] " + c.usage + '\n');
     }
 }
 
 TEST_F(Cli, HelpAtEveryLevelAndVersion) {
-    const Sortie racine = lancer({"--help"});
-    EXPECT_EQ(racine.statut, StatutFait);
     EXPECT_EQ(
-        racine.out,
+        lancer("--help").out,
         "Les calculs de Norvane en ligne de commande, sur la base des tirages du Loto.\n"
         "\n"
         "Usage : norvane-cli [OPTIONS] COMMANDE\n"
@@ -239,23 +182,17 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
         "  base     Ce que contient la base des tirages\n"
         "  tirages  Les tirages de l'intervalle, en CSV\n"
         "  stats    Statistiques des numéros ou des chances sur l'intervalle\n");
-    EXPECT_EQ(lancer({"stats", "chances", "--help"}).out,
-              "Les douze résultats de chacune des 10 chances\n"
-              "\n"
-              "Usage : norvane-cli [OPTIONS] stats chances\n"
-              "\n"
-              "Options :\n"
-              "  --help  Affiche cette aide\n"
-              "\n"
-              "Les options globales se placent avant la commande : norvane-cli --help.\n");
-    EXPECT_EQ(Lignes(lancer({"stats", "--help"}).out, 2, 2),
-              "Usage : norvane-cli [OPTIONS] stats COMMANDE\n");
-    EXPECT_EQ(lancer({"--version"}).out, "norvane-cli " NORVANE_VERSION "\n");
+    const Sortie chances = lancer("stats chances --help");
+    EXPECT_EQ(chances.statut, StatutFait);
+    EXPECT_EQ(Lignes(chances.out, 0, 2),
+              "Les douze résultats de chacune des 10 chances\n\n"
+              "Usage : norvane-cli [OPTIONS] stats chances\n");
+    EXPECT_EQ(lancer("--version").out, "norvane-cli " NORVANE_VERSION "\n");
 
     // The manual tells of everything that the help does.
-    const std::string manuel = DossierTemporaire::lire(NORVANE_DATA "/../packaging/norvane-cli.1");
-    for (const char* mot : {"\\-\\-help", "\\-\\-version", "\\-\\-base", "\\-\\-globale",
-                            "\\-\\-de", "\\-\\-a", "tirages", "stats numeros", "stats chances"})
+    const std::string manuel = lire(NORVANE_DATA "/../packaging/norvane-cli.1");
+    for (const char* mot : {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages",
+                            "B stats numeros", "B stats chances"})
         EXPECT_NE(manuel.find(mot), std::string::npos) << mot;
 }
 
