@@ -44,8 +44,8 @@ void ModeleTableau::remplir(std::vector<LigneTableau> lignes) {
 void ModeleTableau::cliquer(int c, bool secondaire) {
     if (c < 0 || c >= columnCount() || !triable(c)) return;
     std::vector<CleTri> cles = cles_;
-    const auto place = std::find_if(cles.begin(), cles.end(),
-                                    [c](const CleTri& cle) { return cle.colonne == c; });
+    const auto place =
+        std::find_if(cles.begin(), cles.end(), [c](const CleTri& cle) { return cle.colonne == c; });
     const bool primaire = !cles.empty() && place == cles.begin();
     if (secondaire && place != cles.end()) {
         place->croissant = !place->croissant;
