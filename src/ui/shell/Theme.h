@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <string>
 
 class QApplication;
 
@@ -14,8 +15,15 @@ namespace norvane::ui {
 
 enum class Apparence { Auto, Claire, Sombre };
 
+/// Makes the pictures that are part of the program known; they stand in a library of ours, which a
+/// linker would otherwise leave out.
+void chargerRessources();
+
 /// Sets style, palette, fonts and style sheet of the whole application. `Auto` follows the desktop.
 void appliquerTheme(QApplication& app, Apparence apparence);
+
+/// The look that a word of the configuration names: auto, claire or sombre.
+Apparence apparenceDe(const std::string& cle);
 
 /// True when a palette is a dark one.
 bool estSombre(const QPalette& palette);
