@@ -35,6 +35,8 @@ constexpr auto E = static_cast<int>(ColonneStats::E);
 constexpr auto EMax = static_cast<int>(ColonneStats::EcartMax);
 constexpr auto SMax = static_cast<int>(ColonneStats::SuiteMax);
 
+constexpr double LargeurReglages = 300;  // design units, at most
+
 const QString IndiceIntervalle = u"Choisissez le nombre de tirages pour les statistiques "_s;
 
 }  // namespace
@@ -102,8 +104,12 @@ PageStats::PageStats(Contexte& ctx, GenreStats genre, QWidget* parent)
     // A table shorter than the page stays at its top.
     colonne->addStretch(0);
     corps->addLayout(colonne, 0);
-    corps->addLayout(construireReglages(), 0);
-    corps->addStretch(1);
+    auto* reglages = new QWidget(this);
+    reglages->setLayout(construireReglages());
+    reglages->setMaximumWidth(ctx.px(LargeurReglages));
+    corps->addWidget(reglages, 1);
+    // Takes what is left only when the settings have all they want.
+    corps->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
     poserOrdreTabulation();
 }
 
@@ -123,6 +129,7 @@ QLayout* PageStats::construireReglages() {
             [this] { remplirParControles(); });
 
     auto* reglages = new QVBoxLayout;
+    reglages->setContentsMargins(0, 0, 0, 0);
     reglages->setSpacing(2 * Unite);
     reglages->addWidget(cadre);
     reglages->addWidget(construireRatio());

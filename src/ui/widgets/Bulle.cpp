@@ -66,7 +66,8 @@ void Bulle::paintEvent(QPaintEvent*) {
         QRectF(rect()).adjusted(0.5, dessous_ ? 0.5 : Fleche, -0.5, dessous_ ? -Fleche : -0.5);
     QPainterPath forme;
     forme.addRoundedRect(corps, Unite, Unite);
-    const double base = dessous_ ? corps.bottom() : corps.top();
+    // The arrow starts inside the body, so that both make one outline.
+    const double base = dessous_ ? corps.bottom() - 1 : corps.top() + 1;
     const double bout = dessous_ ? rect().bottom() : 0.5;
     QPainterPath fleche;
     fleche.addPolygon(QPolygonF({{pointe_ - Fleche * 0.8, base},

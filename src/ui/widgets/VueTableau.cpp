@@ -31,8 +31,13 @@ EnteteTableau::EnteteTableau(ModeleTableau& modele, QWidget* parent)
             [this](int colonne) { Q_EMIT colonneCliquee(colonne, secondaire_); });
 }
 
+void EnteteTableau::poserPolice(const QFont& police) {
+    police_ = police;
+    updateGeometry();
+}
+
 QSize EnteteTableau::sizeHint() const {
-    const QFontMetrics mesure(font());
+    const QFontMetrics mesure(police_);
     return {QHeaderView::sizeHint().width(), mesure.height() * 17 / 10 + Unite};
 }
 
@@ -50,7 +55,7 @@ void EnteteTableau::paintSection(QPainter* peintre, const QRect& cadre, int colo
     p.drawLine(cadre.topRight(), cadre.bottomRight());
     p.drawLine(cadre.bottomLeft(), cadre.bottomRight());
     const QString marque = modele_.marque(colonne);
-    const int pied = QFontMetrics(font()).height() * 7 / 10;
+    const int pied = QFontMetrics(police_).height() * 7 / 10;
     QRect haut = cadre.adjusted(2, 2, -3, -2);
     if (!marque.isEmpty()) {
         peindreMarque(p, QRect(cadre.left(), cadre.bottom() - pied - 1, cadre.width() - 1, pied),
@@ -58,22 +63,26 @@ void EnteteTableau::paintSection(QPainter* peintre, const QRect& cadre, int colo
         haut.setBottom(cadre.bottom() - pied);
     }
     if (!c.image.isNull()) {
-        const int cote = std::min(haut.height(), QFontMetrics(font()).height() * 13 / 10);
+        const int cote = std::min(haut.height(), QFontMetrics(police_).height() * 13 / 10);
         QRect place(0, 0, cote, cote);
         place.moveCenter(haut.center());
         c.image.paint(&p, place);
     } else {
-        p.setFont(font());
+        p.setFont(police_);
         p.setPen(palette().color(QPalette::Text));
-        p.drawText(haut, Qt::AlignCenter | Qt::TextSingleLine, c.entete);
+        const bool gauche = c.alignement == Qt::AlignLeft;
+        p.drawText(
+            gauche ? haut.adjusted(MargeCellule - 2, 0, 0, 0) : haut,
+            (gauche ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter) | Qt::TextSingleLine,
+            c.entete);
     }
     p.restore();
 }
 
 void EnteteTableau::peindreMarque(QPainter& p, const QRect& cadre, const QString& marque) const {
     // The arrow is drawn: not every font has one, and a borrowed one would sit off the line.
-    QFont petite = font();
-    petite.setPointSizeF(petite.pointSizeF() * 0.72);
+    QFont petite = police_;
+    petite.setPointSizeF(petite.pointSizeF() * 0.8);
     const QFontMetrics mesure(petite);
     const QString rang = marque.left(1);
     const double cote = mesure.ascent() * 0.62;
@@ -114,7 +123,7 @@ VueTableau::VueTableau(std::vector<ColonneTableau> colonnes, double echelle, QWi
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);  // Tab leaves the table
     setWordWrap(false);
-    setFrameShape(QFrame::Box);
+    setFrameStyle(int{QFrame::Box} | int{QFrame::Plain});
     setLineWidth(1);
     setHorizontalScrollMode(ScrollPerPixel);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
@@ -144,7 +153,7 @@ void VueTableau::poserMesures() {
     QFont titres = font();
     titres.setPointSizeF(ColonneTableau{}.police * echelle_);
     titres.setBold(true);
-    horizontalHeader()->setFont(titres);
+    static_cast<EnteteTableau*>(horizontalHeader())->poserPolice(titres);
     const QFontMetrics gras(titres);
     for (std::size_t i = 0; i < polices.size(); ++i) {
         const ColonneTableau& c = modele_->colonnes()[i];

@@ -28,6 +28,8 @@ class EnteteTableau final : public QHeaderView {
  public:
     EnteteTableau(ModeleTableau& modele, QWidget* parent);
 
+    /// A font of its own: the application's style sheet would take setFont back.
+    void poserPolice(const QFont& police);
     QSize sizeHint() const override;
 
  Q_SIGNALS:
@@ -41,6 +43,7 @@ class EnteteTableau final : public QHeaderView {
     void peindreMarque(QPainter& p, const QRect& cadre, const QString& marque) const;
 
     ModeleTableau& modele_;
+    QFont police_;
     bool secondaire_ = false;  // SHIFT was held at the last release
 };
 
