@@ -31,9 +31,8 @@ struct EtatCombinaisons {
 /// error naming the line; the state is then all zeros.
 Resultat<EtatCombinaisons> LireCombCalc(const std::filesystem::path& repertoire, int nbTirages);
 
-/// Writes the nine lines.
-Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat,
-                              const std::filesystem::path& repertoire);
+/// Writes the nine lines; a negative draw count, the mark of a stale size, is written as 0.
+Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat, const std::filesystem::path& repertoire);
 
 /// Nine lines "0 0 1": every size counts as never computed.
 Resultat<Rien> EcrireCombCalcNeutre(const std::filesystem::path& repertoire);
@@ -47,7 +46,9 @@ LibellesBornes LibellesBornesTaille(const EtatCombinaisons& etat, int taille, in
 
 /// The files set aside while the base is filtered come back: the filtered COMBCALC.INI and
 /// comb2.dat to comb5.dat are deleted first, then their backups renamed. Sizes 6 to 10 are not
-/// part of the swap. Does nothing for a name without a backup but delete the filtered file.
+/// part of the swap. Does nothing for a name without a backup but delete the filtered file;
+/// without any backup COMBCALC.INI becomes the nine neutral lines. Names are matched in any case,
+/// so that no filtered file survives under another spelling.
 Resultat<Rien> RestaurerFichiersFiltre(const std::filesystem::path& repertoire);
 
 }  // namespace norvane
