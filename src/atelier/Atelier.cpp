@@ -40,7 +40,10 @@ Atelier::Atelier(std::filesystem::path repertoire)
     }
     BaseChargee chargee = ChargerBase(Repertoire, configuration.reglages.AnciensTirages);
     base = std::move(chargee.base);
-    surDisque_ = chargee.depuisFichier;
+    // A file that stands there unread (made by a newer version, without permission) is not ours to
+    // replace by the built-in draws: it counts as saved until the base changes.
+    std::error_code ignore;
+    surDisque_ = std::filesystem::exists(Repertoire / NomStockage, ignore);
     if (!chargee.avertissement.empty()) avertissements.push_back(std::move(chargee.avertissement));
     baseSauvee_ = base;
 
@@ -53,9 +56,12 @@ Atelier::Atelier(std::filesystem::path repertoire)
     ConstruireOccurrences(base, occurrences);
 }
 
-void Atelier::recalculer() { RecalculBase(base, occurrences); }
+void Atelier::recalculer() {
+    RecalculBase(base, occurrences);
+}
 
 Resultat<Rien> Atelier::sauverBase() {
+    if (FiltreActif) return Rien{};  // a sub-series; the whole base is on the disk
     if (surDisque_ && memeContenu(base, baseSauvee_)) return Rien{};
     auto resultat = SauverBase(base, Repertoire / NomStockage);
     if (resultat) {

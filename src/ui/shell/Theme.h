@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <string>
 
 class QApplication;
 
@@ -16,6 +17,9 @@ enum class Apparence { Auto, Claire, Sombre };
 
 /// Sets style, palette, fonts and style sheet of the whole application. `Auto` follows the desktop.
 void appliquerTheme(QApplication& app, Apparence apparence);
+
+/// The look that a word of the configuration names: auto, claire or sombre.
+Apparence apparenceDe(const std::string& cle);
 
 /// True when a palette is a dark one.
 bool estSombre(const QPalette& palette);

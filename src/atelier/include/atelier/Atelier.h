@@ -47,7 +47,8 @@ struct Atelier {
     /// Structures and state again after a change of the base.
     void recalculer();
 
-    /// Saves the base to norvane.db, only when it differs from what was loaded or last saved.
+    /// Saves the base to norvane.db when it differs from what was loaded or last saved, or when
+    /// there is no such file yet. Does nothing while the base in memory is a filtered one.
     Resultat<Rien> sauverBase();
 
     std::filesystem::path fichier(const char* nom) const { return Repertoire / nom; }

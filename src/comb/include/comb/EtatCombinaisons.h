@@ -32,7 +32,8 @@ struct EtatCombinaisons {
 Resultat<EtatCombinaisons> LireCombCalc(const std::filesystem::path& repertoire, int nbTirages);
 
 /// Writes the nine lines; a negative draw count, the mark of a stale size, is written as 0.
-Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat, const std::filesystem::path& repertoire);
+Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat,
+                              const std::filesystem::path& repertoire);
 
 /// Nine lines "0 0 1": every size counts as never computed.
 Resultat<Rien> EcrireCombCalcNeutre(const std::filesystem::path& repertoire);

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Commandes.h"
+
+namespace norvane {
+
+namespace {
+
+/// A word that only leads to further commands.
+CLI::App& Groupe(CLI::App& racine, const char* nom, const char* description) {
+    CLI::App* groupe = racine.add_subcommand(nom, description);
+    groupe->require_subcommand(1);
+    return *groupe;
+}
+
+}  // namespace
+
+std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
+    std::vector<std::unique_ptr<Commande>> commandes;
+    commandes.push_back(std::make_unique<CommandeBase>(racine));
+    commandes.push_back(std::make_unique<CommandeTirages>(racine));
+    CLI::App& stats =
+        Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
+    commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));
+    commandes.push_back(std::make_unique<CommandeStatsChances>(stats));
+    return commandes;
+}
+
+}  // namespace norvane

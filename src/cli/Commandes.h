@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The commands, one class each, and the list of them.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <iosfwd>
+#include <memory>
+#include <vector>
+
+#include "Contexte.h"
+
+namespace norvane {
+
+/// One command: it declares its words, options and help, then runs when the line names it.
+class Commande {
+ public:
+    virtual ~Commande() = default;
+    Commande(const Commande&) = delete;
+    Commande& operator=(const Commande&) = delete;
+
+    bool choisie() const { return app_->parsed(); }
+
+    /// Writes its results to `out`, which reaches the user only when all went well.
+    virtual Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) = 0;
+
+ protected:
+    explicit Commande(CLI::App* app) : app_(app) {}
+
+ private:
+    CLI::App* app_;  // owned by its parent
+};
+
+class CommandeBase : public Commande {
+ public:
+    explicit CommandeBase(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+class CommandeTirages : public Commande {
+ public:
+    explicit CommandeTirages(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+class CommandeStatsNumeros : public Commande {
+ public:
+    explicit CommandeStatsNumeros(CLI::App& stats);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+class CommandeStatsChances : public Commande {
+ public:
+    explicit CommandeStatsChances(CLI::App& stats);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+/// Declares all commands on `racine`, in the order of its help.
+std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine);
+
+}  // namespace norvane

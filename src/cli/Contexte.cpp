@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Contexte.h"
+
+#include <fmt/format.h>
+
+#include <system_error>
+#include <utility>
+
+#include "base/BaseIntegree.h"
+#include "base/Fichiers.h"
+#include "base/Stockage.h"
+#include "base/TableCsv.h"
+
+namespace norvane {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Resultat<Base> LireBaseFichier(const fs::path& fichier) {
+    if (fichier.extension() == ".db") return LireStockage(fichier);
+    if (fichier.extension() != ".csv")
+        return Erreur{fmt::format("« {} » n'est pas une base : son nom doit finir par .db ou .csv.",
+                                  fichier.string())};
+    const auto texte = LireFichier(fichier);
+    if (!texte) return Erreur{texte.erreur()};
+    auto base = LireTableCsv(*texte);
+    if (!base) return Erreur{fmt::format("« {} » : {}", fichier.string(), base.erreur())};
+    return base;
+}
+
+Resultat<Base> ChoisirBase(const OptionsGlobales& options, const fs::path& repertoire) {
+    fs::path fichier = repertoire / options.base;
+    if (options.base.empty()) {
+        fichier = repertoire / NomStockage;
+        std::error_code erreur;
+        if (!fs::exists(fichier, erreur)) return BaseIntegree(options.globale);
+    }
+    auto base = LireBaseFichier(fichier);
+    if (base && options.globale && !base->AnciensTirages)
+        return Erreur{
+            fmt::format("--globale ne vaut que pour la base intégrée : « {} » ne contient "
+                        "pas les tirages de l'ancien jeu.",
+                        fichier.string())};
+    return base;
+}
+
+}  // namespace
+
+Resultat<Donnees> Contexte::charger() const {
+    auto base = ChoisirBase(options, repertoire);
+    if (!base) return Erreur{base.erreur()};
+    const int n = base->NbTirages;
+    if (n == 0) return Erreur{"La base ne contient aucun tirage."};
+
+    const long de = options.de.value_or(1);
+    const long a = options.a.value_or(n);
+    for (const auto& [nom, borne] : {std::pair{"--de", de}, std::pair{"--a", a}})
+        if (borne < 1 || borne > n)
+            return Erreur{fmt::format("{} {} est hors de la base, dont les tirages vont de 1 à {}.",
+                                      nom, borne, n)};
+    if (de > a)
+        return Erreur{fmt::format("Intervalle croisé : --de {} est au-delà de --a {}.", de, a)};
+    return Donnees{*std::move(base), static_cast<int>(de), static_cast<int>(a)};
+}
+
+}  // namespace norvane

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the global options ask for: the base and the interval that a command works on.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "base/Base.h"
+#include "base/Resultat.h"
+
+namespace norvane {
+
+struct OptionsGlobales {
+    std::string base;  ///< file name as given, empty when not
+    bool globale = false;
+    std::optional<long> de;  ///< one-based draw numbers, unchecked
+    std::optional<long> a;
+};
+
+/// A base with at least one draw and an interval of it, one-based, 1 <= de <= a <= NbTirages.
+struct Donnees {
+    Base base;
+    int de;
+    int a;
+};
+
+struct Contexte {
+    OptionsGlobales options;
+    std::filesystem::path repertoire;
+
+    /// Reads the base and checks the interval. Never changes, moves or makes a file.
+    Resultat<Donnees> charger() const;
+};
+
+}  // namespace norvane

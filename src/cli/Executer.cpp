@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Executer.h"
+
+#include <fmt/ostream.h>
+
+#include <algorithm>
+#include <charconv>
+#include <exception>
+#include <limits>
+#include <ostream>
+#include <sstream>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "Aide.h"
+#include "Commandes.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr const char* NomProgramme = "norvane-cli";
+
+/// Reads a draw number. One too large for any type is out of every base, and is refused as such
+/// later on rather than as bad usage here.
+bool LireEntier(std::string_view texte, std::optional<long>& valeur) {
+    long lu = 0;
+    const char* fin = texte.data() + texte.size();
+    const auto [suite, erreur] = std::from_chars(texte.data(), fin, lu);
+    if (suite != fin || erreur == std::errc::invalid_argument) return false;
+    if (erreur == std::errc::result_out_of_range)
+        lu = texte.front() == '-' ? std::numeric_limits<long>::min()
+                                  : std::numeric_limits<long>::max();
+    valeur = lu;
+    return true;
+}
+
+void AjouterBorne(CLI::App& app, const char* nom, std::optional<long>& valeur,
+                  const char* description) {
+    app.add_option_function<std::string>(
+           nom,
+           [nom, &valeur](const std::string& texte) {
+               if (!LireEntier(texte, valeur))
+                   throw CLI::ValidationError(
+                       nom, fmt::format("« {} » n'est pas un nombre entier", texte));
+           },
+           description)
+        ->type_name("N");
+}
+
+void DeclarerOptions(CLI::App& app, OptionsGlobales& options) {
+    app.set_help_flag("--help", "Affiche cette aide");
+    app.set_version_flag("--version", fmt::format("{} {}", NomProgramme, NORVANE_VERSION),
+                         "Affiche la version");
+    app.add_option("--base", options.base,
+                   "Base des tirages, *.db ou *.csv ; par défaut norvane.db du dossier\n"
+                   "courant s'il existe, sinon la base intégrée")
+        ->type_name("FICHIER");
+    app.add_flag("--globale", options.globale,
+                 "Base intégrée : avec les tirages de l'ancien jeu, depuis 1976")
+        ->disable_flag_override();
+    AjouterBorne(app, "--de", options.de, "Premier tirage de l'intervalle ; par défaut 1");
+    AjouterBorne(app, "--a", options.a, "Dernier tirage de l'intervalle ; par défaut le dernier");
+}
+
+/// The innermost command that the line names.
+const CLI::App& CommandeNommee(const CLI::App& racine) {
+    const CLI::App* app = &racine;
+    while (!app->get_subcommands().empty()) app = app->get_subcommands().front();
+    return *app;
+}
+
+/// What is wrong with the line, in French: the parser's own sentences are not shown.
+std::string RaisonUsage(const CLI::App& racine, const CLI::ParseError& erreur) {
+    const auto restants = racine.remaining(true);
+    if (!restants.empty()) {
+        const std::string& mot = restants.front();
+        const std::string option = mot.substr(0, mot.find('='));
+        if (option.starts_with("--") && racine.get_option_no_throw(option) != nullptr)
+            return fmt::format("l'option globale {} se place avant la commande", option);
+        return fmt::format("argument inattendu « {} »", mot);
+    }
+    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) return "il manque la commande";
+
+    const std::string_view texte = erreur.what();  // begins with the option's name
+    const std::string_view nom = texte.substr(0, texte.find_first_of(": "));
+    if (dynamic_cast<const CLI::ValidationError*>(&erreur) != nullptr)
+        return fmt::format("option {} :{}", nom,
+                           texte.substr(std::min(nom.size() + 1, texte.size())));
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
+        return fmt::format("option {} : nombre de valeurs incorrect", nom);
+    return fmt::format("option {} mal employée", nom);
+}
+
+int Refuser(std::ostream& err, std::string_view phrase) {
+    fmt::print(err, "{}\n", phrase);
+    return StatutRefus;
+}
+
+int ExecuterCommande(Commande& commande, const Contexte& contexte, std::ostream& out,
+                     std::ostream& err) {
+    std::ostringstream tampon;  // nothing reaches the output of a command that fails half-way
+    const auto fait = commande.executer(contexte, tampon);
+    if (!fait) return Refuser(err, fait.erreur());
+    out << std::move(tampon).str() << std::flush;
+    if (!out) return Refuser(err, "Les résultats n'ont pas pu être écrits sur la sortie standard.");
+    return StatutFait;
+}
+
+int Analyser(std::span<const std::string> args, std::ostream& out, std::ostream& err,
+             const std::filesystem::path& repertoire) {
+    CLI::App racine{"Les calculs de Norvane en ligne de commande, sur la base des tirages du Loto.",
+                    NomProgramme};
+    Contexte contexte{{}, repertoire};
+    racine.formatter(std::make_shared<Aide>());
+    racine.require_subcommand(1);
+    DeclarerOptions(racine, contexte.options);
+    const auto commandes = DeclarerCommandes(racine);
+
+    try {
+        racine.parse(std::vector<std::string>(args.rbegin(), args.rend()));
+    } catch (const CLI::CallForHelp&) {
+        out << CommandeNommee(racine).help();
+        return StatutFait;
+    } catch (const CLI::CallForVersion& version) {
+        out << version.what() << '\n';
+        return StatutFait;
+    } catch (const CLI::ParseError& erreur) {
+        fmt::print(err, "{} : {}\n{}\n", NomProgramme, RaisonUsage(racine, erreur),
+                   LigneUsage(CommandeNommee(racine)));
+        return StatutUsage;
+    }
+    const auto choisie = std::find_if(commandes.begin(), commandes.end(),
+                                      [](const auto& commande) { return commande->choisie(); });
+    return ExecuterCommande(**choisie, contexte, out, err);
+}
+
+}  // namespace
+
+int Executer(std::span<const std::string> args, std::ostream& out, std::ostream& err,
+             const std::filesystem::path& repertoire) {
+    try {
+        return Analyser(args, out, err, repertoire);
+    } catch (const std::exception& erreur) {
+        return Refuser(err, fmt::format("Arrêt sur une erreur interne : {}.", erreur.what()));
+    }
+}
+
+}  // namespace norvane

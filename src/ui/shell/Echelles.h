@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// How large things are on this screen.
+#pragma once
+
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+namespace norvane::ui {
+
+/// The factors of the design made for a screen of 800 x 600.
+struct Echelles {
+    double Echelle;         ///< screen height / 600
+    double EchelleLargeur;  ///< screen width / 800
+
+    static Echelles de(QSize ecran);
+    /// The window opens maximised on a screen of the design's own proportions.
+    bool maximisee() const;
+};
+
+/// Place of the main window: the one kept as "x,y,largeur,hauteur" when it makes sense on a screen
+/// with this available area, else nearly all of that area (all of it on a small screen).
+QRect geometrieFenetre(const QString& gardee, QRect disponible);
+
+/// The text kept for a place.
+QString texteGeometrie(QRect place);
+
+}  // namespace norvane::ui

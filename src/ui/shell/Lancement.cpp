@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "shell/Lancement.h"
+
+#include <filesystem>
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "dialogs/Splash.h"
+#include "shell/Theme.h"
+#include "shell/VaroMain.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An exception that reaches the message loop is told; the program goes on.
+class Application final : public QApplication {
+ public:
+    Application(int& argc, char** argv, Messages& messages)
+        : QApplication(argc, argv), messages_(messages) {}
+
+    bool notify(QObject* cible, QEvent* evenement) override {
+        try {
+            return QApplication::notify(cible, evenement);
+        } catch (const std::exception& e) {
+            messages_.MessageErreur(u"Une erreur inattendue a interrompu la dernière commande."_s,
+                                    u"Erreur"_s, QString::fromLocal8Bit(e.what()));
+        }
+        return false;
+    }
+
+ private:
+    Messages& messages_;
+};
+
+/// The toolkit's own texts (dialogs, calendars, print options) in French too.
+void franciser(QApplication& app) {
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    auto* traduction = new QTranslator(&app);
+    if (traduction->load(u"qtbase_fr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(traduction);
+    }
+}
+
+}  // namespace
+
+int Lancer(int argc, char** argv, const std::function<void()>& premierePeinture) {
+    Instance instance{NomInstance};
+    if (!instance.seule()) return 0;
+    std::error_code perdu;
+    const std::filesystem::path repertoire = std::filesystem::current_path(perdu);
+
+    Services services = Services::reels();
+    Application app(argc, argv, *services.messages);
+    QCoreApplication::setApplicationName(u"norvane"_s);
+    QGuiApplication::setApplicationDisplayName(u"Norvane"_s);
+    QGuiApplication::setDesktopFileName(u"norvane"_s);
+    QCoreApplication::setApplicationVersion(QLatin1StringView(NORVANE_VERSION));
+    franciser(app);
+    TSplash splash;
+    splash.show();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+
+    Atelier atelier(repertoire);
+    appliquerTheme(app, apparenceDe(atelier.configuration.reglages.Apparence));
+    TVaroMainForm form(atelier, services, &instance);
+    QObject::connect(&form, &TVaroMainForm::premierePeinture, &form, [&] {
+        splash.hide();
+        if (premierePeinture) premierePeinture();
+    });
+    form.montrer();
+    QApplication::exec();
+    return 0;
+}
+
+}  // namespace norvane::ui

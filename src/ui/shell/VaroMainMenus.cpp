@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The menu row of the main window.
+
+#include <array>
+#include <QActionGroup>
+#include <QApplication>
+#include <QMenuBar>
+#include <QTabWidget>
+
+#include "dialogs/AboutBox.h"
+#include "shell/Aide.h"
+#include "shell/Theme.h"
+#include "shell/VaroMain.h"
+#include "widgets/EtiquetteMode.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct ChoixApparence {
+    const char16_t* cle;
+    const char16_t* texte;
+    Apparence apparence;
+};
+constexpr std::array<ChoixApparence, 3> Apparences = {{
+    {u"auto", u"Comme le &bureau", Apparence::Auto},
+    {u"claire", u"&Claire", Apparence::Claire},
+    {u"sombre", u"&Sombre", Apparence::Sombre},
+}};
+
+}  // namespace
+
+Apparence apparenceDe(const std::string& cle) {
+    for (const auto& choix : Apparences) {
+        if (versQt(cle) == QString::fromUtf16(choix.cle)) return choix.apparence;
+    }
+    return Apparence::Auto;
+}
+
+void TVaroMainForm::creerMenus() {
+    auto* fichier = menuBar()->addMenu(u"&Fichier"_s);
+    auto* quitter = fichier->addAction(u"&Quitter"_s, this, &TVaroMainForm::ExitClick);
+    quitter->setObjectName(u"Exit"_s);
+    quitter->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quitter->setStatusTip(u"Quitter l'application"_s);
+
+    auto* affichage = menuBar()->addMenu(u"Affic&hage"_s);
+    for (int i = 0; i < pages_->count(); ++i) {
+        auto* page = affichage->addAction(pages_->tabText(i), this,
+                                          [this, i] { pages_->setCurrentIndex(i); });
+        page->setShortcut(QKeySequence(static_cast<int>(Qt::CTRL) | (Qt::Key_0 + (i + 1) % 10)));
+    }
+    affichage->addSeparator();
+    auto* apparence = affichage->addMenu(u"&Apparence"_s);
+    auto* groupe = new QActionGroup(this);
+    for (const auto& choix : Apparences) {
+        const QString cle = QString::fromUtf16(choix.cle);
+        auto* action = apparence->addAction(QString::fromUtf16(choix.texte), this,
+                                            [this, cle] { changerApparence(cle); });
+        action->setObjectName(u"Apparence_"_s + cle);
+        action->setCheckable(true);
+        action->setChecked(cle.toStdString() == contexte_.atelier.configuration.reglages.Apparence);
+        groupe->addAction(action);
+    }
+
+    auto* aide = menuBar()->addMenu(u"&?"_s);
+    auto* ouvrir = aide->addAction(u"&Aide de Norvane"_s, this, [this] { aide_->ouvrir(); });
+    ouvrir->setObjectName(u"ActionAide"_s);
+    ouvrir->setShortcut(QKeySequence(Qt::Key_F1));
+    aide->addAction(u"À &propos de Norvane..."_s, this, [this] { aPropos_->show(); });
+
+    mode_ = new EtiquetteMode(menuBar());
+    mode_->setMinimumWidth(mode_->fontMetrics().horizontalAdvance(u"Mode Consultation"_s) +
+                           8 * Unite);
+    menuBar()->setCornerWidget(mode_, Qt::TopRightCorner);
+}
+
+void TVaroMainForm::changerApparence(const QString& cle) {
+    auto& configuration = contexte_.atelier.configuration;
+    configuration.reglages.Apparence = cle.toStdString();
+    appliquerTheme(*qApp, apparenceDe(configuration.reglages.Apparence));
+    const auto ecrit =
+        configuration.ecrire("CONFIGURATION", "Apparence", configuration.reglages.Apparence);
+    if (!ecrit) {
+        contexte_.services.messages->MessageErreur(u"L'apparence choisie ne sera pas gardée."_s,
+                                                   u"Erreur"_s, versQt(ecrit.erreur()));
+    }
+}
+
+}  // namespace norvane::ui

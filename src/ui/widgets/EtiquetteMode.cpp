@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/EtiquetteMode.h"
+
+#include <QPainter>
+
+#include "shell/Theme.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+EtiquetteMode::EtiquetteMode(QWidget* parent) : QLabel(parent) {
+    setObjectName(u"LabelMode"_s);
+    setAlignment(Qt::AlignCenter);
+    setContentsMargins(2 * Unite, 0, 2 * Unite, 0);
+    Timer2.setObjectName(u"Timer2"_s);
+    Timer2.setParent(this);
+    Timer2.setInterval(500);
+    connect(&Timer2, &QTimer::timeout, this, &EtiquetteMode::battre);
+}
+
+void EtiquetteMode::montrer(const QString& mode) {
+    setText(mode);
+    setAccessibleName(mode);
+    battements_ = 0;
+    alerte_ = false;
+    Timer2.start();
+    update();
+}
+
+void EtiquetteMode::battre() {
+    alerte_ = !alerte_;
+    if (++battements_ == 5) {
+        Timer2.stop();
+        alerte_ = false;
+    }
+    update();
+}
+
+void EtiquetteMode::paintEvent(QPaintEvent*) {
+    const Teintes t = teintes(palette());
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const QColor couleur = alerte_ ? t.alerte : t.accent;
+    QRectF pastille = QRectF(rect()).adjusted(Unite, 3.5, -Unite, -3.5);
+    QColor fond = couleur;
+    fond.setAlpha(28);
+    peintre.setBrush(fond);
+    peintre.setPen(QPen(couleur, 1));
+    peintre.drawRoundedRect(pastille, pastille.height() / 2, pastille.height() / 2);
+    peintre.setPen(couleur);
+    peintre.drawText(pastille, Qt::AlignCenter, text());
+}
+
+}  // namespace norvane::ui
