@@ -120,9 +120,7 @@ BandeTirage::BandeTirage(double echelle, QWidget* parent) : QWidget(parent), ech
 
 void BandeTirage::disposer(bool avecChance) {
     avecChance_ = avecChance;
-    const auto px = [this](int longueur) {
-        return static_cast<int>(longueur * echelle_ + 0.5);
-    };
+    const auto px = [this](int longueur) { return static_cast<int>(longueur * echelle_ + 0.5); };
     const auto& gauches = avecChance ? GauchesEtroites : GauchesLarges;
     const int largeur = px(avecChance ? LargeurEtroite : LargeurLarge);
     for (std::size_t i = 0; i < NbBoules; ++i) {

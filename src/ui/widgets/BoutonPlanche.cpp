@@ -118,13 +118,24 @@ void BoutonPlanche::paintEvent(QPaintEvent*) {
 
 void BoutonPlanche::keyPressEvent(QKeyEvent* evenement) {
     switch (evenement->key()) {
-        case Qt::Key_Left: Q_EMIT fleche(-1, 0); return;
-        case Qt::Key_Right: Q_EMIT fleche(1, 0); return;
-        case Qt::Key_Up: Q_EMIT fleche(0, -1); return;
-        case Qt::Key_Down: Q_EMIT fleche(0, 1); return;
+        case Qt::Key_Left:
+            Q_EMIT fleche(-1, 0);
+            return;
+        case Qt::Key_Right:
+            Q_EMIT fleche(1, 0);
+            return;
+        case Qt::Key_Up:
+            Q_EMIT fleche(0, -1);
+            return;
+        case Qt::Key_Down:
+            Q_EMIT fleche(0, 1);
+            return;
         case Qt::Key_Return:
-        case Qt::Key_Enter: click(); return;
-        default: QAbstractButton::keyPressEvent(evenement);
+        case Qt::Key_Enter:
+            click();
+            return;
+        default:
+            QAbstractButton::keyPressEvent(evenement);
     }
 }
 

@@ -25,13 +25,26 @@ ChampNumero::ChampNumero(const QString& nom, QWidget* parent) : QLineEdit(parent
 
 void ChampNumero::keyPressEvent(QKeyEvent* evenement) {
     switch (evenement->key()) {
-        case Qt::Key_Up: Q_EMIT deplacement(1); return;
-        case Qt::Key_Down: Q_EMIT deplacement(-1); return;
-        case Qt::Key_PageUp: Q_EMIT deplacement(PasDePage); return;
-        case Qt::Key_PageDown: Q_EMIT deplacement(-PasDePage); return;
-        case Qt::Key_Home: Q_EMIT extremite(false); return;
-        case Qt::Key_End: Q_EMIT extremite(true); return;
-        default: QLineEdit::keyPressEvent(evenement);
+        case Qt::Key_Up:
+            Q_EMIT deplacement(1);
+            return;
+        case Qt::Key_Down:
+            Q_EMIT deplacement(-1);
+            return;
+        case Qt::Key_PageUp:
+            Q_EMIT deplacement(PasDePage);
+            return;
+        case Qt::Key_PageDown:
+            Q_EMIT deplacement(-PasDePage);
+            return;
+        case Qt::Key_Home:
+            Q_EMIT extremite(false);
+            return;
+        case Qt::Key_End:
+            Q_EMIT extremite(true);
+            return;
+        default:
+            QLineEdit::keyPressEvent(evenement);
     }
 }
 

@@ -32,7 +32,9 @@ Case caseDe(int place) {
     return {ColonnesNumeros + k % ColonnesChances, k / ColonnesChances};
 }
 
-std::size_t rang(int place) { return static_cast<std::size_t>(place); }
+std::size_t rang(int place) {
+    return static_cast<std::size_t>(place);
+}
 
 /// Walks two ascending lists (zeros left out) and calls `eteindre` on what is in the old one only,
 /// `allumer` on what is in the new one only.

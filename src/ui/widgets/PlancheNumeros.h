@@ -78,7 +78,7 @@ class PlancheNumeros final : public QFrame {
     std::array<std::uint8_t, NbBoutons> durable_{};
     std::vector<int> ordre_;  // places held down, oldest first
     Eclairage affiche_{};
-    int courant_ = 0;             // the one button in the tab order
+    int courant_ = 0;  // the one button in the tab order
     QRectF titreNumeros_, titreChances_;
 };
 
