@@ -63,6 +63,7 @@ int Lancer(int argc, char** argv, const std::function<void()>& premierePeinture)
     QGuiApplication::setDesktopFileName(u"norvane"_s);
     QCoreApplication::setApplicationVersion(QLatin1StringView(NORVANE_VERSION));
     franciser(app);
+    chargerRessources();
     TSplash splash;
     splash.show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

@@ -14,6 +14,9 @@
 #include <QStyleFactory>
 #include <QToolTip>
 
+// The macro must stand outside of every namespace.
+static void initRessources() { Q_INIT_RESOURCE(norvane); }
+
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
@@ -132,6 +135,8 @@ QFont police() {
 }
 
 }  // namespace
+
+void chargerRessources() { initRessources(); }
 
 bool estSombre(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;

@@ -15,6 +15,10 @@ namespace norvane::ui {
 
 enum class Apparence { Auto, Claire, Sombre };
 
+/// Makes the pictures that are part of the program known; they stand in a library of ours, which a
+/// linker would otherwise leave out.
+void chargerRessources();
+
 /// Sets style, palette, fonts and style sheet of the whole application. `Auto` follows the desktop.
 void appliquerTheme(QApplication& app, Apparence apparence);
 

@@ -167,8 +167,8 @@ void TVaroMainForm::creerEtat() {
 }
 
 void TVaroMainForm::montrer() {
-    const QRect place = geometrieFenetre(contexte_.atelier.configuration.reglages.Fenetre,
-                                         screen()->availableGeometry());
+    const QRect place = geometrieFenetre(
+        versQt(contexte_.atelier.configuration.reglages.Fenetre), screen()->availableGeometry());
     setGeometry(place);
     if (Echelles{contexte_.Echelle, contexte_.EchelleLargeur}.maximisee()) {
         showMaximized();
@@ -316,9 +316,10 @@ bool TVaroMainForm::event(QEvent* evenement) {
         return true;
     }
     const bool traite = QMainWindow::event(evenement);
-    if (!peinte_ && evenement->type() == QEvent::UpdateRequest && isVisible()) {
+    if (!peinte_ && evenement->type() == QEvent::Paint) {
         peinte_ = true;
-        Q_EMIT premierePeinture();
+        // Back in the loop, the whole window has been painted and flushed.
+        QTimer::singleShot(0, this, &TVaroMainForm::premierePeinture);
     }
     return traite;
 }
