@@ -28,7 +28,7 @@ template <std::size_t N, typename Elements>
 void Lister(const Base& base, Plage plage, Elements elements,
             const std::array<std::int16_t, N>& sorties, std::array<ListeOccurrences, N>& listes) {
     for (std::size_t k = 0; k < N; ++k) {
-        listes[k] = {};
+        listes[k] = ListeOccurrences();
         // Read without the sign: the count of an item in more than 32767 records still fits.
         listes[k].reserve(static_cast<std::uint16_t>(sorties[k]));
     }

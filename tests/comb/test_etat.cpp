@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "comb/EtatCombinaisons.h"
+#include "DossierTemporaire.h"
+
+namespace norvane {
+namespace {
+
+constexpr int NbTirages = 2005;
+
+std::string Lignes(int nombre, const std::string& ligne) {
+    std::string texte;
+    for (int i = 0; i < nombre; ++i) texte += ligne;
+    return texte;
+}
+
+/// The nine lines of a state as text.
+std::string Texte(const EtatCombinaisons& etat) {
+    std::string texte;
+    for (std::size_t n = TailleCombMin; n <= TailleCombMax; ++n)
+        texte += std::to_string(etat.NbTiragesComb[n]) + ' ' + std::to_string(etat.BorneInf[n]) +
+                 ' ' + std::to_string(etat.BorneSup[n]) + '\n';
+    return texte;
+}
+
+const std::string Complet =
+    "2000 12 46\n2000 0 12\n2000 0 4\n2000 0 2\n2000 0 1\n2000 0 1\n0 0 1\n2000 0 1\n2000 0 1\n";
+const std::string CompletLu =
+    "2000 12 46\n2000 0 12\n2000 0 4\n2000 0 2\n2005 0 1\n2005 0 1\n2005 0 1\n2005 0 1\n2005 0 1\n";
+const std::string Zero = "0 0 0\n";
+
+TEST(EtatCombinaisons, WhatAFileIsReadAs) {
+    struct {
+        const char* nom;
+        std::string fichier, lu;
+    } const cas[] = {
+        {"complete", Complet, CompletLu},
+        {"last line end missing", Complet.substr(0, Complet.size() - 1), CompletLu},
+        {"CRLF, BOM, more blanks", "\xEF\xBB\xBF  2000  12\t46 \r\n1 2 3\r\n\r\n",
+         "2000 12 46\n1 2 3\n" + Lignes(7, Zero)},
+        {"empty", "", Lignes(9, Zero)},
+        {"cut between lines", Complet.substr(0, 11), "2000 12 46\n" + Lignes(8, Zero)},
+        {"cut inside a number", "2000 12 46\n2000 0 1", "2000 12 46\n" + Lignes(8, Zero)},
+        {"cut behind size 6", Lignes(5, "7 1 2\n") + "7 1",
+         Lignes(4, "7 1 2\n") + "2005 1 2\n" + Lignes(4, Zero)},
+        {"neutral", Lignes(9, "0 0 1\n"), Lignes(4, "0 0 1\n") + Lignes(5, "2005 0 1\n")},
+    };
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.nom);
+        const DossierTemporaire dossier;
+        dossier.ecrire(NomCombCalc, c.fichier);
+        const auto etat = LireCombCalc(dossier.chemin(), NbTirages);
+        ASSERT_TRUE(etat) << etat.erreur();
+        EXPECT_EQ(Texte(*etat), c.lu);
+    }
+    const DossierTemporaire vide;
+    EXPECT_EQ(Texte(*LireCombCalc(vide.chemin(), NbTirages)), Lignes(9, Zero));
+}
+
+TEST(EtatCombinaisons, NonsenseIsRefusedWithItsLine) {
+    struct {
+        std::string fichier;
+        int ligne;
+    } const cas[] = {{"deux 12 46\n", 1},
+                     {"1 2 3\n1 2\n1 2 3\n", 2},
+                     {"1 2 3 4\n", 1},
+                     {"1 2 3\n1 -2 3\n", 2},
+                     {"65536 0 1\n", 1},
+                     {"1 2 99999999999999999999\n", 1},
+                     {"1 2 3\n\n1 2 3\n", 2},
+                     {"1 2 3.5\n", 1},
+                     {Complet + "1 2 3\n", 10},
+                     {std::string("1 2 3\n1\0 2 3\n", 13), 2},
+                     {"1,2,3\n", 1}};
+    for (const auto& c : cas) {
+        const DossierTemporaire dossier;
+        dossier.ecrire(NomCombCalc, c.fichier);
+        const auto etat = LireCombCalc(dossier.chemin(), NbTirages);
+        ASSERT_FALSE(etat) << c.fichier;
+        EXPECT_EQ(etat.erreur().find("Ligne " + std::to_string(c.ligne) + " du fichier"), 0U)
+            << etat.erreur();
+        EXPECT_EQ(dossier.contenu().at(NomCombCalc), c.fichier);
+    }
+    const DossierTemporaire dossier;
+    dossier.ecrire(NomCombCalc, std::string(1 << 20, '1'));
+    EXPECT_FALSE(LireCombCalc(dossier.chemin(), NbTirages));
+}
+
+TEST(EtatCombinaisons, WrittenAndReadBack) {
+    const DossierTemporaire dossier;
+    dossier.ecrire(NomCombCalc, CompletLu);
+    auto etat = *LireCombCalc(dossier.chemin(), NbTirages);
+    ASSERT_TRUE(EcrireCombCalc(etat, dossier.chemin()));
+    EXPECT_EQ(dossier.contenu().at(NomCombCalc), CompletLu);
+
+    const auto libelles = LibellesBornesTaille(etat, 2, 2000);
+    EXPECT_EQ(libelles.inf, "Borne Inf calculée pour 2000 tirages");
+    EXPECT_EQ(libelles.sup, "Borne Sup calculée pour 2000 tirages");
+    EXPECT_EQ(LibellesBornesTaille(etat, 2, 2005).inf, "Borne Inf en attente de calcul");
+    EXPECT_EQ(LibellesBornesTaille(etat, 2, 2005).sup, "Borne Sup en attente de calcul");
+
+    etat.NbTiragesComb[3] = -10;
+    ASSERT_TRUE(EcrireCombCalc(etat, dossier.chemin()));
+    EXPECT_EQ(LireCombCalc(dossier.chemin(), NbTirages)->NbTiragesComb[3], 0);
+    ASSERT_TRUE(EcrireCombCalcNeutre(dossier.chemin()));
+    EXPECT_EQ(dossier.contenu().at(NomCombCalc), Lignes(9, "0 0 1\n"));
+    EXPECT_FALSE(EcrireCombCalcNeutre(dossier.chemin() / "absent"));
+}
+
+TEST(RestaurerFichiersFiltre, WhatStandsBeforeAndAfter) {
+    using Fichiers = std::map<std::string, std::string>;
+    const Fichiers entiere = {{"COMBCALC.INI", "etat"}, {"comb2.dat", "2"}, {"comb3.dat", "3"},
+                              {"comb4.dat", "4"},       {"comb5.dat", "5"}, {"comb6.dat", "6"}};
+    const Fichiers sauvegardes = {{"Combcalc.~in", "etat"}, {"comb2.~da", "2"}, {"comb3.~da", "3"},
+                                  {"comb4.~da", "4"},       {"comb5.~da", "5"}, {"comb6.dat", "6"}};
+    Fichiers filtree = sauvegardes;
+    filtree.merge(Fichiers{{"COMBCALC.INI", "f"},
+                           {"Combcalc.ini", "f"},
+                           {"comb2.dat", "f"},
+                           {"comb3.dat", "f"},
+                           {"comb4.dat", "f"},
+                           {"comb5.dat", "f"}});
+    struct {
+        const char* nom;
+        Fichiers avant, apres;
+    } const cas[] = {
+        {"filtered files in the way", filtree, entiere},
+        {"nothing computed on the filtered base", sauvegardes, entiere},
+        {"some backups",
+         {{"comb3.~da", "3"}, {"comb3.dat", "f"}, {"comb4.dat", "f"}, {"COMBCALC.INI", "f"}},
+         {{"comb3.dat", "3"}}},
+        {"a backup in capitals",
+         {{"COMBCALC.~IN", "etat"}, {"Combcalc.ini", "f"}},
+         {{"COMBCALC.INI", "etat"}}},
+        {"no backup at all",
+         {{"comb2.dat", "f"}, {"comb7.dat", "7"}, {"Combcalc.ini", "f"}},
+         {{"COMBCALC.INI", Lignes(9, "0 0 1\n")}, {"comb7.dat", "7"}}},
+    };
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.nom);
+        const DossierTemporaire dossier;
+        for (const auto& [nom, contenu] : c.avant) dossier.ecrire(nom, contenu);
+        const auto fait = RestaurerFichiersFiltre(dossier.chemin());
+        ASSERT_TRUE(fait) << fait.erreur();
+        EXPECT_EQ(dossier.contenu(), c.apres);
+    }
+    EXPECT_FALSE(RestaurerFichiersFiltre("/dossier/qui/manque"));
+}
+
+}  // namespace
+}  // namespace norvane
