@@ -95,7 +95,7 @@ QPushButton* bouton(const QString& nom, const QString& libelle, const QString& i
                     QWidget* parent) {
     auto* b = new QPushButton(libelle, parent);
     b->setObjectName(nom);
-    b->setMinimumHeight(b->fontMetrics().height() + 3 * Unite - 2);
+    b->setMinimumSize(b->sizeHint().width() + 4 * Unite, b->fontMetrics().height() + 3 * Unite);
     poserIndice(b, indice);
     return b;
 }
@@ -108,6 +108,7 @@ PageResultats::PageResultats(Contexte& ctx, QWidget* parent) : Page(ctx, parent)
     poserLimites();
     relier();
     majCommandes();
+    majFicheGrille();
 }
 
 void PageResultats::construire() {
@@ -122,7 +123,7 @@ void PageResultats::construire() {
     droite->addWidget(creerFicheGrille(), 1);
     auto* haut = new QHBoxLayout;
     haut->setSpacing(2 * Unite);
-    haut->addLayout(gauche, 17);
+    haut->addLayout(gauche, 19);
     haut->addLayout(droite, 10);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(2 * Unite, 2 * Unite, 2 * Unite, 2 * Unite);
@@ -144,8 +145,12 @@ QFrame* PageResultats::creerFicheTirage() {
     DateTimePicker->setCalendarPopup(true);
     DateTimePicker->setAccessibleName(u"Date du tirage"_s);
     poserIndice(DateTimePicker, u"Sélection de tirages par date"_s);
-    DateTimePicker->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    DateTimePicker->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+    QCalendarWidget* calendrier = DateTimePicker->calendarWidget();
+    calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendrier->setFirstDayOfWeek(Qt::Monday);
+    // Only the days of draws stand out, see marquerCalendrier.
+    calendrier->setWeekdayTextFormat(Qt::Saturday, {});
+    calendrier->setWeekdayTextFormat(Qt::Sunday, {});
     // The longest date keeps the control from moving with each draw.
     DateTimePicker->setMinimumWidth(
         DateTimePicker->fontMetrics().horizontalAdvance(u"mercredi 24 septembre 2024"_s) + 54);
@@ -180,6 +185,7 @@ QFrame* PageResultats::creerFicheTirage() {
     LabelTirageFixeAn->setMinimumWidth(
         LabelTirageFixeAn->fontMetrics().horizontalAdvance(u"0000"_s));
     fiche->pile->addLayout(ligne);
+    fiche->pile->addSpacing(Unite);
 
     bande_ = new BandeTirage(contexte.Echelle, fiche);
     MaskEdit1 = new QLineEdit(fiche);
@@ -260,7 +266,7 @@ QHBoxLayout* PageResultats::creerBoutons() {
     QFont gras = CommunsButton->font();
     gras.setBold(true);
     CommunsButton->setMinimumWidth(QFontMetrics(gras).horizontalAdvance(CommunsButton->text()) +
-                                   8 * Unite);
+                                   6 * Unite);
     ReInit =
         bouton(u"ReInit"_s, u"&Choix libre"_s, u"Sélection libre de numéros à vérifier"_s, this);
     DeSelect = bouton(u"DeSelect"_s, u"&Désélectionner"_s,
@@ -332,6 +338,8 @@ void PageResultats::poserLimites() {
     if (base().NbTirages > 0) fin = std::max(fin, enDate(base().enUsage().back().DateTirage));
     DateTimePicker->setDateRange(enDate(DatePremierTirage), fin);
     surTotal_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(base().NbTirages))));
+    const QCalendarWidget* calendrier = DateTimePicker->calendarWidget();
+    marquerCalendrier(calendrier->yearShown(), calendrier->monthShown());
 }
 
 }  // namespace norvane::ui

@@ -83,7 +83,7 @@ void BoutonPlanche::paintEvent(QPaintEvent*) {
     p.drawRoundedRect(aire, rayon, rayon);
 
     if (enfonce_) {  // the mark of the slip: a frame inside the tile
-        const double trait = std::max(2.0, cote * 0.07);
+        const double trait = std::max(2.0, cote * 0.06);
         const QRectF cadre = aire.adjusted(trait, trait, -trait, -trait);
         p.setBrush(Qt::NoBrush);
         p.setPen(QPen(allume_ ? QColor(Qt::black) : t.accent, trait));

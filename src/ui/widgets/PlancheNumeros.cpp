@@ -4,6 +4,7 @@
 #include "widgets/PlancheNumeros.h"
 
 #include <algorithm>
+#include <QEvent>
 #include <QPainter>
 
 #include "shell/Page.h"
@@ -143,7 +144,7 @@ void PlancheNumeros::placer() {
     const double colonnes = ColonnesNumeros + ColonnesChances + EcartGroupes;
     // Tiles fill the board but never grow far from a square.
     const double w = std::min(large / colonnes, haut / Rangees * 1.5);
-    const double h = std::min(haut / Rangees, w * 1.25);
+    const double h = std::min(haut / Rangees, w * 1.3);
     const double x0 = marge + (large - w * colonnes) / 2;
     const double y0 = marge + titre + (haut - h * Rangees) / 2;
     for (int place = 0; place < NbBoutons; ++place) {

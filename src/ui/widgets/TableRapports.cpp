@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 
 #include "base/Textes.h"
 #include "shell/Page.h"
@@ -25,6 +26,22 @@ constexpr std::array<const char16_t*, NbRangs2nd> Rangs2nd{u"5N", u"4N", u"3N", 
 constexpr int HauteurLigne = 26;   // of the 800 x 600 design
 constexpr int LargeurTable = 300;  // of the same
 
+/// Leaves the cells the margin that the captions above them have.
+class DelegueMarge final : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* peintre, const QStyleOptionViewItem& option,
+               const QModelIndex& place) const override {
+        QStyleOptionViewItem cellule = option;
+        initStyleOption(&cellule, place);
+        const QStyle* style = cellule.widget->style();
+        style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cellule, peintre, cellule.widget);
+        cellule.rect.adjust(Unite / 2, 0, -Unite / 2, 0);
+        style->drawControl(QStyle::CE_ItemViewItem, &cellule, peintre, cellule.widget);
+    }
+};
+
 }  // namespace
 
 TableRapports::TableRapports(const QString& nom, int rangs, double echelle, QWidget* parent)
@@ -43,6 +60,7 @@ TableRapports::TableRapports(const QString& nom, int rangs, double echelle, QWid
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCornerButtonEnabled(false);
+    setItemDelegate(new DelegueMarge(this));
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(0);
     verticalHeader()->setDefaultSectionSize(static_cast<int>(HauteurLigne * echelle + 0.5));
