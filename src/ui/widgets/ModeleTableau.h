@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The model behind a table on show: texts with their raw values, sorted by one or two keys.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QBrush>
+#include <QColor>
+#include <QFont>
+#include <QIcon>
+#include <QString>
+#include <QVariant>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane::ui {
+
+/// Order of two cell texts, -1, 0 or 1.
+using Comparateur = int (*)(std::string_view, std::string_view);
+
+/// One column of a table.
+struct ColonneTableau {
+    QString entete;
+    QString indice;                  ///< hint of the header
+    double largeur = 0;              ///< design units, multiplied by Echelle
+    Comparateur comparer = nullptr;  ///< null: the column cannot be sorted
+    Qt::Alignment alignement = Qt::AlignHCenter;
+    double police = 7.5;    ///< font size in points, multiplied by Echelle
+    bool gras = false;      ///< bold
+    bool position = false;  ///< shows the place of the row in the sort, from 1; needs no texts
+    bool adaptable = true;  ///< may grow beyond `largeur` when `etalon` or the header asks for it
+    QString etalon;         ///< the widest text that the column is made for
+    QIcon image;            ///< drawn in the header instead of its text
+};
+
+/// Colours of a cell that stands out: a vertical gradient and the font on it.
+struct DegradeCellule {
+    QColor haut;
+    QColor bas;
+    QColor texte;
+};
+
+struct CelluleTableau {
+    std::string texte;   ///< UTF-8: what is shown, compared and saved
+    QVariant brut;       ///< the value behind the text
+    QString indice;      ///< tool tip and status tip, may be empty
+    QString accessible;  ///< what a screen reader says instead of `texte`, may be empty
+    int degrade = -1;    ///< index into the table's gradients, -1 for the ordinary colours
+    bool barre = false;  ///< drawn as a bar: `brut` is then an integer of 0..BarreMax
+};
+using LigneTableau = std::vector<CelluleTableau>;  ///< as many cells as there are columns
+
+inline constexpr int BarreMax = 10000;
+
+struct CleTri {
+    int colonne;
+    bool croissant;
+
+    friend bool operator==(const CleTri&, const CleTri&) = default;
+};
+
+class ModeleTableau final : public QAbstractTableModel {
+    Q_OBJECT
+
+ public:
+    static constexpr int RoleBrut = Qt::UserRole + 1;  ///< CelluleTableau::brut
+
+    explicit ModeleTableau(std::vector<ColonneTableau> colonnes, QObject* parent = nullptr);
+
+    const std::vector<ColonneTableau>& colonnes() const { return colonnes_; }
+    void poserDegrades(const std::vector<DegradeCellule>& degrades);
+    void poserPolices(std::vector<QFont> polices);  ///< one a column
+    /// The key that rows given to remplir() already follow.
+    void poserTriDepart(CleTri cle) { depart_ = cle; }
+
+    /// New content in one reset; the sort goes back to its start.
+    void remplir(std::vector<LigneTableau> lignes);
+
+    /// A click on a header: the column becomes the primary key, or turns its direction when it is
+    /// already; with `secondaire` the same for the second key. Columns without comparison do
+    /// nothing.
+    void cliquer(int colonne, bool secondaire);
+    /// Sorts by these keys (at most two); rows that are equal by all keys keep their first order.
+    void trier(std::vector<CleTri> cles);
+    /// The first order again.
+    void retablirOrdre() { trier({depart_}); }
+    const std::vector<CleTri>& cles() const { return cles_; }
+    /// "1▲", "2▼", or nothing.
+    QString marque(int colonne) const;
+
+    /// The index, in the rows given to remplir(), of the row on show at `ligne`.
+    int origine(int ligne) const { return ordre_[static_cast<std::size_t>(ligne)]; }
+    const CelluleTableau& cellule(const QModelIndex& index) const;
+    /// Text on show, place in the sort included.
+    std::string texte(const QModelIndex& index) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+ private:
+    const ColonneTableau& colonne(int c) const { return colonnes_[static_cast<std::size_t>(c)]; }
+    bool triable(int c) const { return colonne(c).comparer != nullptr; }
+
+    std::vector<ColonneTableau> colonnes_;
+    std::vector<QFont> polices_;
+    std::vector<QBrush> fonds_;  // of the gradients
+    std::vector<QBrush> encres_;
+    std::vector<LigneTableau> lignes_;
+    std::vector<int> ordre_;  // row on show -> index in lignes_
+    std::vector<CleTri> cles_;
+    CleTri depart_{1, true};
+};
+
+}  // namespace norvane::ui

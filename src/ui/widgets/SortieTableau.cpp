@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/SortieTableau.h"
+
+#include <algorithm>
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPrinter>
+#include <QTextDocument>
+
+#include "base/Fichiers.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double MargePage = 12.0;  // millimetres
+constexpr double PolicePied = 8.0;  // points
+
+/// Draws page `numero` (from 1) of the document, and its foot.
+void dessinerPage(QPainter& p, const QTextDocument& document, int numero, const QRectF& feuille) {
+    const double hauteur = document.pageSize().height();
+    QAbstractTextDocumentLayout::PaintContext encre;
+    encre.palette.setColor(QPalette::Text, Qt::black);  // paper is white whatever the theme is
+    encre.clip = QRectF(0, (numero - 1) * hauteur, feuille.width(), hauteur);
+    p.save();
+    p.translate(0, -(numero - 1) * hauteur);
+    p.setClipRect(encre.clip);
+    document.documentLayout()->draw(&p, encre);
+    p.restore();
+
+    QFont pied = document.defaultFont();
+    pied.setPointSizeF(PolicePied);
+    p.setFont(QFont(pied, p.device()));
+    p.setPen(Qt::darkGray);
+    p.drawText(feuille, Qt::AlignBottom | Qt::AlignLeft, u"Norvane"_s);
+    p.drawText(feuille, Qt::AlignBottom | Qt::AlignRight,
+               u"Page %1 / %2"_s.arg(numero).arg(document.pageCount()));
+}
+
+bool imprimerHtml(QPrinter& imprimante, const QString& html) {
+    QPainter p;
+    if (!p.begin(&imprimante)) return false;
+    const QRectF feuille(QPointF(0, 0), imprimante.pageRect(QPrinter::DevicePixel).size());
+    QTextDocument document;
+    document.documentLayout()->setPaintDevice(&imprimante);
+    document.setDocumentMargin(0);
+    QFont fonte = QApplication::font();
+    fonte.setPointSizeF(9);
+    document.setDefaultFont(fonte);
+    document.setHtml(html);
+    const double pied = imprimante.logicalDpiY() * (PolicePied * 2 / 72.0);
+    document.setPageSize(QSizeF(feuille.width(), feuille.height() - pied));
+
+    const int total = document.pageCount();
+    const int premiere = std::clamp(std::max(1, imprimante.fromPage()), 1, total);
+    const int derniere =
+        imprimante.toPage() > 0 ? std::clamp(imprimante.toPage(), premiere, total) : total;
+    for (int page = premiere; page <= derniere; ++page) {
+        if (page > premiere && !imprimante.newPage()) return false;
+        dessinerPage(p, document, page, feuille);
+    }
+    return p.end();
+}
+
+}  // namespace
+
+void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
+                   const QString& titre, const QString& nomPropose) {
+    const QString dossier = QFile::decodeName(contexte.atelier.Repertoire.string().c_str());
+    QString filtre;
+    QString chemin = contexte.services.fichiers->enregistrer(
+        parent, titre, dossier + u'/' + nomPropose, u"Format Texte (*.txt);;Format CSV (*.csv)"_s,
+        filtre);
+    if (chemin.isEmpty()) return;
+    const QString suffixe = QFileInfo(chemin).suffix().toLower();
+    bool csv = suffixe == u"csv"_s;
+    if (!csv && suffixe != u"txt"_s) {
+        csv = filtre.contains(u"*.csv"_s);
+        chemin += csv ? u".csv"_s : u".txt"_s;
+        // The dialog asked about the name without its extension only.
+        if (QFileInfo::exists(chemin) &&
+            contexte.services.messages->AvertissementOuiNon(
+                u"Le fichier « %1 » existe déjà."_s.arg(QFileInfo(chemin).fileName()),
+                u"Confirmation"_s, u"Faut-il le remplacer ?"_s) != CodeBouton1) {
+            return;
+        }
+    }
+    const auto ecrit = EcrireFichier(QFile::encodeName(chemin).toStdString(),
+                                     csv ? EnCsv(tableau) : EnTexte(tableau));
+    if (!ecrit) contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
+}
+
+void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
+                     const QString& titre) {
+    QPrinter imprimante(QPrinter::HighResolution);
+    imprimante.setDocName(titre);
+    imprimante.setPageSize(QPageSize(QPageSize::A4));
+    imprimante.setPageMargins(QMarginsF(MargePage, MargePage, MargePage, MargePage),
+                              QPageLayout::Millimeter);
+    if (!contexte.services.imprimantes->choisir(parent, imprimante, titre)) return;
+    if (!imprimerHtml(imprimante, versQt(EnHtml(tableau)))) {
+        contexte.services.messages->MessageErreur(
+            u"L'impression n'a pas pu se faire : vérifiez l'imprimante ou le fichier choisi, puis recommencez."_s,
+            u"Erreur"_s);
+    }
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A table on show: read-only, sorted by header clicks (SHIFT for the second key), with bars,
+// gradients, hints and a balloon. What it holds is told by its columns and rows alone.
+#pragma once
+
+#include <functional>
+#include <QHeaderView>
+#include <QTableView>
+
+#include "widgets/ModeleTableau.h"
+
+namespace norvane::ui {
+
+class Bulle;
+
+/// What a balloon over a cell says; no text, no balloon.
+struct ContenuBulle {
+    QString titre;
+    QString texte;
+};
+
+/// The header: text or image, and below it the mark of the sort keys.
+class EnteteTableau final : public QHeaderView {
+    Q_OBJECT
+
+ public:
+    EnteteTableau(ModeleTableau& modele, QWidget* parent);
+
+    /// A font of its own: the application's style sheet would take setFont back.
+    void poserPolice(const QFont& police);
+    QSize sizeHint() const override;
+
+ Q_SIGNALS:
+    void colonneCliquee(int colonne, bool secondaire);
+
+ protected:
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void paintSection(QPainter* peintre, const QRect& cadre, int colonne) const override;
+
+ private:
+    void peindreMarque(QPainter& p, const QRect& cadre, const QString& marque) const;
+
+    ModeleTableau& modele_;
+    QFont police_;
+    bool secondaire_ = false;  // SHIFT was held at the last release
+};
+
+class VueTableau final : public QTableView {
+    Q_OBJECT
+
+ public:
+    /// `echelle` is the factor of all widths and font sizes of the columns.
+    VueTableau(std::vector<ColonneTableau> colonnes, double echelle, QWidget* parent);
+
+    ModeleTableau& modele() { return *modele_; }
+    const ModeleTableau& modele() const { return *modele_; }
+
+    /// New content. The current cell keeps its place, the sort goes back to its start, the width
+    /// follows the columns.
+    void remplir(std::vector<LigneTableau> lignes);
+
+    void poserBulle(std::function<ContenuBulle(const QModelIndex&)> bulle);
+    void cacherBulle();
+    const Bulle& bulle() const { return *bulle_; }
+
+    /// The width that shows all columns.
+    int largeurEntiere() const;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+ Q_SIGNALS:
+    /// A double click on a cell, or Enter on the current one.
+    void celluleActivee(const QModelIndex& index);
+
+ protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void contextMenuEvent(QContextMenuEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void hideEvent(QHideEvent* evenement) override;
+    bool viewportEvent(QEvent* evenement) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void currentChanged(const QModelIndex& actuel, const QModelIndex& ancien) override;
+
+ private:
+    void poserMesures();
+    void ajusterTaille();
+    void montrerBulle(const QModelIndex& index);
+    void ouvrirMenuTri(int colonne, const QPoint& place);
+    bool defile() const;  // more rows than the height shows
+    int hauteurEntiere() const;
+
+    double echelle_;
+    ModeleTableau* modele_;
+    Bulle* bulle_;
+    std::function<ContenuBulle(const QModelIndex&)> contenuBulle_;
+    QPersistentModelIndex survol_;  // cell that the balloon speaks of
+};
+
+}  // namespace norvane::ui
