@@ -45,6 +45,26 @@ constexpr auto VersionSchema = static_cast<std::int64_t>(Migrations.size());
 using Entiers = std::array<std::int32_t, sizeof(Tirage) / sizeof(std::int32_t)>;
 constexpr int NbEntiers = std::tuple_size_v<Entiers>;
 
+/// A sum over the records in use. SQLite sees a damaged structure but not a damaged value: a file
+/// that lost its last byte, or one with a bit turned, would give another prize without a word.
+std::int64_t somme(const Base& base) {
+    std::uint64_t total = 0xCBF29CE484222325;
+    const auto meler = [&total](std::uint64_t valeur) {
+        total = std::rotl((total ^ valeur) * 0x100000001B3, 23);
+    };
+    for (std::size_t i = 0; i < static_cast<std::size_t>(base.NbTirages); ++i) {
+        for (const std::int32_t valeur : std::bit_cast<Entiers>(base.Tirages[i])) {
+            meler(static_cast<std::uint64_t>(valeur));
+        }
+        for (const Rapport& rapport : base.Rapports[i]) {
+            // SQLite keeps no negative zero: adding zero makes both the same.
+            meler(std::bit_cast<std::uint64_t>(rapport.Gagnants + 0.0));
+            meler(std::bit_cast<std::uint64_t>(rapport.Gain + 0.0));
+        }
+    }
+    return std::bit_cast<std::int64_t>(total);
+}
+
 void migrer(Connexion& connexion, std::int64_t depuis) {
     for (auto i = static_cast<std::size_t>(depuis); i < Migrations.size(); ++i) {
         connexion.executer(Migrations[i]);
@@ -98,10 +118,14 @@ Base lireTout(Connexion& connexion) {
     base.NbTirages = static_cast<std::int32_t>(nombre);
     base.AnciensTirages = lireMeta(connexion, "AnciensTirages") != 0;
     const std::int64_t anciens = lireMeta(connexion, "NbAnciensTirages");
+    // Kept out of range when it is, for the check below to tell.
     base.NbAnciensTirages =
-        static_cast<std::int32_t>(std::clamp<std::int64_t>(anciens, -1, nombre));
+        static_cast<std::int32_t>(std::clamp<std::int64_t>(anciens, -1, nombre + 1));
     if (const std::string defaut = DefautBase(base); !defaut.empty()) {
         throw EchecStockage(Genre::Abime, defaut);
+    }
+    if (lireMeta(connexion, "Somme") != somme(base)) {
+        throw EchecStockage(Genre::Abime, "sa somme de contrôle est fausse");
     }
     // An insertion does not move the count while the flag is set: a fresh load counts anew.
     if (base.AnciensTirages) base.NbAnciensTirages = CompterAnciensTirages(base.Tirages);
@@ -125,10 +149,10 @@ void ecrireTout(Connexion& connexion, const Base& base) {
         }
         requete.suivante();
     }
-    connexion.executer(
-        fmt::format("INSERT OR REPLACE INTO meta VALUES('NbTirages',{}),"
-                    "('NbAnciensTirages',{}),('AnciensTirages',{})",
-                    base.NbTirages, base.NbAnciensTirages, base.AnciensTirages ? 1 : 0));
+    connexion.executer(fmt::format(
+        "INSERT OR REPLACE INTO meta VALUES('NbTirages',{}),"
+        "('NbAnciensTirages',{}),('AnciensTirages',{}),('Somme',{})",
+        base.NbTirages, base.NbAnciensTirages, base.AnciensTirages ? 1 : 0, somme(base)));
 }
 
 /// Opens an existing file; a name that is no plain file, or no file at all, is not ours to touch.

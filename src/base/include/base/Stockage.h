@@ -38,7 +38,10 @@ Resultat<Base> LireStockage(const std::filesystem::path& fichier);
 /// Writes the base in use (NbTirages records) in one transaction; makes the file when missing.
 /// A base with AnciensTirages clear written over a file that holds the old game as well replaces
 /// the records since DateNouveauLoto only: the older ones stay.
-/// A kill at any moment leaves the old or the new base whole.
+/// A kill at any moment leaves the old or the new base whole. A file written by a later version is
+/// refused and left alone; a damaged or foreign one is set aside first, as by ChargerBase. Refused
+/// too: a record that would not be read back (numbers not ascending, wrong order, ...).
+/// Precondition: no filter is active, as the records that it left out would be lost.
 Resultat<Rien> SauverBase(const Base& base, const std::filesystem::path& fichier);
 
 }  // namespace norvane

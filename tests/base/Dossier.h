@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A folder of its own for one test, gone with it, and short ways to fill and read its files.
+#pragma once
+
+#include <stdlib.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane {
+
+class Dossier {
+ public:
+    Dossier() {
+        std::string modele = (std::filesystem::temp_directory_path() / "norvane-XXXXXX").string();
+        chemin_ = ::mkdtemp(modele.data());
+    }
+    ~Dossier() {
+        std::error_code ec;
+        std::filesystem::remove_all(chemin_, ec);
+    }
+    Dossier(const Dossier&) = delete;
+    Dossier& operator=(const Dossier&) = delete;
+
+    const std::filesystem::path& chemin() const { return chemin_; }
+    std::filesystem::path operator/(const char* nom) const { return chemin_ / nom; }
+
+    /// Names of all that the folder holds, in order.
+    std::vector<std::string> noms() const {
+        std::vector<std::string> trouves;
+        for (const auto& entree : std::filesystem::directory_iterator(chemin_)) {
+            trouves.push_back(entree.path().filename().string());
+        }
+        std::sort(trouves.begin(), trouves.end());
+        return trouves;
+    }
+
+ private:
+    std::filesystem::path chemin_;
+};
+
+inline std::string lire(const std::filesystem::path& fichier) {
+    std::ifstream flux(fichier, std::ios::binary);
+    return {std::istreambuf_iterator<char>(flux), {}};
+}
+
+inline void poser(const std::filesystem::path& fichier, std::string_view contenu) {
+    std::ofstream(fichier, std::ios::binary)
+        .write(contenu.data(), static_cast<std::streamsize>(contenu.size()));
+}
+
+}  // namespace norvane

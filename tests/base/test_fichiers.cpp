@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "base/Configuration.h"
+#include "base/Fichiers.h"
+#include "Dossier.h"
+
+namespace norvane {
+namespace {
+
+using Noms = std::vector<std::string>;
+
+TEST(Fichiers, EcritRemplaceEtRelit) {
+    const Dossier dossier;
+    const auto fichier = dossier / "liste.txt";
+    const std::string binaire("a\0b\r\n", 5);
+    ASSERT_TRUE(EcrireFichier(fichier, "premier"));
+    ASSERT_EQ(::chmod(fichier.c_str(), 0640), 0);
+    ASSERT_TRUE(EcrireFichier(fichier, binaire));
+    EXPECT_EQ(*LireFichier(fichier), binaire);
+    struct stat etat {};
+    ASSERT_EQ(::stat(fichier.c_str(), &etat), 0);
+    EXPECT_EQ(etat.st_mode & 07777, 0640U);
+
+    const auto lien = dossier / "lien.txt";
+    std::filesystem::create_symlink("liste.txt", lien);
+    ASSERT_TRUE(EcrireFichier(lien, "par le lien"));
+    EXPECT_TRUE(std::filesystem::is_symlink(lien));
+    EXPECT_EQ(lire(fichier), "par le lien");
+    std::filesystem::create_symlink("absent.txt", dossier / "vers.txt");
+    ASSERT_TRUE(EcrireFichier(dossier / "vers.txt", "neuf"));
+    EXPECT_EQ(lire(dossier / "absent.txt"), "neuf");
+    EXPECT_EQ(dossier.noms(), (Noms{"absent.txt", "lien.txt", "liste.txt", "vers.txt"}));
+    ASSERT_TRUE(EcrireFichier(dossier / std::string(255, 'n').c_str(), "long"));
+}
+
+TEST(Fichiers, RefusLaissentTout) {
+    const Dossier dossier;
+    std::filesystem::create_directory(dossier / "sous");
+    std::filesystem::create_symlink("boucle", dossier / "boucle");
+    poser(dossier / "plat", "x");
+    for (const auto& chemin : {dossier / "sous", dossier / "nulle/part", dossier / "plat/f",
+                               dossier / "boucle", std::filesystem::path("/dev/full")}) {
+        const auto ecrit = EcrireFichier(chemin, "contenu");
+        ASSERT_FALSE(ecrit) << chemin;
+        EXPECT_NE(ecrit.erreur().find(chemin.string()), std::string::npos) << ecrit.erreur();
+        EXPECT_FALSE(LireFichier(chemin) && chemin != "/dev/full") << chemin;
+    }
+    EXPECT_EQ(dossier.noms(), (Noms{"boucle", "plat", "sous"}));
+
+    poser(dossier / "plat", "12345");
+    EXPECT_EQ(*LireFichier(dossier / "plat", 5), "12345");
+    EXPECT_FALSE(LireFichier(dossier / "plat", 4));
+    EXPECT_FALSE(LireFichier("/dev/zero"));
+}
+
+// The disk is full: stood in for by a limit on the size of the files of a child.
+TEST(Fichiers, DisquePleinGardeLAncien) {
+    const Dossier dossier;
+    const auto fichier = dossier / "liste.txt";
+    poser(fichier, "ancien");
+    const pid_t enfant = ::fork();
+    ASSERT_GE(enfant, 0);
+    if (enfant == 0) {
+        ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limite{4096, 4096};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+        ::_exit(EcrireFichier(fichier, std::string(100000, 'x')) ? 1 : 0);
+    }
+    int etat = 0;
+    ASSERT_EQ(::waitpid(enfant, &etat, 0), enfant);
+    EXPECT_EQ(etat, 0);
+    EXPECT_EQ(lire(fichier), "ancien");
+    EXPECT_EQ(dossier.noms(), Noms{"liste.txt"});
+}
+
+TEST(Configuration, LitToutesLesCles) {
+    const Dossier dossier;
+    const auto fichier = dossier / NomConfiguration;
+    const Configuration absente(fichier);
+    EXPECT_TRUE(absente.anomalies.empty());
+    EXPECT_EQ(absente.reglages.Mises, (std::array{2.2, 13.2, 46.2, 123.2, 277.2}));
+
+    poser(fichier,
+          "\xEF\xBB\xBF; à moi\r\n[CONFIGURATION]\r\nDecalageImprimanteBordHaut = -1,5\r\n"
+          "decalageimprimantebordgauche=2.25\r\nApparence=sombre\r\nFenetre=-10,20,800,600\r\n"
+          "[MISES]\r\nmontants=2,5 ; 3;4.75;1 000;5\r\n[MONNAIE]\r\nsymbole=CHF\r\ntaux=6,6\r\n"
+          "[GAINS]\r\nG2=1\r\nG3=2\r\nG4=3\r\nG5=4\r\n[BASE]\r\nAnciensTirages=1\r\n"
+          "[INTERNET]\r\narchive=http://localhost:8080/a.zip\r\njackpot=https://j\r\ndelai=600");
+    const Configuration lue(fichier);
+    EXPECT_EQ(lue.anomalies, Noms{});
+    const Reglages& r = lue.reglages;
+    EXPECT_EQ(r.DecalageImprimanteBordHaut, -1.5);
+    EXPECT_EQ(r.DecalageImprimanteBordGauche, 2.25);
+    EXPECT_EQ(r.Apparence, "sombre");
+    EXPECT_EQ(r.Fenetre, "-10,20,800,600");
+    EXPECT_EQ(r.Mises, (std::array{2.5, 3.0, 4.75, 1000.0, 5.0}));
+    EXPECT_EQ(r.SymboleMonnaie, "CHF");
+    EXPECT_EQ(r.TauxConversion, 6.6);
+    EXPECT_EQ(r.GainsNominaux, (std::array{1.0, 2.0, 3.0, 4.0}));
+    EXPECT_TRUE(r.AnciensTirages);
+    EXPECT_EQ(r.Archive, "http://localhost:8080/a.zip");
+    EXPECT_EQ(r.Jackpot, "https://j");
+    EXPECT_EQ(r.DelaiSecondes, 600);
+}
+
+TEST(Configuration, NonSensPrendLeDefautEtSeNomme) {
+    const Dossier dossier;
+    const auto fichier = dossier / NomConfiguration;
+    const std::string texte =
+        "[CONFIGURATION]\nDecalageImprimanteBordHaut=51\nApparence=rose\nFenetre=1,2,3\n"
+        "n'importe quoi\n[MISES]\nmontants=1;2;trois;4;5\n[MONNAIE]\nsymbole=\n"
+        "taux=beaucoup\n[GAINS]\nG2=nan\nG3=-1\n[BASE]\nAnciensTirages=oui\n[INTERNET]\n"
+        "archive=ftp://x\ndelai=0\n[brisee\ntaux=3\n=vide\n";
+    poser(fichier, texte);
+    const Configuration lue(fichier);
+    EXPECT_EQ(lue.anomalies,
+              (Noms{"ligne 5 : « n'importe quoi » n'est ni une section, ni une clé, ni un "
+                    "commentaire",
+                    "ligne 19 : « [brisee » n'est ni une section, ni une clé, ni un commentaire",
+                    "ligne 21 : « =vide » n'est ni une section, ni une clé, ni un commentaire",
+                    "[CONFIGURATION] DecalageImprimanteBordHaut : « 51 » n'est pas entre -50 et 50",
+                    "[CONFIGURATION] Apparence : « rose » n'est ni auto, ni claire, ni sombre",
+                    "[CONFIGURATION] Fenetre : « 1,2,3 » n'a pas 4 valeurs",
+                    "[MISES] montants : « 1;2;trois;4;5 » n'est pas un nombre",
+                    "[MONNAIE] symbole : «  » n'est pas un symbole d'un à seize octets",
+                    "[MONNAIE] taux : « beaucoup » n'est pas un nombre",
+                    "[GAINS] G2 : « nan » n'est pas un nombre",
+                    "[GAINS] G3 : « -1 » n'est pas entre 0 et 1000000000",
+                    "[BASE] AnciensTirages : « oui » n'est ni 0 ni 1",
+                    "[INTERNET] archive : « ftp://x » n'est pas une adresse https",
+                    "[INTERNET] delai : « 0 » n'est pas entre 1 et 600"}));
+    const Reglages defauts;
+    EXPECT_EQ(lue.reglages.Mises, defauts.Mises);
+    EXPECT_EQ(lue.reglages.TauxConversion, defauts.TauxConversion);
+    EXPECT_EQ(lue.reglages.Fenetre, "");
+    EXPECT_EQ(lue.reglages.Archive, defauts.Archive);
+    EXPECT_EQ(lire(fichier), texte);
+}
+
+TEST(Configuration, EcritureGardeLeReste) {
+    const Dossier dossier;
+    const auto fichier = dossier / NomConfiguration;
+    Configuration configuration(fichier);
+    ASSERT_TRUE(configuration.ecrire("BASE", "AnciensTirages", "1"));
+    EXPECT_TRUE(configuration.reglages.AnciensTirages);
+    EXPECT_EQ(lire(fichier), "[BASE]\nAnciensTirages=1\n");
+
+    struct Cas {
+        const char *avant, *apres;
+    };
+    for (const Cas& c : {
+             Cas{"; a\r\n[monnaie]\r\n TAUX = 3 \r\nx=1\r\n\r\n# b\r\n[autre]\r\ntaux=9",
+                 "; a\r\n[monnaie]\r\ntaux=6.6\r\nx=1\r\n\r\n# b\r\n[autre]\r\ntaux=9\r\n"},
+             Cas{"[MONNAIE]\nfutur=oui\n\n\n[X]\ny=z\n",
+                 "[MONNAIE]\nfutur=oui\ntaux=6.6\n\n\n[X]\ny=z\n"},
+             Cas{"\xEF\xBB\xBF[MONNAIE]\ntaux=1\ntaux=2\nbidon\n[MONNAIE\ntaux=4\n",
+                 "\xEF\xBB\xBF[MONNAIE]\ntaux=1\ntaux=6.6\nbidon\n[MONNAIE\ntaux=4\n"},
+             Cas{"; rien\n", "; rien\n\n[MONNAIE]\ntaux=6.6\n"},
+         }) {
+        poser(fichier, c.avant);
+        const auto ecrit = configuration.ecrire("MONNAIE", "taux", "6.6");
+        ASSERT_TRUE(ecrit) << ecrit.erreur();
+        EXPECT_EQ(lire(fichier), c.apres);
+        EXPECT_EQ(Configuration(fichier).reglages.TauxConversion, 6.6);
+    }
+}
+
+TEST(Configuration, EcrituresRefusees) {
+    const Dossier dossier;
+    const auto fichier = dossier / NomConfiguration;
+    poser(fichier, "[MONNAIE]\ntaux=2\n");
+    Configuration configuration(fichier);
+    struct Cas {
+        const char *section, *cle, *valeur;
+    };
+    for (const Cas& c :
+         {Cas{"MONNAIE", "taux", "0"}, Cas{"MONNAIE", "TAUX", "mille"}, Cas{"X", "y", "a\n[BASE]"},
+          Cas{"X", "y", " a"}, Cas{"X", "y=z", "a"}, Cas{"X", ";y", "a"}, Cas{"X", "", "a"},
+          Cas{"X]", "y", "a"}, Cas{"X", "[y", "a"}, Cas{"X\n", "y", "a"}}) {
+        EXPECT_FALSE(configuration.ecrire(c.section, c.cle, c.valeur)) << c.cle << '=' << c.valeur;
+        EXPECT_EQ(lire(fichier), "[MONNAIE]\ntaux=2\n");
+    }
+    EXPECT_EQ(configuration.reglages.TauxConversion, 2.0);
+
+    // What can be no configuration is told once, read as defaults and never written over.
+    for (const std::string& contenu :
+         {std::string("[MONNAIE]\ntaux=3\0\n", 18), std::string("[MONNAIE]\ntaux=\xE9\n"),
+          "[MONNAIE]\ntaux=3\n" + std::string(1 << 20, '#'), std::string("\xC0\xAF"),
+          std::string("\xED\xA0\x80"), std::string("\xF4\x90\x80\x80"), std::string("\xE2\x82")}) {
+        poser(fichier, contenu);
+        Configuration illisible(fichier);
+        EXPECT_EQ(illisible.anomalies.size(), 1U);
+        EXPECT_EQ(illisible.reglages.TauxConversion, 6.55957);
+        EXPECT_FALSE(illisible.ecrire("MONNAIE", "taux", "7"));
+        EXPECT_TRUE(lire(fichier) == contenu);
+    }
+    std::filesystem::remove(fichier);
+    std::filesystem::create_directory(fichier);
+    Configuration dossierNomme(fichier);
+    EXPECT_EQ(dossierNomme.anomalies.size(), 1U);
+    EXPECT_FALSE(dossierNomme.ecrire("MONNAIE", "taux", "7"));
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// fuzz_<name> COUNT [FOLDER]: runs the target on its seeds, on the files of FOLDER, then on
+// COUNT random changes of them, the same ones at every run.
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+
+#include "cible.h"
+
+namespace {
+
+void essayer(const std::string& entree) {
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(entree.data()), entree.size());
+}
+
+std::vector<std::string> lireDossier(const std::filesystem::path& dossier) {
+    std::vector<std::filesystem::path> chemins;
+    if (std::filesystem::is_directory(dossier)) {
+        for (const auto& entree : std::filesystem::directory_iterator(dossier)) {
+            chemins.push_back(entree.path());
+        }
+    }
+    std::ranges::sort(chemins);
+    std::vector<std::string> contenus;
+    for (const auto& chemin : chemins) {
+        std::ifstream flux(chemin, std::ios::binary);
+        contenus.emplace_back(std::istreambuf_iterator<char>(flux),
+                              std::istreambuf_iterator<char>());
+    }
+    return contenus;
+}
+
+/// One to eight changes: bytes, pieces cut out, doubled or taken from another seed.
+std::string changer(std::string entree, const std::string& autre, std::mt19937& alea) {
+    const auto jusqua = [&](std::size_t n) { return n == 0 ? 0 : alea() % (n + 1); };
+    const bool surPlace = alea() % 2 == 0;  // a format of fixed places must keep its length
+    for (std::size_t fois = 1 + alea() % 8; fois > 0; --fois) {
+        const std::size_t place = jusqua(entree.size());
+        const std::size_t longueur = jusqua(std::min<std::size_t>(entree.size() - place, 64));
+        static constexpr std::string_view signes = ";,.-=[]\n\r\0#/09AeN\"\xFF\xC3";
+        switch (surPlace ? 5 : alea() % 6) {
+            case 0:
+                entree.insert(place, 1, static_cast<char>(alea()));
+                break;
+            case 1:
+                entree.insert(place, 1, signes[alea() % signes.size()]);
+                break;
+            case 2:
+                entree.erase(place, longueur);
+                break;
+            case 3:
+                entree.insert(place, entree.substr(place, longueur));
+                break;
+            case 4:
+                entree.insert(place, autre.substr(std::min(place, autre.size()), longueur));
+                break;
+            default:
+                if (place < entree.size()) entree[place] = static_cast<char>(alea());
+        }
+    }
+    if (!surPlace && alea() % 16 == 0) entree.resize(jusqua(entree.size()));
+    return entree;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const unsigned long nombre = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 1000;
+    std::vector<std::string> corpus = graines();
+    if (argc > 2) {
+        for (std::string& contenu : lireDossier(argv[2])) corpus.push_back(std::move(contenu));
+    }
+    for (const std::string& entree : corpus) essayer(entree);
+    std::mt19937 alea(20240724);
+    for (unsigned long i = 0; i < nombre; ++i) {
+        const std::string& entree = corpus[alea() % corpus.size()];
+        essayer(changer(entree, corpus[alea() % corpus.size()], alea));
+    }
+    std::printf("%zu seeds, %lu changes\n", corpus.size(), nombre);
+}
