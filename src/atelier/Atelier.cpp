@@ -41,9 +41,11 @@ Atelier::Atelier(std::filesystem::path repertoire)
     BaseChargee chargee = ChargerBase(Repertoire, configuration.reglages.AnciensTirages);
     base = std::move(chargee.base);
     // A file that stands there unread (made by a newer version, without permission) is not ours to
-    // replace by the built-in draws: it counts as saved until the base changes.
+    // replace by the built-in draws.
     std::error_code ignore;
-    surDisque_ = std::filesystem::exists(Repertoire / NomStockage, ignore);
+    const bool presente = std::filesystem::exists(Repertoire / NomStockage, ignore);
+    surDisque_ = presente;
+    stockageIllisible_ = presente && !chargee.depuisFichier;
     if (!chargee.avertissement.empty()) avertissements.push_back(std::move(chargee.avertissement));
     baseSauvee_ = base;
 
@@ -63,6 +65,11 @@ void Atelier::recalculer() {
 Resultat<Rien> Atelier::sauverBase() {
     if (FiltreActif) return Rien{};  // a sub-series; the whole base is on the disk
     if (surDisque_ && memeContenu(base, baseSauvee_)) return Rien{};
+    if (stockageIllisible_) {
+        return Erreur{
+            "Le fichier norvane.db n'a pas pu être lu au démarrage et ne sera pas remplacé : "
+            "déplacez-le, puis recommencez."};
+    }
     auto resultat = SauverBase(base, Repertoire / NomStockage);
     if (resultat) {
         baseSauvee_ = base;

@@ -44,10 +44,13 @@ double TableMises(int n, int c) {
 Grille FaireGrille(std::span<const int> numeros, std::span<const int> chances, bool option2nd) {
     const int n = static_cast<int>(numeros.size());
     const int c = static_cast<int>(chances.size());
-    const int dixiemes = DixiemesGrilleSimple * c + (option2nd ? DixiemesOption2nd : 0);
+    double mise = TableMises(n, c);
+    if (option2nd && mise != MiseIncomplete && mise != MiseInjouable) {
+        mise = (DixiemesGrilleSimple * c + DixiemesOption2nd) * GrillesSimples(n) / 10.0;
+    }
     Grille grille;
     grille.reserve(numeros.size() + chances.size() + 3);
-    grille.push_back(dixiemes * GrillesSimples(n) / 10.0);
+    grille.push_back(mise);
     grille.push_back(n);
     grille.insert(grille.end(), numeros.begin(), numeros.end());
     grille.push_back(c);

@@ -26,7 +26,9 @@ class TestAtelier : public testing::Test {
         fs::create_directories(dossier);
     }
     void TearDown() override { fs::remove_all(dossier); }
-    void ecrire(const char* nom, const std::string& texte) { std::ofstream(dossier / nom) << texte; }
+    void ecrire(const char* nom, const std::string& texte) {
+        std::ofstream(dossier / nom) << texte;
+    }
 
     fs::path dossier;
 };

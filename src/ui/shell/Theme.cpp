@@ -109,6 +109,10 @@ QMenuBar::item:selected { background: %alternance; color: %accent; }
 QGroupBox { border: 1px solid %bordure; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;
   background: %carte; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: %discret; }
+QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid %discret; border-radius: 7px;
+  background: %carte; }
+QRadioButton::indicator:hover { border-color: %accent; }
+QRadioButton::indicator:checked { width: 5px; height: 5px; border: 5px solid %accent; border-radius: 7px; }
 QFrame#Carte { background: %carte; border: 1px solid %bordure; border-radius: 8px; }
 QHeaderView::section { background: %alternance; color: %texte; border: 0; border-right: 1px solid %bordure;
   border-bottom: 1px solid %bordure; padding: 4px 6px; font-weight: 600; }

@@ -5,12 +5,12 @@
 // by script and remember what they were asked.
 #pragma once
 
+#include <deque>
+#include <filesystem>
 #include <QDate>
 #include <QList>
 #include <QPrinter>
 #include <QTemporaryDir>
-#include <deque>
-#include <filesystem>
 
 #include "atelier/Atelier.h"
 #include "services/Services.h"

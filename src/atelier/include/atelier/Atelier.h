@@ -48,7 +48,8 @@ struct Atelier {
     void recalculer();
 
     /// Saves the base to norvane.db when it differs from what was loaded or last saved, or when
-    /// there is no such file yet. Does nothing while the base in memory is a filtered one.
+    /// there is no such file yet. Does nothing while the base in memory is a filtered one; refuses
+    /// to replace a file that could not be read at the start.
     Resultat<Rien> sauverBase();
 
     std::filesystem::path fichier(const char* nom) const { return Repertoire / nom; }
@@ -56,6 +57,7 @@ struct Atelier {
  private:
     Base baseSauvee_;  // as on the disk, or built-in
     bool surDisque_ = false;
+    bool stockageIllisible_ = false;  // norvane.db stands there and could not be read
 };
 
 }  // namespace norvane

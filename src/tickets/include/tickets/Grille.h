@@ -27,8 +27,8 @@ inline constexpr double PrixGrilleSimple = 2.2;
 /// counts out of range.
 double TableMises(int n, int c);
 
-/// A ticket of these numbers and chances with its stake; `option2nd` adds 0.8 x C(N,5).
-/// Precondition: TableMises(N, C) is a stake.
+/// A ticket of these numbers and chances with its stake; `option2nd` adds 0.8 x C(N,5) to a stake.
+/// What cannot be played carries MiseIncomplete or MiseInjouable in its place.
 Grille FaireGrille(std::span<const int> numeros, std::span<const int> chances, bool option2nd);
 
 /// The text of a ticket list (*.grl): the count on a line, then one ticket a line, fields behind
