@@ -259,7 +259,6 @@ void PageResultats::terminerConsultation() {
 void PageResultats::deplacerGrille(int numero) {
     if (!contexte.modes.ModeConsultation) return;
     montrerGrille(std::clamp(numero, 1, static_cast<int>(contexte.atelier.ListeGrilles.size())));
-    Edit1->selectAll();
 }
 
 /// Puts a ticket of the list on the board.
