@@ -8,14 +8,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
-#include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <QCoreApplication>
+#include <QTimer>
 #include <vector>
 
 #include "shell/Lancement.h"
@@ -67,15 +67,16 @@ int main(int argc, char** argv) {
         return enfant(seul, argv, std::atoi(argv[2]));
     }
     const int nombre = argc > 1 ? std::max(1, std::atoi(argv[1])) : 11;
-    const auto dossier = std::filesystem::temp_directory_path() /
-                         ("norvane-demarrage-" + std::to_string(getpid()));
+    const auto dossier =
+        std::filesystem::temp_directory_path() / ("norvane-demarrage-" + std::to_string(getpid()));
     std::filesystem::create_directories(dossier);
     std::vector<double> ms;
     for (int i = 0; i < nombre; ++i) {
         const std::int64_t duree = unDemarrage("/proc/self/exe", dossier);
         if (duree < 0) {
-            std::fprintf(stderr, "The window did not show: is there a display, and no other "
-                                 "instance running?\n");
+            std::fprintf(stderr,
+                         "The window did not show: is there a display, and no other "
+                         "instance running?\n");
             std::filesystem::remove_all(dossier);
             return 1;
         }

@@ -19,6 +19,10 @@ namespace fs = std::filesystem;
 namespace {
 
 Resultat<Base> LireBaseFichier(const fs::path& fichier) {
+    std::error_code erreur;
+    if (!fs::exists(fichier, erreur))
+        return Erreur{fmt::format("La base « {} » n'existe pas ou son dossier est inaccessible.",
+                                  fichier.string())};
     if (fichier.extension() == ".db") return LireStockage(fichier);
     if (fichier.extension() != ".csv")
         return Erreur{fmt::format("« {} » n'est pas une base : son nom doit finir par .db ou .csv.",
@@ -31,12 +35,9 @@ Resultat<Base> LireBaseFichier(const fs::path& fichier) {
 }
 
 Resultat<Base> ChoisirBase(const OptionsGlobales& options, const fs::path& repertoire) {
-    fs::path fichier = repertoire / options.base;
-    if (options.base.empty()) {
-        fichier = repertoire / NomStockage;
-        std::error_code erreur;
-        if (!fs::exists(fichier, erreur)) return BaseIntegree(options.globale);
-    }
+    const fs::path fichier = repertoire / options.base.value_or(NomStockage);
+    std::error_code erreur;
+    if (!options.base && !fs::exists(fichier, erreur)) return BaseIntegree(options.globale);
     auto base = LireBaseFichier(fichier);
     if (base && options.globale && !base->AnciensTirages)
         return Erreur{

@@ -14,7 +14,7 @@
 namespace norvane {
 
 struct OptionsGlobales {
-    std::string base;  ///< file name as given, empty when not
+    std::optional<std::string> base;  ///< file name as given
     bool globale = false;
     std::optional<long> de;  ///< one-based draw numbers, unchecked
     std::optional<long> a;

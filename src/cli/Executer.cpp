@@ -85,12 +85,13 @@ std::string RaisonUsage(const CLI::App& racine, const CLI::ParseError& erreur) {
     if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) return "il manque la commande";
 
     const std::string_view texte = erreur.what();  // begins with the option's name
-    const std::string_view nom = texte.substr(0, texte.find_first_of(": "));
+    const std::string nom(texte.substr(0, texte.find_first_of(": ")));
     if (dynamic_cast<const CLI::ValidationError*>(&erreur) != nullptr)
         return fmt::format("option {} :{}", nom,
                            texte.substr(std::min(nom.size() + 1, texte.size())));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
-        return fmt::format("option {} : nombre de valeurs incorrect", nom);
+        return fmt::format("option {}{} : nombre de valeurs incorrect",
+                           nom.starts_with('-') ? "" : "--", nom);
     return fmt::format("option {} mal employée", nom);
 }
 

@@ -28,75 +28,57 @@ inline Presences PresencesChance(const Base& base, int chance) {
     return presences;
 }
 
-/// A longest possible stretch of records f..l that all hold the item, or all lack it.
-struct Segment {
-    bool present;
-    int debut;  // zero-based, inclusive
-    int fin;
-    int longueur() const { return fin - debut + 1; }
+/// The longest possible stretches of records f..l that all hold the item, or all lack it.
+struct Segments {
+    struct Segment {
+        int debut, fin;  // zero-based, inclusive
+        int longueur() const { return fin - debut + 1; }
+    };
+    std::vector<Segment> liste;
+    int total = 0, plusLong = 0, nbPlusLongs = 0;
+    Segment dernierPlusLong{0, -1};
+
+    Segments(const Presences& presences, int f, int l, bool present) {
+        for (int i = f; i <= l; ++i) {
+            if (presences[static_cast<std::size_t>(i)] != present) continue;
+            if (liste.empty() || liste.back().fin != i - 1) liste.push_back({i, i});
+            liste.back().fin = i;
+        }
+        for (const Segment& s : liste)
+            total += s.longueur(), plusLong = std::max(plusLong, s.longueur());
+        for (const Segment& s : liste)
+            if (s.longueur() == plusLong) ++nbPlusLongs, dernierPlusLong = s;
+    }
+    /// Length of the one that is `rang` places before the last; 0 when there is none.
+    int longueur(std::size_t rang) const {
+        return rang < liste.size() ? liste[liste.size() - 1 - rang].longueur() : 0;
+    }
 };
 
-inline std::vector<Segment> Segments(const Presences& presences, int f, int l, bool present) {
-    std::vector<Segment> segments;
-    for (int i = f; i <= l; ++i) {
-        if (presences[static_cast<std::size_t>(i)] != present) continue;
-        if (segments.empty() || segments.back().fin != i - 1) segments.push_back({present, i, i});
-        segments.back().fin = i;
-    }
-    return segments;
-}
-
 inline ResultatStats OracleStats(const Presences& presences, int f, int l) {
-    const auto ecarts = Segments(presences, f, l, false);
-    const auto suites = Segments(presences, f, l, true);
-    const auto mot = [](auto n) { return static_cast<std::uint16_t>(n); };
-    const auto total = [](const auto& segments) {
-        int n = 0;
-        for (const Segment& s : segments) n += s.longueur();
-        return n;
-    };
-    struct Plus {
-        int longueur = 0;
-        std::ptrdiff_t nombre = 0;
-        Segment dernier{};
-    };
-    const auto plusLong = [](const auto& segments) {
-        Plus plus;
-        for (const Segment& s : segments) plus.longueur = std::max(plus.longueur, s.longueur());
-        for (const Segment& s : segments)
-            if (s.longueur() == plus.longueur) ++plus.nombre, plus.dernier = s;
-        return plus;
-    };
-    const bool finitAbsent = !ecarts.empty() && ecarts.back().fin == l;
-    const Plus ecartMax = plusLong(ecarts);
-    const Plus suiteMax = plusLong(suites);
+    const Segments ecarts(presences, f, l, false);
+    const Segments suites(presences, f, l, true);
+    const bool finitPresent = presences[static_cast<std::size_t>(l)];
+    const auto mot = [](int n) { return static_cast<std::uint16_t>(n); };
 
-    ResultatStats r{};
-    r.Sorties = static_cast<std::int16_t>(total(suites));
-    r.SommeEcarts = total(ecarts);
-    r.Ecart = mot(finitAbsent ? ecarts.back().longueur() : 0);
-    r.Suite = mot(finitAbsent ? 0 : suites.back().longueur());
-    r.EcartMax = mot(ecartMax.longueur);
-    r.SuiteMax = mot(suiteMax.longueur);
-    // Where there is no gap or no run at all, the maximum of 0 counts once.
-    r.NbEcartMax = mot(std::max<std::ptrdiff_t>(ecartMax.nombre, 1));
-    r.NbSuiteMax = mot(std::max<std::ptrdiff_t>(suiteMax.nombre, 1));
     // A gap is marked by the draw that ends it, the last gap by the draw before it (which is
     // outside the interval when the item is absent), no gap by the first draw.
-    if (ecarts.empty())
-        r.PosEcartMax = mot(f + 1);
-    else
-        r.PosEcartMax =
-            mot(ecartMax.dernier.fin == l ? ecartMax.dernier.debut : ecartMax.dernier.fin + 2);
-    // A run is marked by its last draw, no run by 0.
-    r.PosSuiteMax = mot(suites.empty() ? 0 : suiteMax.dernier.fin + 1);
-    const std::size_t enCoursEcart = finitAbsent ? 1 : 0;
-    const std::size_t enCoursSuite = finitAbsent ? 0 : 1;
-    if (ecarts.size() > enCoursEcart)
-        r.EcartPrec = mot(ecarts[ecarts.size() - 1 - enCoursEcart].longueur());
-    if (suites.size() > enCoursSuite)
-        r.SuitePrec = mot(suites[suites.size() - 1 - enCoursSuite].longueur());
-    return r;
+    int posEcart = f + 1;
+    if (const auto& s = ecarts.dernierPlusLong; !ecarts.liste.empty())
+        posEcart = s.fin == l ? s.debut : s.fin + 2;
+    // A run is marked by its last draw, no run by 0. A maximum of 0 counts once.
+    return {.Sorties = static_cast<std::int16_t>(suites.total),
+            .Ecart = mot(finitPresent ? 0 : ecarts.longueur(0)),
+            .EcartMax = mot(ecarts.plusLong),
+            .NbEcartMax = mot(std::max(ecarts.nbPlusLongs, 1)),
+            .PosEcartMax = mot(posEcart),
+            .Suite = mot(finitPresent ? suites.longueur(0) : 0),
+            .SuiteMax = mot(suites.plusLong),
+            .NbSuiteMax = mot(std::max(suites.nbPlusLongs, 1)),
+            .PosSuiteMax = mot(suites.dernierPlusLong.fin + 1),
+            .EcartPrec = mot(ecarts.longueur(finitPresent ? 0 : 1)),
+            .SuitePrec = mot(suites.longueur(finitPresent ? 1 : 0)),
+            .SommeEcarts = ecarts.total};
 }
 
 }  // namespace norvane

@@ -46,11 +46,5 @@ TEST(ExportTableau, HtmlEscapesWhatCellsHold) {
         EXPECT_NE(page.find(morceau), page.npos) << morceau << "\nnot in\n" << page;
 }
 
-TEST(ExportTableau, EmptyTable) {
-    const TableauExporte vide{{}, {"Num"}, {}, {}};
-    EXPECT_EQ(EnTexte(vide), "Num\n---\n");
-    EXPECT_EQ(EnCsv(vide), "\xEF\xBB\xBFNum\r\n");
-}
-
 }  // namespace
 }  // namespace norvane

@@ -19,10 +19,6 @@ static void PrintTo(const ResultatStats& r, std::ostream* os) {
         *os << n << ' ';
 }
 
-static void PrintTo(const StatsBreves& r, std::ostream* os) {
-    *os << r.Ecart << ' ' << r.EcartMax << ' ' << r.Suite << ' ' << r.SuiteMax;
-}
-
 namespace {
 
 /// All kernels against the oracle on one interval.

@@ -28,25 +28,19 @@ class Tableau : public testing::Test {
 TEST_F(Tableau, Rows) {
     const auto N = GenreStats::Numeros;
     const auto C = GenreStats::Chances;
-    const char* jour = "mercredi 5 octobre 2022";
-    const auto attendu = [&](const char* debut, const char* fin) {
-        return std::string(debut) + jour + fin;
-    };
     EXPECT_EQ(ligne(N, 7, 0, 3),
-              attendu("7||7|4|100,00% |", "|0|0,00|00  (01 1)|4|04  (01 4)|10000 *"));
+              "7||7|4|100,00% |mercredi 5 octobre 2022|0|0,00|00  (01 1)|4|04  (01 4)|10000 *");
     EXPECT_EQ(ligne(N, 20, 0, 3),
-              attendu("20||20|3|75,00% |", "|0|0,25|01  (01 3)|2|02  (01 4)|7500 *"));
+              "20||20|3|75,00% |mercredi 5 octobre 2022|0|0,25|01  (01 3)|2|02  (01 4)|7500 *");
     EXPECT_EQ(ligne(N, 31, 0, 3),
               "31||31|1|25,00% |lundi 3 octobre 2022|3|1,50|03  (01 1)|0|01  (01 1)|2500");
     EXPECT_EQ(ligne(N, 31, 1, 3),
               "31||31|0|00,00% |Pas encore sorti |3|3,00|03  (01 1)|0|00  (01 0)|0");
-    EXPECT_EQ(ligne(N, 20, 0, 2),
-              attendu("20||20|2|66,67% |", "|0|0,33|01  (01 3)|1|01  (02 3)|6667 *"));
     // Chance 1 shows as present in the last record, which has none, and has not come out in it.
     EXPECT_EQ(ligne(C, 1, 0, 3),
               "1||01|1|25,00% |lundi 3 octobre 2022|3|1,50|03  (01 1)|0|01  (01 1)|2500 *");
     EXPECT_EQ(ligne(C, 3, 2, 2),
-              attendu("3||03|1|100,00% |", "|0|0,00|00  (01 3)|1|01  (01 3)|10000 *"));
+              "3||03|1|100,00% |mercredi 5 octobre 2022|0|0,00|00  (01 3)|1|01  (01 3)|10000 *");
     EXPECT_EQ(RemplirStats(N, base, occ, 0, 3).size(), 49U);
     EXPECT_EQ(RemplirStats(C, base, occ, 0, 3).size(), 10U);
 }

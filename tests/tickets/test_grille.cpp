@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include "DossierTemporaire.h"
+#include "Contenu.h"
 #include "tickets/Grille.h"
 
 namespace norvane {
@@ -16,51 +16,39 @@ TEST(TableMises, TheTicketsSold) {
         {46.2, 92.4, 138.6, 184.8, 231.0, 277.2, 323.4, 369.6},
         {123.2, 246.4, 369.6},
         {277.2}};
-    for (int n = -1; n <= 11; ++n)
-        for (int c = -1; c <= 11; ++c) {
-            SCOPED_TRACE(testing::Message() << n << " + " << c);
-            double attendu = MiseInjouable;
-            if (n >= 0 && n <= 9 && c >= 0 && c <= 10) {
-                if (n < 5 || c == 0)
-                    attendu = MiseIncomplete;
-                else if (const auto& rangee = vendues[static_cast<std::size_t>(n - 5)];
-                         static_cast<std::size_t>(c) <= rangee.size())
-                    attendu = rangee[static_cast<std::size_t>(c - 1)];
-            }
-            EXPECT_EQ(TableMises(n, c), attendu);
+    for (int n = 5; n <= 9; ++n)
+        for (int c = 1; c <= 10; ++c) {
+            const auto& rangee = vendues[static_cast<std::size_t>(n - 5)];
+            const auto rang = static_cast<std::size_t>(c - 1);
+            EXPECT_EQ(TableMises(n, c), rang < rangee.size() ? rangee[rang] : MiseInjouable)
+                << n << " + " << c;
         }
+    for (const auto& [n, c] : {std::pair{0, 0}, {4, 1}, {4, 10}, {0, 7}, {9, 0}})
+        EXPECT_EQ(TableMises(n, c), MiseIncomplete) << n << " + " << c;
+    for (const auto& [n, c] : {std::pair{-1, 1}, {10, 1}, {10, 0}, {5, 11}, {3, 11}, {5, -1}})
+        EXPECT_EQ(TableMises(n, c), MiseInjouable) << n << " + " << c;
 }
 
-TEST(Grille, LaidOutPricedAndWritten) {
-    const int cinq[] = {3, 14, 25, 44, 31};
-    const int six[] = {1, 2, 3, 4, 5, 6};
-    const int sept[] = {7};
-    const int deux[] = {4, 9};
-    const std::vector<Grille> grilles = {FaireGrille(cinq, sept, false),
-                                         FaireGrille(six, deux, true),
-                                         FaireGrille(cinq, sept, true)};
-    EXPECT_EQ(grilles[0], (Grille{2.2, 5, 3, 14, 25, 44, 31, 1, 7}));
+TEST(Grille, PricedAndWritten) {
+    const int cinq[] = {3, 14, 25, 44, 31}, six[] = {1, 2, 3, 4, 5, 6}, une[] = {7},
+              deux[] = {4, 9};
+    const std::vector<Grille> grilles = {
+        FaireGrille(cinq, une, false), FaireGrille(six, deux, true), FaireGrille(cinq, une, true)};
     EXPECT_EQ(grilles[1], (Grille{31.2, 6, 1, 2, 3, 4, 5, 6, 2, 4, 9}));
     const std::string texte =
         "3\n2.2 5 3 14 25 44 31 1 7\n31.2 6 1 2 3 4 5 6 2 4 9\n3 5 3 14 25 44 31 1 7\n";
-    EXPECT_EQ(TexteGrilles(grilles), texte);
-    EXPECT_EQ(TexteGrilles({}), "0\n");
 
-    const DossierTemporaire dossier;
-    for (int fois = 0; fois < 2; ++fois) {
-        ASSERT_TRUE(SauverGrillesSecours(grilles, dossier.chemin()));
-        const auto fichiers = dossier.lire(dossier.chemin() / "Grilles&Reçus" / "Grlbak.grl");
-        EXPECT_EQ(fichiers, texte);
-    }
-}
+    const Dossier dossier;
+    ASSERT_TRUE(SauverGrillesSecours({}, dossier.chemin()));
+    EXPECT_EQ(lire(dossier.chemin() / "Grilles&Reçus/Grlbak.grl"), "0\n");
+    ASSERT_TRUE(SauverGrillesSecours(grilles, dossier.chemin()));
+    EXPECT_EQ(lire(dossier.chemin() / "Grilles&Reçus/Grlbak.grl"), texte);
 
-TEST(Grille, SafetyCopyRefusedWhereNoFolderCanBe) {
-    const DossierTemporaire dossier;
-    dossier.ecrire(DossierGrilles, "un fichier");
-    const auto fait = SauverGrillesSecours({}, dossier.chemin());
+    const Dossier occupe;
+    poser(occupe / DossierGrilles, "un fichier");
+    const auto fait = SauverGrillesSecours(grilles, occupe.chemin());
     ASSERT_FALSE(fait);
     EXPECT_NE(fait.erreur().find(DossierGrilles), std::string::npos) << fait.erreur();
-    EXPECT_EQ(dossier.contenu().at(DossierGrilles), "un fichier");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 //
 // The main form: pages, modes, busy rule, hints, help, and every way of closing.
 
+#include <fstream>
 #include <QAction>
 #include <QLabel>
 #include <QProcess>
@@ -11,7 +12,6 @@
 #include <QStatusTipEvent>
 #include <QTabWidget>
 #include <QTest>
-#include <fstream>
 
 #include "base/Stockage.h"
 #include "shell/Aide.h"
@@ -85,7 +85,8 @@ class TestCoque : public QObject {
         const QString bornes = onglets->widget(3)->findChild<QLabel*>(u"Detail"_s)->text();
         QCOMPARE(bornes.count(u"Borne Inf en attente de calcul"_s), 9);
         // The random example names a number that came out.
-        const QString exemple = f.trouver<QWidget>("Varo6")->findChild<QLabel*>(u"Detail"_s)->text();
+        const QString exemple =
+            f.trouver<QWidget>("Varo6")->findChild<QLabel*>(u"Detail"_s)->text();
         const int numero = exemple.mid(exemple.lastIndexOf(u' ') + 1).toInt();
         QVERIFY(numero >= 1 && numero <= 49);
         QVERIFY(f.posees().isEmpty());
@@ -219,7 +220,8 @@ class TestCoque : public QObject {
         QVERIFY(f.forme.isVisible());
         QCOMPARE(f.posees().last().instruction, u"Abandonner la sélection en cours ?"_s);
         QCOMPARE(f.posees().last().titre, u"Confirmation"_s);
-        for (const char* bouton : {"Button5", "Button49", "Button7", "Button1", "Button12", "Button50"}) {
+        for (const char* bouton :
+             {"Button5", "Button49", "Button7", "Button1", "Button12", "Button50"}) {
             f.trouver<QAbstractButton>(bouton)->click();
         }
         f.forme.close();
@@ -348,23 +350,30 @@ class TestCoque : public QObject {
 
     void geometrie_data() {
         QTest::addColumn<QString>("gardee");
-        QTest::addColumn<QRect>("ecran");
-        QTest::addColumn<QRect>("attendue");
-        const QRect petit(0, 0, 1366, 768);
-        const QRect grand(0, 0, 1920, 1080);
-        QTest::newRow("petit écran") << QString() << petit << petit;
-        QTest::newRow("gardée") << u"10,20,1200,700"_s << grand << QRect(10, 20, 1200, 700);
-        QTest::newRow("hors de l'écran") << u"5000,20,1200,700"_s << petit << petit;
-        QTest::newRow("trop petite") << u"0,0,10,10"_s << petit << petit;
-        QTest::newRow("absurde") << u"a,b,c"_s << petit << petit;
-        QTest::newRow("trop grande") << u"0,0,99999999999,3"_s << petit << petit;
+        QTest::addColumn<bool>("retrouvee");
+        QTest::newRow("rien de gardé") << QString() << false;
+        QTest::newRow("gardée") << u"10,20,1200,700"_s << true;
+        QTest::newRow("hors de l'écran") << u"5000,20,1200,700"_s << false;
+        QTest::newRow("titre hors d'atteinte") << u"10,-300,1200,700"_s << false;
+        QTest::newRow("trop petite") << u"0,0,10,10"_s << false;
+        QTest::newRow("absurde") << u"a,b,c"_s << false;
+        QTest::newRow("trop grande") << u"0,0,99999999999,3"_s << false;
     }
     void geometrie() {
         QFETCH(QString, gardee);
-        QFETCH(QRect, ecran);
-        QFETCH(QRect, attendue);
-        QCOMPARE(geometrieFenetre(gardee, ecran), attendue);
-        QCOMPARE(geometrieFenetre(texteGeometrie(attendue), ecran), attendue);
+        QFETCH(bool, retrouvee);
+        const QRect petit(0, 0, 1366, 768);
+        const QRect grand(0, 0, 1920, 1080);
+        for (const QRect& ecran : {petit, grand}) {
+            const Ouverture o = ouvertureFenetre(gardee, ecran);
+            if (retrouvee) {
+                QCOMPARE(texteGeometrie(o.place), gardee);
+                QVERIFY(!o.maximisee);
+            } else {
+                QVERIFY(ecran.contains(o.place));
+                QCOMPARE(o.maximisee, ecran == petit);
+            }
+        }
     }
 
     void echelles() {
@@ -374,7 +383,8 @@ class TestCoque : public QObject {
     }
 
     void uneSeuleInstance() {
-        const std::string nom = "norvane-essai-" + std::to_string(QCoreApplication::applicationPid());
+        const std::string nom =
+            "norvane-essai-" + std::to_string(QCoreApplication::applicationPid());
         Instance premiere(nom);
         QVERIFY(premiere.seule());
         QVERIFY(!Instance(nom).seule());

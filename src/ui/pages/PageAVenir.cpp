@@ -31,10 +31,10 @@ PageAVenir::PageAVenir(Contexte& ctx, const QString& nom, const QString& titre,
     auto* ligne = new QLabel(promesse, carte);
     ligne->setObjectName(u"Promesse"_s);
     ligne->setWordWrap(true);
-    ligne->setMinimumWidth(contexte.px(420));
+    ligne->setFixedWidth(contexte.px(420));
+    ligne->setMinimumHeight(ligne->heightForWidth(contexte.px(420)));
     detail_ = new QLabel(carte);
     detail_->setObjectName(u"Detail"_s);
-    detail_->setWordWrap(true);
     detail_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     detail_->hide();
     for (QLabel* etiquette : {entete, ligne, detail_}) colonne->addWidget(etiquette);
@@ -47,6 +47,7 @@ PageAVenir::PageAVenir(Contexte& ctx, const QString& nom, const QString& titre,
 
 void PageAVenir::montrerDetail(const QString& detail) {
     detail_->setText(detail);
+    detail_->setMinimumHeight(detail_->sizeHint().height());
     detail_->setVisible(!detail.isEmpty());
 }
 

@@ -17,7 +17,7 @@ bool Echelles::maximisee() const {
     return static_cast<int>((EchelleLargeur - Echelle) * 100) == 0;
 }
 
-QRect geometrieFenetre(const QString& gardee, QRect disponible) {
+Ouverture ouvertureFenetre(const QString& gardee, QRect disponible) {
     const QStringList parts = gardee.split(u',');
     if (parts.size() == 4) {
         int v[4] = {};
@@ -32,13 +32,12 @@ QRect geometrieFenetre(const QString& gardee, QRect disponible) {
         const QRect visible = place.intersected(disponible);
         if (tout && v[2] >= 640 && v[3] >= 400 && visible.width() >= 320 &&
             visible.height() >= 240 && v[1] >= disponible.top()) {
-            return place;
+            return {place, false};
         }
     }
-    if (disponible.width() < 1500 || disponible.height() < 850) return disponible;
     QRect place(QPoint(), disponible.size() * 0.94);
     place.moveCenter(disponible.center());
-    return place;
+    return {place, disponible.width() < 1500 || disponible.height() < 850};
 }
 
 QString texteGeometrie(QRect place) {

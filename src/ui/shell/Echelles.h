@@ -20,9 +20,15 @@ struct Echelles {
     bool maximisee() const;
 };
 
-/// Place of the main window: the one kept as "x,y,largeur,hauteur" when it makes sense on a screen
-/// with this available area, else nearly all of that area (all of it on a small screen).
-QRect geometrieFenetre(const QString& gardee, QRect disponible);
+/// How the main window opens.
+struct Ouverture {
+    QRect place;
+    bool maximisee;
+};
+
+/// The place kept as "x,y,largeur,hauteur" when it makes sense on a screen with this available
+/// area. Without one: nearly all of the area, or maximised where the screen is small.
+Ouverture ouvertureFenetre(const QString& gardee, QRect disponible);
 
 /// The text kept for a place.
 QString texteGeometrie(QRect place);

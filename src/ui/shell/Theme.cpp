@@ -15,7 +15,9 @@
 #include <QToolTip>
 
 // The macro must stand outside of every namespace.
-static void initRessources() { Q_INIT_RESOURCE(norvane); }
+static void initRessources() {
+    Q_INIT_RESOURCE(norvane);
+}
 
 namespace norvane::ui {
 
@@ -107,6 +109,7 @@ QMenuBar::item:selected { background: %alternance; color: %accent; }
 QGroupBox { border: 1px solid %bordure; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;
   background: %carte; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: %discret; }
+QFrame#Carte { background: %carte; border: 1px solid %bordure; border-radius: 8px; }
 QHeaderView::section { background: %alternance; color: %texte; border: 0; border-right: 1px solid %bordure;
   border-bottom: 1px solid %bordure; padding: 4px 6px; font-weight: 600; }
 QTableView { border: 1px solid %bordure; gridline-color: %bordure; }
@@ -136,7 +139,9 @@ QFont police() {
 
 }  // namespace
 
-void chargerRessources() { initRessources(); }
+void chargerRessources() {
+    initRessources();
+}
 
 bool estSombre(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;

@@ -167,10 +167,10 @@ void TVaroMainForm::creerEtat() {
 }
 
 void TVaroMainForm::montrer() {
-    const QRect place = geometrieFenetre(
+    const Ouverture ouverture = ouvertureFenetre(
         versQt(contexte_.atelier.configuration.reglages.Fenetre), screen()->availableGeometry());
-    setGeometry(place);
-    if (Echelles{contexte_.Echelle, contexte_.EchelleLargeur}.maximisee()) {
+    setGeometry(ouverture.place);
+    if (ouverture.maximisee || Echelles{contexte_.Echelle, contexte_.EchelleLargeur}.maximisee()) {
         showMaximized();
     } else {
         show();

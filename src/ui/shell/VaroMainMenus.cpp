@@ -74,8 +74,6 @@ void TVaroMainForm::creerMenus() {
     aide->addAction(u"À &propos de Norvane..."_s, this, [this] { aPropos_->show(); });
 
     mode_ = new EtiquetteMode(menuBar());
-    mode_->setMinimumWidth(mode_->fontMetrics().horizontalAdvance(u"Mode Consultation"_s) +
-                           8 * Unite);
     menuBar()->setCornerWidget(mode_, Qt::TopRightCorner);
 }
 

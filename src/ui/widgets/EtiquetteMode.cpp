@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 EtiquetteMode::EtiquetteMode(QWidget* parent) : QLabel(parent) {
     setObjectName(u"LabelMode"_s);
     setAlignment(Qt::AlignCenter);
-    setContentsMargins(2 * Unite, 0, 2 * Unite, 0);
+    setMinimumSize(fontMetrics().horizontalAdvance(u"Mode Consultation"_s) + 8 * Unite,
+                   fontMetrics().height() + 2 * Unite);
     Timer2.setObjectName(u"Timer2"_s);
     Timer2.setParent(this);
     Timer2.setInterval(500);

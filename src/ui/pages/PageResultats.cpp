@@ -1,0 +1,345 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The controls of the page and where they stand.
+
+#include "pages/PageResultats.h"
+
+#include <algorithm>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+
+#include "base/Dates.h"
+#include "base/Textes.h"
+#include "shell/Theme.h"
+#include "widgets/BandeTirage.h"
+#include "widgets/ChampNumero.h"
+#include "widgets/PlancheNumeros.h"
+#include "widgets/TableRapports.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A panel that stands on the window.
+class Fiche final : public QFrame {
+ public:
+    explicit Fiche(QWidget* parent) : QFrame(parent) {
+        pile = new QVBoxLayout(this);
+        pile->setContentsMargins(2 * Unite, 2 * Unite - 2, 2 * Unite, 2 * Unite - 2);
+        pile->setSpacing(Unite);
+    }
+    QVBoxLayout* pile;
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter p(this);
+        p.setRenderHint(QPainter::Antialiasing);
+        const Teintes t = teintes(palette());
+        p.setPen(t.bordure);
+        p.setBrush(t.carte);
+        p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    }
+};
+
+/// Secondary text, in a colour that follows the palette.
+QLabel* legende(const QString& texte, QWidget* parent) {
+    auto* etiquette = new QLabel(texte, parent);
+    etiquette->setForegroundRole(QPalette::PlaceholderText);
+    return etiquette;
+}
+
+void grossir(QWidget* cible, double facteur) {
+    QFont fonte = cible->font();
+    fonte.setPixelSize(static_cast<int>(fonte.pixelSize() * facteur + 0.5));
+    fonte.setBold(true);
+    cible->setFont(fonte);
+}
+
+QLabel* valeur(const QString& nom, const QString& libelle, QWidget* parent) {
+    auto* etiquette = new QLabel(parent);
+    etiquette->setObjectName(nom);
+    etiquette->setAccessibleName(libelle);
+    grossir(etiquette, 1.2);
+    return etiquette;
+}
+
+/// A control with its caption above it.
+QVBoxLayout* colonne(const QString& titre, QLayout* contenu, QWidget* parent) {
+    auto* pile = new QVBoxLayout;
+    pile->setSpacing(2);
+    pile->addWidget(legende(titre, parent));
+    pile->addLayout(contenu);
+    return pile;
+}
+
+QHBoxLayout* rangee(std::initializer_list<QWidget*> widgets) {
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(Unite / 2);
+    for (QWidget* widget : widgets) ligne->addWidget(widget);
+    return ligne;
+}
+
+QPushButton* bouton(const QString& nom, const QString& libelle, const QString& indice,
+                    QWidget* parent) {
+    auto* b = new QPushButton(libelle, parent);
+    b->setObjectName(nom);
+    b->setMinimumSize(b->sizeHint().width() + 4 * Unite, b->fontMetrics().height() + 3 * Unite);
+    poserIndice(b, indice);
+    return b;
+}
+
+}  // namespace
+
+PageResultats::PageResultats(Contexte& ctx, QWidget* parent) : Page(ctx, parent) {
+    setObjectName(u"Varo1"_s);
+    construire();
+    poserLimites();
+    relier();
+    majCommandes();
+    majFicheGrille();
+}
+
+void PageResultats::construire() {
+    auto* gauche = new QVBoxLayout;
+    gauche->setSpacing(2 * Unite);
+    gauche->addWidget(creerFicheTirage());
+    planche_ = new PlancheNumeros(this);
+    gauche->addWidget(planche_, 1);
+    auto* droite = new QVBoxLayout;
+    droite->setSpacing(2 * Unite);
+    droite->addWidget(creerFicheRapports());
+    droite->addWidget(creerFicheGrille(), 1);
+    auto* haut = new QHBoxLayout;
+    haut->setSpacing(2 * Unite);
+    haut->addLayout(gauche, 19);
+    haut->addLayout(droite, 10);
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(2 * Unite, 2 * Unite, 2 * Unite, 2 * Unite);
+    page->setSpacing(2 * Unite);
+    page->addLayout(haut, 1);
+    page->addLayout(creerBoutons());
+
+    auto* parcours = new QPushButton(u"Parcours des tirages"_s, this);
+    parcours->setObjectName(u"Parcours"_s);
+    parcours->hide();
+}
+
+QFrame* PageResultats::creerFicheTirage() {
+    auto* fiche = new Fiche(this);
+    DateTimePicker = new QDateEdit(fiche);
+    DateTimePicker->setObjectName(u"DateTimePicker"_s);
+    DateTimePicker->setLocale(QLocale(QLocale::French, QLocale::France));
+    DateTimePicker->setDisplayFormat(u"dddd d MMMM yyyy"_s);
+    DateTimePicker->setCalendarPopup(true);
+    DateTimePicker->setAccessibleName(u"Date du tirage"_s);
+    poserIndice(DateTimePicker, u"Sélection de tirages par date"_s);
+    QCalendarWidget* calendrier = DateTimePicker->calendarWidget();
+    calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendrier->setFirstDayOfWeek(Qt::Monday);
+    // Only the days of draws stand out, see marquerCalendrier.
+    calendrier->setWeekdayTextFormat(Qt::Saturday, {});
+    calendrier->setWeekdayTextFormat(Qt::Sunday, {});
+    // The longest date keeps the control from moving with each draw.
+    DateTimePicker->setMinimumWidth(
+        DateTimePicker->fontMetrics().horizontalAdvance(u"mercredi 24 septembre 2024"_s) + 54);
+
+    ComboBox3 = new QComboBox(fiche);
+    ComboBox3->setObjectName(u"ComboBox3"_s);
+    ComboBox3->addItems({u"1er"_s, u"2nd"_s});
+    ComboBox3->setAccessibleName(u"1er ou 2nd Tirage"_s);
+    poserIndice(ComboBox3, u"Sélection du 1er ou 2nd Tirage"_s);
+
+    EditTirGlob = new ChampNumero(u"EditTirGlob"_s, fiche);
+    EditTirGlob->setAccessibleName(u"Numéro du tirage"_s);
+    EditTirGlob->setFixedWidth(EditTirGlob->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
+    UpDown1 = new HautBas(u"UpDown1"_s, fiche);
+    for (QWidget* w : {static_cast<QWidget*>(EditTirGlob), static_cast<QWidget*>(UpDown1)}) {
+        poserIndice(w, u"Sélection de tirages par numéro"_s);
+    }
+    surTotal_ = legende({}, fiche);
+
+    LabelTirageFixeNum = valeur(u"LabelTirageFixeNum"_s, u"N° dans l'année"_s, fiche);
+    LabelTirageFixeAn = valeur(u"LabelTirageFixeAn"_s, u"Année"_s, fiche);
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(3 * Unite);
+    ligne->addLayout(colonne(u"Date"_s, rangee({DateTimePicker}), fiche));
+    ligne->addLayout(colonne(u"Tirage"_s, rangee({ComboBox3}), fiche));
+    ligne->addLayout(colonne(u"Numéro"_s, rangee({EditTirGlob, UpDown1, surTotal_}), fiche));
+    ligne->addStretch(1);
+    ligne->addLayout(colonne(u"N°"_s, rangee({LabelTirageFixeNum}), fiche));
+    ligne->addLayout(colonne(u"Année"_s, rangee({LabelTirageFixeAn}), fiche));
+    LabelTirageFixeNum->setMinimumWidth(
+        LabelTirageFixeNum->fontMetrics().horizontalAdvance(u"000"_s));
+    LabelTirageFixeAn->setMinimumWidth(
+        LabelTirageFixeAn->fontMetrics().horizontalAdvance(u"0000"_s));
+    fiche->pile->addLayout(ligne);
+    fiche->pile->addSpacing(Unite);
+
+    bande_ = new BandeTirage(contexte.Echelle, fiche);
+    MaskEdit1 = new QLineEdit(fiche);
+    MaskEdit1->setObjectName(u"MaskEdit1"_s);
+    MaskEdit1->setReadOnly(true);
+    MaskEdit1->setAlignment(Qt::AlignCenter);
+    MaskEdit1->setAccessibleName(u"Numéro Joker+"_s);
+    poserIndice(MaskEdit1, u"Numéro Joker+"_s);
+    grossir(MaskEdit1, 1.15);
+    MaskEdit1->setFixedWidth(MaskEdit1->fontMetrics().horizontalAdvance(u"0.0.0.0.0.0.0"_s) + 26);
+    auto* boules = new QHBoxLayout;
+    boules->setSpacing(0);
+    boules->addWidget(bande_, 0, Qt::AlignBottom);
+    boules->addStretch(1);
+    boules->addLayout(colonne(u"Joker+"_s, rangee({MaskEdit1}), fiche));
+    fiche->pile->addLayout(boules);
+    return fiche;
+}
+
+QFrame* PageResultats::creerFicheRapports() {
+    auto* fiche = new Fiche(this);
+    titreRapports_ = legende({}, fiche);
+    AdvStringGrid6 = new TableRapports(u"AdvStringGrid6"_s, NbRangsLoto, contexte.Echelle, fiche);
+    AdvStringGrid8 = new TableRapports(u"AdvStringGrid8"_s, NbRangs2nd, contexte.Echelle, fiche);
+    rapports_ = new QStackedWidget(fiche);
+    rapports_->addWidget(AdvStringGrid6);
+    rapports_->addWidget(AdvStringGrid8);
+    rapports_->setFixedHeight(AdvStringGrid6->sizeHint().height());
+    fiche->pile->addWidget(titreRapports_);
+    fiche->pile->addWidget(rapports_);
+    return fiche;
+}
+
+QFrame* PageResultats::creerFicheGrille() {
+    auto* fiche = new Fiche(this);
+    LabelSelection = valeur(u"LabelSelection"_s, {}, fiche);
+    Edit1 = new ChampNumero(u"Edit1"_s, fiche);
+    Edit1->setAccessibleName(u"Numéro de la grille"_s);
+    Edit1->setFixedWidth(Edit1->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
+    UpDown = new HautBas(u"UpDown"_s, fiche);
+    for (QWidget* w : {static_cast<QWidget*>(Edit1), static_cast<QWidget*>(UpDown)}) {
+        poserIndice(w, u"Sélection de grilles par numéro"_s);
+    }
+    surGrilles_ = legende({}, fiche);
+    choixGrille_ = new QWidget(fiche);
+    auto* choix = rangee({Edit1, UpDown, surGrilles_});
+    choix->setContentsMargins(0, 0, 0, 0);
+    choixGrille_->setLayout(choix);
+    QSizePolicy garde = choixGrille_->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    choixGrille_->setSizePolicy(garde);
+    auto* tete = new QHBoxLayout;
+    tete->addWidget(LabelSelection);
+    tete->addStretch(1);
+    tete->addWidget(choixGrille_);
+
+    compteGrille_ = new QLabel(fiche);
+    compteGrille_->setObjectName(u"LabelCompteGrille"_s);
+    compteGrille_->setWordWrap(true);
+    LabelMiseF = valeur(u"LabelMiseF"_s, u"Mise de la grille"_s, fiche);
+    auto* corps = new QHBoxLayout;
+    corps->addWidget(compteGrille_, 1);
+    corps->addWidget(LabelMiseF);
+    CheckBox2ND = new QCheckBox(u"Option 2nd Tirage"_s, fiche);
+    CheckBox2ND->setObjectName(u"CheckBox2ND"_s);
+    fiche->pile->addLayout(tete);
+    fiche->pile->addLayout(corps);
+    fiche->pile->addWidget(CheckBox2ND);
+    fiche->pile->addStretch(1);
+    return fiche;
+}
+
+QHBoxLayout* PageResultats::creerBoutons() {
+    CommunsButton = bouton(u"CommunsButton"_s, u"Communs"_s,
+                           u"Chances et Numéros communs par rapport au tirage précédent"_s, this);
+    CommunsButton->setCheckable(true);
+    // Its caption turns bold: the wider text must not move the row.
+    QFont gras = CommunsButton->font();
+    gras.setBold(true);
+    CommunsButton->setMinimumWidth(QFontMetrics(gras).horizontalAdvance(CommunsButton->text()) +
+                                   6 * Unite);
+    ReInit =
+        bouton(u"ReInit"_s, u"&Choix libre"_s, u"Sélection libre de numéros à vérifier"_s, this);
+    DeSelect = bouton(u"DeSelect"_s, u"&Désélectionner"_s,
+                      u"Désélectionner tous les numéros cochés"_s, this);
+    SelectGrilles =
+        bouton(u"SelectGrilles"_s, u"&Sélection"_s, u"Sélection de grilles à vérifier"_s, this);
+    Consultation = bouton(u"Consultation"_s, u"C&onsultation"_s,
+                          u"Vérification des grilles en mémoire"_s, this);
+    NormalMode = bouton(u"NormalMode"_s, u"&Terminer"_s, u"Retour au mode Normal"_s, this);
+    MajBaseManuelle = bouton(u"MajBaseManuelle"_s, u"&Mise à jour"_s,
+                             u"Mise à jour des tirages (mode manuel)"_s, this);
+    MajBaseManuelle->setEnabled(false);  // editing by hand comes with a later version
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(Unite + 2);
+    // What comes and goes stands where it moves no other: the pointer stays on its button.
+    for (QPushButton* b : {ReInit, CommunsButton, DeSelect}) ligne->addWidget(b);
+    ligne->addStretch(1);
+    for (QPushButton* b : {NormalMode, SelectGrilles, Consultation, MajBaseManuelle}) {
+        ligne->addWidget(b);
+    }
+    return ligne;
+}
+
+void PageResultats::relier() {
+    connect(DateTimePicker, &QDateEdit::dateChanged, this, &PageResultats::ChoisirParDate);
+    connect(ComboBox3, &QComboBox::currentIndexChanged, this, &PageResultats::ChoisirSousTirage);
+    connect(EditTirGlob, &QLineEdit::textChanged, this, &PageResultats::ChoisirParNumero);
+    connect(EditTirGlob, &ChampNumero::deplacement, this, &PageResultats::deplacer);
+    connect(EditTirGlob, &ChampNumero::extremite, this,
+            [this](bool derniere) { montrerTirage(derniere ? base().NbTirages : 1); });
+    connect(EditTirGlob, &QLineEdit::editingFinished, this, [this] {
+        // An emptied field takes the draw on show back.
+        if (EditTirGlob->text().isEmpty() && indice_ >= 0) montrerTirage(indice_ + 1);
+    });
+    connect(UpDown1, &HautBas::deplacement, this, &PageResultats::deplacer);
+    connect(planche_, &PlancheNumeros::appui, this, &PageResultats::presser);
+    connect(planche_, &PlancheNumeros::etatChange, this, &PageResultats::majFicheGrille);
+    connect(CheckBox2ND, &QCheckBox::toggled, this, &PageResultats::majFicheGrille);
+    connect(CommunsButton, &QPushButton::toggled, this, [this](bool bas) {
+        QFont fonte = CommunsButton->font();
+        fonte.setBold(bas);
+        CommunsButton->setFont(fonte);
+        afficherCellules();
+    });
+    connect(DeSelect, &QPushButton::clicked, this, &PageResultats::DeSelectClick);
+    connect(ReInit, &QPushButton::clicked, this, &PageResultats::ReInitClick);
+    connect(SelectGrilles, &QPushButton::clicked, this, &PageResultats::SelectGrillesClick);
+    connect(NormalMode, &QPushButton::clicked, this, &PageResultats::NormalModeClick);
+    connect(Consultation, &QPushButton::clicked, this, &PageResultats::ConsultationClick);
+    connect(Edit1, &QLineEdit::textChanged, this, [this](const QString& texte) {
+        if (!garde_ && !texte.isEmpty()) deplacerGrille(texte.toInt());
+    });
+    connect(Edit1, &ChampNumero::deplacement, this,
+            [this](int pas) { deplacerGrille(grille_ + pas); });
+    connect(Edit1, &ChampNumero::extremite, this, [this](bool derniere) {
+        deplacerGrille(derniere ? static_cast<int>(contexte.atelier.ListeGrilles.size()) : 1);
+    });
+    connect(UpDown, &HautBas::deplacement, this,
+            [this](int pas) { deplacerGrille(grille_ + pas); });
+    connect(DateTimePicker->calendarWidget(), &QCalendarWidget::currentPageChanged, this,
+            &PageResultats::marquerCalendrier);
+}
+
+void PageResultats::poserLimites() {
+    const QScopedValueRollback garde(garde_, true);
+    const auto enDate = [](int date) { return QDate(date / 10000, date / 100 % 100, date % 100); };
+    QDate fin = contexte.services.horloge->aujourdhui();
+    // A clock that runs behind the base must not hide draws.
+    if (base().NbTirages > 0) fin = std::max(fin, enDate(base().enUsage().back().DateTirage));
+    DateTimePicker->setDateRange(enDate(DatePremierTirage), fin);
+    surTotal_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(base().NbTirages))));
+    const QCalendarWidget* calendrier = DateTimePicker->calendarWidget();
+    marquerCalendrier(calendrier->yearShown(), calendrier->monthShown());
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/PlancheNumeros.h"
+
+#include <algorithm>
+#include <QEvent>
+#include <QPainter>
+
+#include "shell/Page.h"
+#include "shell/Theme.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The grid: ten numbers a row, then a gap and two columns of chances.
+constexpr int ColonnesNumeros = 10;
+constexpr int ColonnesChances = 2;
+constexpr int Rangees = 5;
+constexpr double EcartGroupes = 0.5;  // gap between both groups, in tile widths
+
+struct Case {
+    int colonne;
+    int rangee;
+};
+
+Case caseDe(int place) {
+    if (place < NumeroMax) return {place % ColonnesNumeros, place / ColonnesNumeros};
+    const int k = place - NumeroMax;
+    return {ColonnesNumeros + k % ColonnesChances, k / ColonnesChances};
+}
+
+std::size_t rang(int place) {
+    return static_cast<std::size_t>(place);
+}
+
+/// Walks two ascending lists (zeros left out) and calls `eteindre` on what is in the old one only,
+/// `allumer` on what is in the new one only.
+template <typename Eteindre, typename Allumer>
+void fusionner(std::span<const int> avant, std::span<const int> apres, Eteindre eteindre,
+               Allumer allumer) {
+    std::size_t i = 0;
+    std::size_t j = 0;
+    while (i < avant.size() || j < apres.size()) {
+        if (i < avant.size() && avant[i] == 0) {
+            ++i;
+        } else if (j < apres.size() && apres[j] == 0) {
+            ++j;
+        } else if (j == apres.size() || (i < avant.size() && avant[i] < apres[j])) {
+            eteindre(avant[i++]);
+        } else if (i == avant.size() || apres[j] < avant[i]) {
+            allumer(apres[j++]);
+        } else {
+            ++i;
+            ++j;
+        }
+    }
+}
+
+}  // namespace
+
+PlancheNumeros::PlancheNumeros(QWidget* parent) : QFrame(parent) {
+    setObjectName(u"Panel1"_s);
+    setAccessibleName(u"Planche des numéros et des chances"_s);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    for (int place = 0; place < NbBoutons; ++place) {
+        const bool numero = place < NumeroMax;
+        auto* b = new BoutonPlanche(numero ? GenreStats::Numeros : GenreStats::Chances,
+                                    numero ? place + 1 : place - NumeroMax + 1, this);
+        b->setObjectName(u"Button%1"_s.arg(place + 1));
+        b->installEventFilter(this);
+        connect(b, &QAbstractButton::clicked, this, [this, place] { Q_EMIT appui(place); });
+        connect(b, &BoutonPlanche::fleche, this,
+                [this, place](int dx, int dy) { naviguer(place, dx, dy); });
+        boutons_[rang(place)] = b;
+    }
+    boutons_[0]->setFocusPolicy(Qt::StrongFocus);
+}
+
+void PlancheNumeros::eclairer(const Eclairage& tirage) {
+    const auto traiter = [this, &tirage](GenreStats genre, std::size_t debut, std::size_t nombre) {
+        fusionner(
+            std::span(affiche_).subspan(debut, nombre), std::span(tirage).subspan(debut, nombre),
+            [this, genre](int valeur) { changer(placeDe(genre, valeur), false); },
+            [this, genre](int valeur) { changer(placeDe(genre, valeur), true); });
+    };
+    traiter(GenreStats::Numeros, 0, NbBoules);
+    traiter(GenreStats::Chances, NbBoules, 1);
+    affiche_ = tirage;
+}
+
+void PlancheNumeros::changer(int place, bool allume) {
+    bouton(place)->setAllume(allume);
+    if (!allume) tenir(place, durable_[rang(place)] != 0, false);
+}
+
+std::array<bool, NbBoutons> PlancheNumeros::allumes() const {
+    std::array<bool, NbBoutons> resultat;
+    std::ranges::transform(boutons_, resultat.begin(),
+                           [](const BoutonPlanche* b) { return b->allume(); });
+    return resultat;
+}
+
+void PlancheNumeros::tenir(int place, bool enfonce, bool durable) {
+    if (durable) durable_[rang(place)] = enfonce;
+    if ((etat_[rang(place)] != 0) == enfonce) return;
+    etat_[rang(place)] = enfonce;
+    if (enfonce) {
+        ordre_.push_back(place);
+    } else {
+        std::erase(ordre_, place);
+    }
+    bouton(place)->setEnfonce(enfonce);
+    Q_EMIT etatChange();
+}
+
+void PlancheNumeros::relacher() {
+    for (int place = 0; place < NbBoutons; ++place) tenir(place, false, true);
+}
+
+std::vector<int> PlancheNumeros::tenus(GenreStats genre) const {
+    std::vector<int> resultat;
+    for (const int place : ordre_) {
+        if (bouton(place)->genre() == genre) resultat.push_back(bouton(place)->valeur());
+    }
+    return resultat;
+}
+
+void PlancheNumeros::poserIndices(const std::array<std::string, NbBoutons>& indices) {
+    for (int place = 0; place < NbBoutons; ++place) {
+        poserIndice(bouton(place), versQt(indices[rang(place)]));
+    }
+}
+
+void PlancheNumeros::placer() {
+    const QFontMetrics mesure(font());
+    const double marge = 2.0 * Unite;
+    const double titre = mesure.height() + Unite;
+    const double large = width() - 2 * marge;
+    const double haut = height() - 2 * marge - titre;
+    const double colonnes = ColonnesNumeros + ColonnesChances + EcartGroupes;
+    // Tiles fill the board but never grow far from a square.
+    const double w = std::min(large / colonnes, haut / Rangees * 1.5);
+    const double h = std::min(haut / Rangees, w * 1.3);
+    const double x0 = marge + (large - w * colonnes) / 2;
+    const double y0 = marge + titre + (haut - h * Rangees) / 2;
+    for (int place = 0; place < NbBoutons; ++place) {
+        const Case c = caseDe(place);
+        const double x = x0 + w * (c.colonne + (place < NumeroMax ? 0.0 : EcartGroupes));
+        const double y = y0 + h * c.rangee;
+        const QPoint coin(qRound(x), qRound(y));
+        bouton(place)->setGeometry(QRect(coin, QPoint(qRound(x + w) - 1, qRound(y + h) - 1)));
+    }
+    titreNumeros_ = QRectF(x0 + 3, y0 - titre, w * ColonnesNumeros, titre);
+    titreChances_ = QRectF(x0 + 3 + w * (ColonnesNumeros + EcartGroupes), y0 - titre,
+                           w * ColonnesChances, titre);
+}
+
+void PlancheNumeros::resizeEvent(QResizeEvent* evenement) {
+    QFrame::resizeEvent(evenement);
+    placer();
+}
+
+void PlancheNumeros::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const Teintes t = teintes(palette());
+    p.setPen(t.bordure);
+    p.setBrush(t.carte);
+    p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    p.setPen(t.discret);
+    const int alignement = Qt::AlignLeft | Qt::AlignTop;
+    p.drawText(titreNumeros_, alignement, u"Numéros"_s);
+    p.drawText(titreChances_, alignement, u"Chances"_s);
+}
+
+bool PlancheNumeros::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::FocusIn) {
+        // The tab key enters the board where it was left.
+        const auto ou = std::ranges::find(boutons_, objet);
+        if (ou != boutons_.end()) {
+            boutons_[rang(courant_)]->setFocusPolicy(Qt::ClickFocus);
+            courant_ = static_cast<int>(ou - boutons_.begin());
+            boutons_[rang(courant_)]->setFocusPolicy(Qt::StrongFocus);
+        }
+    }
+    return QFrame::eventFilter(objet, evenement);
+}
+
+void PlancheNumeros::naviguer(int place, int dx, int dy) {
+    const auto occupant = [](Case c) {
+        for (int autre = 0; autre < NbBoutons; ++autre) {
+            const Case a = caseDe(autre);
+            if (a.colonne == c.colonne && a.rangee == c.rangee) return autre;
+        }
+        return -1;
+    };
+    Case c = caseDe(place);
+    for (;;) {  // the grid has one empty place, behind 49
+        c = {c.colonne + dx, c.rangee + dy};
+        if (c.colonne < 0 || c.colonne >= ColonnesNumeros + ColonnesChances) return;
+        if (c.rangee < 0 || c.rangee >= Rangees) return;
+        const int autre = occupant(c);
+        if (autre < 0) continue;
+        bouton(autre)->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/TableRapports.h"
+
+#include <algorithm>
+#include <cmath>
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+
+#include "base/Textes.h"
+#include "shell/Page.h"
+#include "shell/Theme.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What wins each rank: good numbers (N) and the Chance (C).
+constexpr std::array<const char16_t*, NbRangsLoto> RangsLoto{
+    u"5N + C", u"5N", u"4N + C", u"4N", u"3N + C", u"3N", u"2N + C", u"2N", u"1N + C ou C"};
+constexpr std::array<const char16_t*, NbRangs2nd> Rangs2nd{u"5N", u"4N", u"3N", u"2N"};
+
+constexpr int HauteurLigne = 26;   // of the 800 x 600 design
+constexpr int LargeurTable = 300;  // of the same
+
+/// Leaves the cells the margin that the captions above them have.
+class DelegueMarge final : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* peintre, const QStyleOptionViewItem& option,
+               const QModelIndex& place) const override {
+        QStyleOptionViewItem cellule = option;
+        initStyleOption(&cellule, place);
+        const QStyle* style = cellule.widget->style();
+        style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cellule, peintre, cellule.widget);
+        cellule.rect.adjust(Unite / 2, 0, -Unite / 2, 0);
+        style->drawControl(QStyle::CE_ItemViewItem, &cellule, peintre, cellule.widget);
+    }
+};
+
+}  // namespace
+
+TableRapports::TableRapports(const QString& nom, int rangs, double echelle, QWidget* parent)
+    : QTableWidget(rangs, NbColonnes, parent) {
+    setObjectName(nom);
+    setAccessibleName(rangs == NbRangsLoto ? u"Rapports du 1er Tirage"_s
+                                           : u"Rapports du 2nd Tirage"_s);
+    setHorizontalHeaderLabels({u"RANGS"_s, u"GAGNANTS"_s, u"RAPPORTS"_s, u"N"_s});
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setFrameShape(NoFrame);
+    setTabKeyNavigation(false);
+    setMouseTracking(true);  // the status bar follows the cell under the pointer
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setCornerButtonEnabled(false);
+    setItemDelegate(new DelegueMarge(this));
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setDefaultSectionSize(static_cast<int>(HauteurLigne * echelle + 0.5));
+    QHeaderView* tete = horizontalHeader();
+    tete->setHighlightSections(false);
+    tete->setSectionsClickable(false);
+    tete->setSectionResizeMode(QHeaderView::Stretch);
+    tete->setSectionResizeMode(N, QHeaderView::Fixed);
+    tete->resizeSection(N, static_cast<int>(34 * echelle));
+    setMinimumWidth(static_cast<int>(LargeurTable * echelle));
+    for (int rang = 0; rang < rangs; ++rang) {
+        const auto i = static_cast<std::size_t>(rang);
+        const char16_t* sens = rangs == NbRangsLoto ? RangsLoto[i] : Rangs2nd[i];
+        for (int colonne = 0; colonne < NbColonnes; ++colonne) {
+            auto* cellule = new QTableWidgetItem;
+            Qt::ItemFlags drapeaux = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+            if (colonne == Gagnants || colonne == Montants) drapeaux |= Qt::ItemIsEditable;
+            cellule->setFlags(drapeaux);
+            cellule->setTextAlignment(colonne == Rangs ? Qt::AlignLeft | Qt::AlignVCenter
+                                      : colonne == N   ? Qt::AlignCenter
+                                                       : Qt::AlignRight | Qt::AlignVCenter);
+            setItem(rang, colonne, cellule);
+        }
+        item(rang, Rangs)->setText(u"Rang %1 (%2)"_s.arg(rang + 1).arg(QStringView(sens)));
+    }
+    for (int colonne = 0; colonne < NbColonnes; ++colonne) {
+        horizontalHeaderItem(colonne)->setTextAlignment(
+            colonne == Rangs ? Qt::AlignLeft | Qt::AlignVCenter
+            : colonne == N   ? Qt::AlignCenter
+                             : Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+void TableRapports::poser(int rang, Colonne colonne, const QString& texte, const QString& court,
+                          const QString& longue) {
+    QTableWidgetItem* cellule = item(rang, colonne);
+    cellule->setText(texte);
+    cellule->setToolTip(court);
+    cellule->setStatusTip(longue);
+}
+
+void TableRapports::afficher(const RapportsTirage& rapports, const Reglages& reglages) {
+    for (int rang = 0; rang < rowCount(); ++rang) {
+        const Rapport& r = rapports[static_cast<std::size_t>(rang)];
+        QString gagnants = versQt(FormaterCompte(std::llround(r.Gagnants)));
+        if (gagnants.isEmpty()) gagnants = u"0"_s;
+        item(rang, Gagnants)->setText(gagnants);
+        const QString francs =
+            u"Montant en Francs : "_s + versQt(FormaterMontant(r.Gain * reglages.TauxConversion));
+        poser(rang, Montants, versQt(FormaterMontant(r.Gain) + " " + reglages.SymboleMonnaie),
+              francs, francs);
+    }
+}
+
+void TableRapports::vider() {
+    for (int rang = 0; rang < rowCount(); ++rang) {
+        item(rang, Gagnants)->setText({});
+        poser(rang, Montants, {}, {}, {});
+    }
+    setFacteurs({});
+}
+
+void TableRapports::setFacteurs(const Facteurs& facteurs) {
+    for (int rang = 0; rang < rowCount(); ++rang) {
+        const int facteur = facteurs[static_cast<std::size_t>(rang)];
+        QString texte, court, longue;
+        if (facteur > 0) {
+            texte = versQt(FormaterCompte(facteur));
+            court = u"Facteur de multiplication des gains pour un rang donné"_s;
+            longue = u"Vous gagnez %1 fois le montant du rang %2"_s.arg(texte).arg(rang + 1);
+        }
+        poser(rang, N, texte, court, longue);
+        for (const Colonne colonne : {Rangs, Gagnants}) {
+            item(rang, colonne)->setToolTip(court);
+            item(rang, colonne)->setStatusTip(longue);
+        }
+    }
+}
+
+QSize TableRapports::sizeHint() const {
+    return {minimumWidth(), horizontalHeader()->sizeHint().height() + verticalHeader()->length()};
+}
+
+}  // namespace norvane::ui

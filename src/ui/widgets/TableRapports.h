@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The prize table of a draw.
+#pragma once
+
+#include <array>
+#include <QTableWidget>
+#include <span>
+
+#include "base/Configuration.h"
+#include "base/Tirage.h"
+
+namespace norvane::ui {
+
+/// Columns "RANGS", "GAGNANTS", "RAPPORTS", "N"; one row a rank. Read-only unless the owner sets
+/// edit triggers: only the cells of GAGNANTS and RAPPORTS carry the flag that lets them be edited.
+class TableRapports final : public QTableWidget {
+    Q_OBJECT
+
+ public:
+    enum Colonne { Rangs, Gagnants, Montants, N, NbColonnes };
+    /// How many times a rank's amount is won, rank 1 first; 0 where there is no multiplier.
+    using Facteurs = std::array<int, NbRangsLoto>;
+
+    /// `rangs`: NbRangsLoto or NbRangs2nd rows.
+    TableRapports(const QString& nom, int rangs, double echelle, QWidget* parent = nullptr);
+
+    /// Winners, amounts with the currency symbol, and the value in francs as hint of the amount.
+    void afficher(const RapportsTirage& rapports, const Reglages& reglages);
+    /// Every cell of winners, amounts and N empty.
+    void vider();
+    /// Column N and the hints of the rows that are won.
+    void setFacteurs(const Facteurs& facteurs);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+    void poser(int rang, Colonne colonne, const QString& texte, const QString& court,
+               const QString& longue);
+};
+
+}  // namespace norvane::ui

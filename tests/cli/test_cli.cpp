@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "base/BaseIntegree.h"
+#include "base/Stockage.h"
+#include "base/TableCsv.h"
+#include "BasesEssai.h"
+#include "cli/Executer.h"
+#include "Contenu.h"
+#include "OracleStats.h"
+
+namespace norvane {
+namespace {
+
+using Args = std::vector<std::string>;
+
+struct Sortie {
+    int statut;
+    std::string out, err;
+};
+
+/// A folder with the four records in quatre.csv, and the program run in it.
+class Cli : public testing::Test {
+ protected:
+    Cli() {
+        std::ostringstream csv;
+        EcrireTableCsv(csv, QuatreTirages(), 0, 3);
+        poser(dossier / "quatre.csv", csv.str());
+    }
+
+    /// The words of one line, between blanks.
+    Sortie lancer(const std::string& ligne) const {
+        std::istringstream mots(ligne);
+        return lancer(Args{std::istream_iterator<std::string>(mots), {}});
+    }
+    Sortie lancer(const Args& args) const {
+        std::ostringstream out, err;
+        const int statut = Executer(args, out, err, dossier.chemin());
+        return {statut, out.str(), err.str()};
+    }
+
+    Dossier dossier;
+};
+
+std::string Lignes(const std::string& texte, int premiere, int derniere) {
+    std::istringstream flux(texte);
+    std::string lignes, ligne;
+    for (int i = 0; std::getline(flux, ligne); ++i)
+        if (i >= premiere && i <= derniere) lignes += ligne + '\n';
+    return lignes;
+}
+
+TEST_F(Cli, Base) {
+    EXPECT_EQ(lancer("base").out,
+              "cle\tvaleur\nNbTirages\t3214\nNbAnciensTirages\t0\nAnciensTirages\t0\n"
+              "Premier\t20081006\nDernier\t20240724\n");
+    EXPECT_EQ(lancer("--globale base").out,
+              "cle\tvaleur\nNbTirages\t8072\nNbAnciensTirages\t4858\nAnciensTirages\t1\n"
+              "Premier\t19760519\nDernier\t20240724\n");
+}
+
+TEST_F(Cli, StoredBaseIsTheDefaultAndIsLeftAlone) {
+    ASSERT_TRUE(SauverBase(QuatreTirages(), dossier / "norvane.db"));
+    const auto avant = Contenu(dossier);
+    EXPECT_EQ(lancer("tirages").out, avant.at("quatre.csv"));
+    EXPECT_EQ(lancer("--base norvane.db tirages").out, avant.at("quatre.csv"));
+    EXPECT_EQ(Contenu(dossier), avant);
+
+    poser(dossier / "norvane.db", "ceci n'est pas une base");
+    const auto abimee = Contenu(dossier);
+    const Sortie refus = lancer("base");
+    EXPECT_EQ(refus.statut, StatutRefus);
+    EXPECT_NE(refus.err.find("norvane.db"), std::string::npos) << refus.err;
+    EXPECT_EQ(Contenu(dossier), abimee);
+}
+
+TEST_F(Cli, DrawsAreTheTableByteForByte) {
+    const std::string table = lire(NORVANE_DATA "/tirages.csv");
+    EXPECT_TRUE(lancer("--globale tirages").out == table);
+    EXPECT_TRUE(lancer("--base " NORVANE_DATA "/tirages.csv --de=4859 tirages").out ==
+                lancer("tirages").out);
+    EXPECT_EQ(lancer("--globale --de 17 --a 17 tirages").out,
+              Lignes(table, 0, 0) + Lignes(table, 17, 17));
+}
+
+TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
+    const Base base = BaseIntegree(true);
+    const auto attendu = [&](int nombre, auto presencesDe, int de, int a) {
+        std::string texte =
+            "n\tSorties\tEcart\tEcartMax\tNbEcartMax\tPosEcartMax\tSuite\tSuiteMax\tNbSuiteMax\t"
+            "PosSuiteMax\tEcartPrec\tSuitePrec\tSommeEcarts\n";
+        for (int n = 1; n <= nombre; ++n) {
+            const ResultatStats r = OracleStats(presencesDe(base, n), de - 1, a - 1);
+            texte += std::to_string(n);
+            for (const int valeur :
+                 {int{r.Sorties}, int{r.Ecart}, int{r.EcartMax}, int{r.NbEcartMax},
+                  int{r.PosEcartMax}, int{r.Suite}, int{r.SuiteMax}, int{r.NbSuiteMax},
+                  int{r.PosSuiteMax}, int{r.EcartPrec}, int{r.SuitePrec}, r.SommeEcarts})
+                texte += '\t' + std::to_string(valeur);
+            texte += '\n';
+        }
+        return texte;
+    };
+    for (const auto& [de, a] : {std::pair{1, 8072}, {4000, 5000}, {8072, 8072}}) {
+        const std::string stats =
+            "--globale --de " + std::to_string(de) + " --a " + std::to_string(a) + " stats ";
+        EXPECT_EQ(lancer(stats + "numeros").out, attendu(NumeroMax, PresencesNumero, de, a));
+        EXPECT_EQ(lancer(stats + "chances").out, attendu(ChanceMax, PresencesChance, de, a));
+    }
+}
+
+TEST_F(Cli, Refused) {
+    poser(dossier / "nonsens.csv", "a;b;c\n1;2;3\n");
+    poser(dossier / "base.txt", "");
+    const std::pair<const char*, const char*> cas[] = {
+        {"--base absente.csv base", "absente.csv » n'existe pas"},
+        {"--base absente.db base", "absente.db » n'existe pas"},
+        {"--base nonsens.csv base", "nonsens.csv"},
+        {"--base base.txt base", "doit finir par .db ou .csv"},
+        {"--base quatre.csv --globale base", "--globale ne vaut que"},
+        {"--base quatre.csv --de 0 tirages", "--de 0 est hors de la base"},
+        {"--base quatre.csv --de -1 base", "--de -1 est hors de la base"},
+        {"--base quatre.csv --a 5 tirages", "--a 5 est hors de la base"},
+        {"--base quatre.csv --a 99999999999999999999 tirages", "est hors de la base"},
+        {"--base quatre.csv --de 3 --a 2 stats chances", "croisé"},
+    };
+    for (const auto& [ligne, dit] : cas) {
+        const Sortie sortie = lancer(ligne);
+        EXPECT_EQ(sortie.statut, StatutRefus) << ligne;
+        EXPECT_EQ(sortie.out, "");
+        EXPECT_NE(sortie.err.find(dit), std::string::npos) << ligne << '\n' << sortie.err;
+        EXPECT_EQ(std::count(sortie.err.begin(), sortie.err.end(), '\n'), 1) << sortie.err;
+    }
+}
+
+TEST_F(Cli, BadUsage) {
+    struct {
+        const char *ligne, *raison, *usage;
+    } const cas[] = {
+        {"", "il manque la commande", "COMMANDE"},
+        {"stats", "il manque la commande", "stats COMMANDE"},
+        {"danse", "argument inattendu « danse »", "COMMANDE"},
+        {"--vite base", "argument inattendu « --vite »", "base"},
+        {"base tirages", "argument inattendu « tirages »", "base"},
+        {"stats boules", "argument inattendu « boules »", "stats COMMANDE"},
+        {"tirages --de 3", "l'option globale --de se place avant la commande", "tirages"},
+        {"--de trois base", "option --de : « trois » n'est pas un nombre entier", "base"},
+        {"--a 3.5 base", "option --a : « 3.5 » n'est pas un nombre entier", "base"},
+        {"--base", "option --base : nombre de valeurs incorrect", "COMMANDE"},
+        {"--de 1 --de 2 base", "option --de : nombre de valeurs incorrect", "base"},
+        {"--globale=non base", "option --globale : nombre de valeurs incorrect", "COMMANDE"},
+    };
+    for (const auto& c : cas) {
+        const Sortie sortie = lancer(c.ligne);
+        EXPECT_EQ(sortie.statut, StatutUsage) << c.ligne;
+        EXPECT_EQ(sortie.out, "");
+        EXPECT_EQ(sortie.err, std::string("norvane-cli : ") + c.raison +
+                                  "\nUsage : norvane-cli [OPTIONS] " + c.usage + '\n');
+    }
+}
+
+TEST_F(Cli, HelpAtEveryLevelAndVersion) {
+    EXPECT_EQ(
+        lancer("--help").out,
+        "Les calculs de Norvane en ligne de commande, sur la base des tirages du Loto.\n"
+        "\n"
+        "Usage : norvane-cli [OPTIONS] COMMANDE\n"
+        "\n"
+        "Options :\n"
+        "  --help          Affiche cette aide\n"
+        "  --version       Affiche la version\n"
+        "  --base FICHIER  Base des tirages, *.db ou *.csv ; par défaut norvane.db du dossier\n"
+        "                  courant s'il existe, sinon la base intégrée\n"
+        "  --globale       Base intégrée : avec les tirages de l'ancien jeu, depuis 1976\n"
+        "  --de N          Premier tirage de l'intervalle ; par défaut 1\n"
+        "  --a N           Dernier tirage de l'intervalle ; par défaut le dernier\n"
+        "\n"
+        "Commandes :\n"
+        "  base     Ce que contient la base des tirages\n"
+        "  tirages  Les tirages de l'intervalle, en CSV\n"
+        "  stats    Statistiques des numéros ou des chances sur l'intervalle\n");
+    const Sortie chances = lancer("stats chances --help");
+    EXPECT_EQ(chances.statut, StatutFait);
+    EXPECT_EQ(Lignes(chances.out, 0, 2),
+              "Les douze résultats de chacune des 10 chances\n\n"
+              "Usage : norvane-cli [OPTIONS] stats chances\n");
+    EXPECT_EQ(lancer("--version").out, "norvane-cli " NORVANE_VERSION "\n");
+
+    // The manual tells of everything that the help does.
+    const std::string manuel = lire(NORVANE_DATA "/../packaging/norvane-cli.1");
+    for (const char* mot : {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages",
+                            "B stats numeros", "B stats chances"})
+        EXPECT_NE(manuel.find(mot), std::string::npos) << mot;
+}
+
+TEST_F(Cli, OutputThatFails) {
+    std::ostringstream out, err;
+    out.setstate(std::ios::badbit);
+    const Args args = {"base"};
+    EXPECT_EQ(Executer(args, out, err, dossier.chemin()), StatutRefus);
+    EXPECT_EQ(err.str(), "Les résultats n'ont pas pu être écrits sur la sortie standard.\n");
+}
+
+}  // namespace
+}  // namespace norvane
