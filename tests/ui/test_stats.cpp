@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
@@ -429,6 +430,34 @@ class TestStats : public QObject {
         QVERIFY(!couples->isVisible());
         QCOMPARE(o.table->columnWidth(Date), qRound(215 * 1.28));
         QCOMPARE(o.table->width(), o.table->horizontalHeader()->length() + 2);
+    }
+
+    /// In a narrow window the two fixed columns stay and work like the others.
+    void colonnesFigees() {
+        PageOuverte o(GenreStats::Numeros);
+        const QSignalSpy historiques(o.page.get(), &Page::historiqueDemande);
+        auto* figees = o.trouver<QTableView>("ColonnesFigees");
+        QVERIFY(!figees->isVisible());
+        o.page->resize(700, 400);
+        o.table->setCurrentIndex(o.table->model()->index(30, SMax));
+        o.table->scrollTo(o.table->currentIndex());
+        QVERIFY(o.table->horizontalScrollBar()->value() > 0);
+        QVERIFY(figees->isVisible());
+        const QModelIndex cellule = o.table->model()->index(30, Num);
+        QCOMPARE(figees->visualRect(cellule).top(), o.table->visualRect(cellule).top());
+        const QPoint place = figees->visualRect(cellule).center();
+        QTest::mouseClick(figees->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(figees->viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(historiques.size(), 1);
+        QCOMPARE(historiques.last().at(1).toInt(), 31);
+        const QPoint titre(figees->horizontalHeader()->sectionViewportPosition(Num) + 10, 10);
+        QTest::mouseClick(figees->horizontalHeader()->viewport(), Qt::LeftButton, {}, titre);
+        QCOMPARE(o.texte(0, Num), u"49"_s);
+        // The current cell never hides behind them.
+        o.table->setFocus();
+        for (int k = 0; k < 6; ++k) QTest::keyClick(o.table, Qt::Key_Left);
+        const QModelIndex actuelle = o.table->currentIndex();
+        QVERIFY(!figees->isVisible() || o.table->visualRect(actuelle).left() >= figees->width());
     }
 
     /// Both files against the whole table, taken from the rows themselves in their sorted order.

@@ -85,7 +85,7 @@ const PageStats::Textes& PageStats::textesDe(GenreStats genre) {
 PageStats::PageStats(Contexte& ctx, GenreStats genre, QWidget* parent)
     : Page(ctx, parent), genre_(genre), textes_(textesDe(genre)) {
     setObjectName(textes_.page);
-    table_ = new VueTableau(ColonnesStats(genre), ctx.Echelle, this);
+    table_ = new VueTableau(ColonnesStats(genre), 2, ctx.Echelle, this);
     table_->setObjectName(textes_.table);
     table_->setAccessibleName(u"Statistiques sur "_s + textes_.objet);
     table_->modele().poserDegrades(DegradesStats(genre));
@@ -218,7 +218,7 @@ QGroupBox* PageStats::construireLegende() {
 }
 
 void PageStats::construireCouples() {
-    tableCouples_ = new VueTableau(ColonnesCouples(), contexte.Echelle, this);
+    tableCouples_ = new VueTableau(ColonnesCouples(), 1, contexte.Echelle, this);
     tableCouples_->setObjectName(u"AdvStringGrid5"_s);
     std::vector<LigneTableau> vides(56, LigneTableau(tableCouples_->modele().colonnes().size()));
     for (LigneTableau& ligne : vides) {

@@ -11,7 +11,9 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextTable>
 
 #include "base/Fichiers.h"
 
@@ -23,14 +25,18 @@ namespace {
 
 constexpr double MargePage = 12.0;  // millimetres
 constexpr double PolicePied = 8.0;  // points
+constexpr double PoliceTitre = 13.0;
+constexpr double EchelleMin = 0.78;  // 9-point figures are still read with ease at that scale
 
 /// Draws page `numero` (from 1) of the document, and its foot.
-void dessinerPage(QPainter& p, const QTextDocument& document, int numero, const QRectF& feuille) {
+void dessinerPage(QPainter& p, const QTextDocument& document, int numero, const QRectF& feuille,
+                  double echelle) {
     const double hauteur = document.pageSize().height();
     QAbstractTextDocumentLayout::PaintContext encre;
     encre.palette.setColor(QPalette::Text, Qt::black);  // paper is white whatever the theme is
-    encre.clip = QRectF(0, (numero - 1) * hauteur, feuille.width(), hauteur);
+    encre.clip = QRectF(0, (numero - 1) * hauteur, document.pageSize().width(), hauteur);
     p.save();
+    p.scale(echelle, echelle);
     p.translate(0, -(numero - 1) * hauteur);
     p.setClipRect(encre.clip);
     document.documentLayout()->draw(&p, encre);
@@ -45,6 +51,47 @@ void dessinerPage(QPainter& p, const QTextDocument& document, int numero, const 
                u"Page %1 / %2"_s.arg(numero).arg(document.pageCount()));
 }
 
+/// What paper asks beyond the plain page: a title that stands out, a table over the whole width
+/// with a shaded heading.
+void mettreEnForme(QTextDocument& document) {
+    QTextCursor titre(&document);
+    const QString premier = document.firstBlock().text();
+    const auto fin = premier.indexOf(QChar::LineSeparator);
+    titre.setPosition(static_cast<int>(fin < 0 ? premier.size() : fin), QTextCursor::KeepAnchor);
+    QTextCharFormat gras;
+    gras.setFontWeight(QFont::Bold);
+    gras.setFontPointSize(PoliceTitre);
+    titre.mergeCharFormat(gras);
+
+    for (QTextFrame* cadre : document.rootFrame()->childFrames()) {
+        auto* table = qobject_cast<QTextTable*>(cadre);
+        if (table == nullptr) continue;
+        QTextTableFormat format = table->format();
+        format.setTopMargin(PoliceTitre);
+        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        table->setFormat(format);
+        for (int c = 0; c < table->columns(); ++c) {
+            QTextTableCell cellule = table->cellAt(0, c);
+            QTextTableCellFormat fond = cellule.format().toTableCellFormat();
+            fond.setBackground(QColor(0xE4, 0xE9, 0xF2));
+            cellule.setFormat(fond);
+        }
+    }
+}
+
+/// Lays the document out on pages of this size. A table that runs just over the end of the page
+/// is drawn a little smaller: gives back that scale, 1 when all is well.
+double mettreEnPages(QTextDocument& document, const QSizeF& page) {
+    document.setPageSize(page);
+    if (document.pageCount() == 1) return 1.0;
+    for (double echelle = 0.98; echelle >= EchelleMin; echelle -= 0.02) {
+        document.setPageSize(page / echelle);
+        if (document.pageCount() == 1) return echelle;
+    }
+    document.setPageSize(page);
+    return 1.0;
+}
+
 bool imprimerHtml(QPrinter& imprimante, const QString& html) {
     QPainter p;
     if (!p.begin(&imprimante)) return false;
@@ -56,8 +103,10 @@ bool imprimerHtml(QPrinter& imprimante, const QString& html) {
     fonte.setPointSizeF(9);
     document.setDefaultFont(fonte);
     document.setHtml(html);
+    mettreEnForme(document);
     const double pied = imprimante.logicalDpiY() * (PolicePied * 2 / 72.0);
-    document.setPageSize(QSizeF(feuille.width(), feuille.height() - pied));
+    const double echelle =
+        mettreEnPages(document, QSizeF(feuille.width(), feuille.height() - pied));
 
     const int total = document.pageCount();
     const int premiere = std::clamp(std::max(1, imprimante.fromPage()), 1, total);
@@ -65,7 +114,7 @@ bool imprimerHtml(QPrinter& imprimante, const QString& html) {
         imprimante.toPage() > 0 ? std::clamp(imprimante.toPage(), premiere, total) : total;
     for (int page = premiere; page <= derniere; ++page) {
         if (page > premiere && !imprimante.newPage()) return false;
-        dessinerPage(p, document, page, feuille);
+        dessinerPage(p, document, page, feuille, echelle);
     }
     return p.end();
 }

@@ -6,106 +6,23 @@
 #include <algorithm>
 #include <cmath>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 
 #include "shell/Theme.h"
 #include "widgets/Bulle.h"
+#include "widgets/ColonnesFigees.h"
 #include "widgets/DelegueTableau.h"
+#include "widgets/EnteteTableau.h"
 
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
 
-// ---------------------------------------------------------------------------------------- header
-
-EnteteTableau::EnteteTableau(ModeleTableau& modele, QWidget* parent)
-    : QHeaderView(Qt::Horizontal, parent), modele_(modele) {
-    setSectionsClickable(true);
-    setHighlightSections(false);
-    setSectionResizeMode(QHeaderView::Fixed);
-    setMinimumSectionSize(8);
-    connect(this, &QHeaderView::sectionClicked, this,
-            [this](int colonne) { Q_EMIT colonneCliquee(colonne, secondaire_); });
-}
-
-void EnteteTableau::poserPolice(const QFont& police) {
-    police_ = police;
-    updateGeometry();
-}
-
-QSize EnteteTableau::sizeHint() const {
-    const QFontMetrics mesure(police_);
-    return {QHeaderView::sizeHint().width(), mesure.height() * 17 / 10 + Unite};
-}
-
-void EnteteTableau::mouseReleaseEvent(QMouseEvent* evenement) {
-    secondaire_ = evenement->modifiers().testFlag(Qt::ShiftModifier);
-    QHeaderView::mouseReleaseEvent(evenement);
-}
-
-void EnteteTableau::paintSection(QPainter* peintre, const QRect& cadre, int colonne) const {
-    QPainter& p = *peintre;
-    const ColonneTableau& c = modele_.colonnes()[static_cast<std::size_t>(colonne)];
-    p.save();
-    p.fillRect(cadre, palette().color(QPalette::AlternateBase));
-    p.setPen(teintes(palette()).bordure);
-    p.drawLine(cadre.topRight(), cadre.bottomRight());
-    p.drawLine(cadre.bottomLeft(), cadre.bottomRight());
-    const QString marque = modele_.marque(colonne);
-    const int pied = QFontMetrics(police_).height() * 7 / 10;
-    QRect haut = cadre.adjusted(2, 2, -3, -2);
-    if (!marque.isEmpty()) {
-        peindreMarque(p, QRect(cadre.left(), cadre.bottom() - pied - 1, cadre.width() - 1, pied),
-                      marque);
-        haut.setBottom(cadre.bottom() - pied);
-    }
-    if (!c.image.isNull()) {
-        const int cote = std::min(haut.height(), QFontMetrics(police_).height() * 13 / 10);
-        QRect place(0, 0, cote, cote);
-        place.moveCenter(haut.center());
-        c.image.paint(&p, place);
-    } else {
-        p.setFont(police_);
-        p.setPen(palette().color(QPalette::Text));
-        const bool gauche = c.alignement == Qt::AlignLeft;
-        p.drawText(
-            gauche ? haut.adjusted(MargeCellule - 2, 0, 0, 0) : haut,
-            (gauche ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter) | Qt::TextSingleLine,
-            c.entete);
-    }
-    p.restore();
-}
-
-void EnteteTableau::peindreMarque(QPainter& p, const QRect& cadre, const QString& marque) const {
-    // The arrow is drawn: not every font has one, and a borrowed one would sit off the line.
-    QFont petite = police_;
-    petite.setPointSizeF(petite.pointSizeF() * 0.8);
-    const QFontMetrics mesure(petite);
-    const QString rang = marque.left(1);
-    const double cote = mesure.ascent() * 0.62;
-    const double largeur = mesure.horizontalAdvance(rang) + 2 + cote;
-    const double gauche = cadre.center().x() - largeur / 2;
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setFont(petite);
-    p.setPen(teintes(palette()).accent);
-    p.drawText(QRectF(gauche, cadre.top(), largeur, cadre.height()),
-               Qt::AlignLeft | Qt::AlignVCenter, rang);
-    const double x = gauche + largeur - cote;
-    const double milieu = cadre.center().y() + 0.5;
-    const double sens = marque.endsWith(u'▲') ? 1 : -1;
-    p.setPen(Qt::NoPen);
-    p.setBrush(teintes(palette()).accent);
-    p.drawPolygon(QPolygonF({{x, milieu + sens * cote / 2},
-                             {x + cote, milieu + sens * cote / 2},
-                             {x + cote / 2, milieu - sens * cote / 2}}));
-}
-
-// ------------------------------------------------------------------------------------------ view
-
-VueTableau::VueTableau(std::vector<ColonneTableau> colonnes, double echelle, QWidget* parent)
+VueTableau::VueTableau(std::vector<ColonneTableau> colonnes, int figees, double echelle,
+                       QWidget* parent)
     : QTableView(parent),
       echelle_(echelle),
       modele_(new ModeleTableau(std::move(colonnes), this)),
@@ -128,15 +45,23 @@ VueTableau::VueTableau(std::vector<ColonneTableau> colonnes, double echelle, QWi
     setHorizontalScrollMode(ScrollPerPixel);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     setMouseTracking(true);
+    suivreEntete(entete);
+    if (figees > 0) {
+        figees_ = new ColonnesFigees(*this, *modele_, figees);
+        suivreEntete(static_cast<EnteteTableau*>(figees_->horizontalHeader()));
+        connect(figees_, &QTableView::doubleClicked, this, &VueTableau::celluleActivee);
+    }
     poserMesures();
+    connect(this, &QTableView::doubleClicked, this, &VueTableau::celluleActivee);
+    connect(modele_, &QAbstractItemModel::layoutChanged, this, [this] { cacherBulle(); });
+}
 
+void VueTableau::suivreEntete(EnteteTableau* entete) {
     connect(entete, &EnteteTableau::colonneCliquee, modele_, &ModeleTableau::cliquer);
     entete->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(entete, &QWidget::customContextMenuRequested, this, [this, entete](const QPoint& p) {
         ouvrirMenuTri(entete->logicalIndexAt(p), entete->mapToGlobal(p));
     });
-    connect(this, &QTableView::doubleClicked, this, &VueTableau::celluleActivee);
-    connect(modele_, &QAbstractItemModel::layoutChanged, this, [this] { cacherBulle(); });
 }
 
 void VueTableau::poserMesures() {
@@ -154,6 +79,9 @@ void VueTableau::poserMesures() {
     titres.setPointSizeF(ColonneTableau{}.police * echelle_);
     titres.setBold(true);
     static_cast<EnteteTableau*>(horizontalHeader())->poserPolice(titres);
+    if (figees_ != nullptr) {
+        static_cast<EnteteTableau*>(figees_->horizontalHeader())->poserPolice(titres);
+    }
     const QFontMetrics gras(titres);
     for (std::size_t i = 0; i < polices.size(); ++i) {
         const ColonneTableau& c = modele_->colonnes()[i];
@@ -215,6 +143,14 @@ QSize VueTableau::minimumSizeHint() const {
 void VueTableau::resizeEvent(QResizeEvent* evenement) {
     QTableView::resizeEvent(evenement);
     ajusterTaille();
+    if (figees_ != nullptr) figees_->placer();
+}
+
+void VueTableau::scrollTo(const QModelIndex& index, ScrollHint place) {
+    QTableView::scrollTo(index, place);
+    if (figees_ == nullptr || index.column() < figees_->nombre()) return;
+    const int cache = figees_->largeurCouverte() - visualRect(index).left();
+    if (cache > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - cache);
 }
 
 // --------------------------------------------------------------------------------------- balloon

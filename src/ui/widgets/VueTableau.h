@@ -6,7 +6,6 @@
 #pragma once
 
 #include <functional>
-#include <QHeaderView>
 #include <QTableView>
 
 #include "widgets/ModeleTableau.h"
@@ -14,6 +13,8 @@
 namespace norvane::ui {
 
 class Bulle;
+class ColonnesFigees;
+class EnteteTableau;
 
 /// What a balloon over a cell says; no text, no balloon.
 struct ContenuBulle {
@@ -21,38 +22,13 @@ struct ContenuBulle {
     QString texte;
 };
 
-/// The header: text or image, and below it the mark of the sort keys.
-class EnteteTableau final : public QHeaderView {
-    Q_OBJECT
-
- public:
-    EnteteTableau(ModeleTableau& modele, QWidget* parent);
-
-    /// A font of its own: the application's style sheet would take setFont back.
-    void poserPolice(const QFont& police);
-    QSize sizeHint() const override;
-
- Q_SIGNALS:
-    void colonneCliquee(int colonne, bool secondaire);
-
- protected:
-    void mouseReleaseEvent(QMouseEvent* evenement) override;
-    void paintSection(QPainter* peintre, const QRect& cadre, int colonne) const override;
-
- private:
-    void peindreMarque(QPainter& p, const QRect& cadre, const QString& marque) const;
-
-    ModeleTableau& modele_;
-    QFont police_;
-    bool secondaire_ = false;  // SHIFT was held at the last release
-};
-
 class VueTableau final : public QTableView {
     Q_OBJECT
 
  public:
     /// `echelle` is the factor of all widths and font sizes of the columns.
-    VueTableau(std::vector<ColonneTableau> colonnes, double echelle, QWidget* parent);
+    /// The first `figees` columns stay in sight when the others are scrolled.
+    VueTableau(std::vector<ColonneTableau> colonnes, int figees, double echelle, QWidget* parent);
 
     ModeleTableau& modele() { return *modele_; }
     const ModeleTableau& modele() const { return *modele_; }
@@ -69,6 +45,7 @@ class VueTableau final : public QTableView {
     int largeurEntiere() const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    void scrollTo(const QModelIndex& index, ScrollHint place = EnsureVisible) override;
 
  Q_SIGNALS:
     /// A double click on a cell, or Enter on the current one.
@@ -85,6 +62,7 @@ class VueTableau final : public QTableView {
 
  private:
     void poserMesures();
+    void suivreEntete(EnteteTableau* entete);
     void ajusterTaille();
     void montrerBulle(const QModelIndex& index);
     void ouvrirMenuTri(int colonne, const QPoint& place);
@@ -94,6 +72,7 @@ class VueTableau final : public QTableView {
     double echelle_;
     ModeleTableau* modele_;
     Bulle* bulle_;
+    ColonnesFigees* figees_ = nullptr;
     std::function<ContenuBulle(const QModelIndex&)> contenuBulle_;
     QPersistentModelIndex survol_;  // cell that the balloon speaks of
 };
