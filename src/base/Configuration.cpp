@@ -79,8 +79,11 @@ std::string lireApparence(std::string_view valeur, Reglages& reglages) {
 
 std::string lireFenetre(std::string_view valeur, Reglages& reglages) {
     constexpr int pixelsMax = 100000;
+    constexpr std::string_view maximisee = ",max";
     if (!valeur.empty()) {
-        std::string defaut = lireListe(valeur, ',', 4, [](std::string_view v, std::size_t i) {
+        std::string_view place = valeur;
+        if (place.ends_with(maximisee)) place.remove_suffix(maximisee.size());
+        std::string defaut = lireListe(place, ',', 4, [](std::string_view v, std::size_t i) {
             int pixels = 0;
             return lireEntier(v, i < 2 ? -pixelsMax : 1, pixelsMax, pixels);
         });

@@ -89,7 +89,7 @@ TEST(Configuration, LitToutesLesCles) {
 
     poser(fichier,
           "\xEF\xBB\xBF; à moi\r\n[CONFIGURATION]\r\nDecalageImprimanteBordHaut = -1,5\r\n"
-          "decalageimprimantebordgauche=2.25\r\nApparence=sombre\r\nFenetre=-10,20,800,600\r\n"
+          "decalageimprimantebordgauche=2.25\r\nApparence=sombre\r\nFenetre=-10,20,800,600,max\r\n"
           "[MISES]\r\nmontants=2,5 ; 3;4.75;1 000;5\r\n[MONNAIE]\r\nsymbole=CHF\r\ntaux=6,6\r\n"
           "[GAINS]\r\nG2=1\r\nG3=2\r\nG4=3\r\nG5=4\r\n[BASE]\r\nAnciensTirages=1\r\n"
           "[INTERNET]\r\narchive=http://localhost:8080/a.zip\r\njackpot=https://j\r\ndelai=600");
@@ -99,7 +99,7 @@ TEST(Configuration, LitToutesLesCles) {
     EXPECT_EQ(r.DecalageImprimanteBordHaut, -1.5);
     EXPECT_EQ(r.DecalageImprimanteBordGauche, 2.25);
     EXPECT_EQ(r.Apparence, "sombre");
-    EXPECT_EQ(r.Fenetre, "-10,20,800,600");
+    EXPECT_EQ(r.Fenetre, "-10,20,800,600,max");
     EXPECT_EQ(r.Mises, (std::array{2.5, 3.0, 4.75, 1000.0, 5.0}));
     EXPECT_EQ(r.SymboleMonnaie, "CHF");
     EXPECT_EQ(r.TauxConversion, 6.6);

@@ -24,7 +24,7 @@ TAboutBox::TAboutBox(Contexte& ctx, QWidget* parent) : QDialog(parent), contexte
     image->setPixmap(QIcon(u":/norvane/norvane.svg"_s).pixmap(96, 96));
     auto* nom = new QLabel(u"Norvane %1"_s.arg(QLatin1StringView(NORVANE_VERSION)), this);
     QFont grande = font();
-    grande.setPixelSize(grande.pixelSize() * 5 / 3);
+    grande.setPixelSize(fontInfo().pixelSize() * 5 / 3);
     grande.setBold(true);
     nom->setFont(grande);
     auto* role = new QLabel(u"L'atelier du joueur de Loto"_s, this);

@@ -25,7 +25,7 @@ PageAVenir::PageAVenir(Contexte& ctx, const QString& nom, const QString& titre,
 
     auto* entete = new QLabel(titre, carte);
     QFont grande = font();
-    grande.setPixelSize(grande.pixelSize() * 8 / 5);
+    grande.setPixelSize(fontInfo().pixelSize() * 8 / 5);
     grande.setBold(true);
     entete->setFont(grande);
     auto* ligne = new QLabel(promesse, carte);

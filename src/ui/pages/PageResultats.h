@@ -50,7 +50,8 @@ class PageResultats final : public Page {
     /// Presses the button of a number or a Chance if it is up. Does nothing while tickets are
     /// entered.
     void appuyer(GenreStats genre, int element);
-    /// The window closes during an entry: a complete ticket in hand goes to the list.
+    /// The window closes during an entry: a ticket in hand with three numbers or more goes to the
+    /// list as it stands, one with fewer is dropped.
     void rangerGrilleEnMain();
 
     /// What is held down in a free choice, in progress or validated.

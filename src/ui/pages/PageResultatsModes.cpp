@@ -199,14 +199,16 @@ Grille PageResultats::grilleEnMain() const {
 }
 
 void PageResultats::rangerGrilleEnMain() {
-    if (contexte.modes.ModeSelection && grilleComplete()) {
+    constexpr std::size_t dignesDEtreGardes = 3;
+    if (contexte.modes.ModeSelection &&
+        planche_->tenus(GenreStats::Numeros).size() >= dignesDEtreGardes) {
         contexte.atelier.ListeGrilles.push_back(grilleEnMain());
     }
 }
 
 void PageResultats::terminerSelection() {
     Atelier& atelier = contexte.atelier;
-    rangerGrilleEnMain();  // an incomplete one is dropped
+    if (grilleComplete()) atelier.ListeGrilles.push_back(grilleEnMain());
     (contexte.modes.ModeRecu ? atelier.ListeRecu : atelier.ListeChoix) = atelier.ListeGrilles;
     contexte.modes.ModeSelection = false;
     contexte.modes.ModeNormal = true;

@@ -19,7 +19,8 @@ bool Echelles::maximisee() const {
 
 Ouverture ouvertureFenetre(const QString& gardee, QRect disponible) {
     const QStringList parts = gardee.split(u',');
-    if (parts.size() == 4) {
+    const bool maximisee = parts.size() == 5 && parts.at(4).trimmed() == "max"_L1;
+    if (parts.size() == 4 || maximisee) {
         int v[4] = {};
         bool tout = true;
         for (int i = 0; i < 4; ++i) {
@@ -32,7 +33,7 @@ Ouverture ouvertureFenetre(const QString& gardee, QRect disponible) {
         const QRect visible = place.intersected(disponible);
         if (tout && v[2] >= 640 && v[3] >= 400 && visible.width() >= 320 &&
             visible.height() >= 240 && v[1] >= disponible.top()) {
-            return {place, false};
+            return {place, maximisee};
         }
     }
     QRect place(QPoint(), disponible.size() * 0.94);
@@ -40,8 +41,13 @@ Ouverture ouvertureFenetre(const QString& gardee, QRect disponible) {
     return {place, disponible.width() < 1500 || disponible.height() < 850};
 }
 
-QString texteGeometrie(QRect place) {
-    return u"%1,%2,%3,%4"_s.arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height());
+QString texteGeometrie(const Ouverture& ouverture) {
+    const QRect& p = ouverture.place;
+    return u"%1,%2,%3,%4%5"_s.arg(p.x())
+        .arg(p.y())
+        .arg(p.width())
+        .arg(p.height())
+        .arg(ouverture.maximisee ? u",max"_s : QString());
 }
 
 }  // namespace norvane::ui

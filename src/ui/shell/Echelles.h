@@ -26,11 +26,12 @@ struct Ouverture {
     bool maximisee;
 };
 
-/// The place kept as "x,y,largeur,hauteur" when it makes sense on a screen with this available
-/// area. Without one: nearly all of the area, or maximised where the screen is small.
+/// The place kept as "x,y,largeur,hauteur", with ",max" behind for a maximised window, when it
+/// makes sense on a screen with this available area. Without one: nearly all of the area, or
+/// maximised where the screen is small.
 Ouverture ouvertureFenetre(const QString& gardee, QRect disponible);
 
-/// The text kept for a place.
-QString texteGeometrie(QRect place);
+/// The text kept for it.
+QString texteGeometrie(const Ouverture& ouverture);
 
 }  // namespace norvane::ui

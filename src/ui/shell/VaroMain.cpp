@@ -294,10 +294,11 @@ void TVaroMainForm::closeEvent(QCloseEvent* evenement) {
         evenement->ignore();
         return;
     }
-    if (montree_ && !isMaximized()) {
+    if (montree_) {
         // A place that cannot be kept is not worth a question.
+        const Ouverture place{isMaximized() ? normalGeometry() : geometry(), isMaximized()};
         static_cast<void>(static_cast<bool>(contexte_.atelier.configuration.ecrire(
-            "CONFIGURATION", "Fenetre", texteGeometrie(geometry()).toStdString())));
+            "CONFIGURATION", "Fenetre", texteGeometrie(place).toStdString())));
     }
     evenement->accept();
     if (contexte_.atelier.Relance) {

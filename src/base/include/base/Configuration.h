@@ -23,7 +23,7 @@ struct Reglages {
     double DecalageImprimanteBordHaut = 0.0;    ///< millimetres, -50..50
     double DecalageImprimanteBordGauche = 0.0;  ///< millimetres, -50..50
     std::string Apparence = "auto";             ///< auto, claire or sombre
-    std::string Fenetre;  ///< geometry of the main window, x,y,w,h; empty: none
+    std::string Fenetre;  ///< place of the main window: x,y,w,h or x,y,w,h,max; empty: none
     // [MISES]
     std::array<double, 5> Mises = {2.2, 13.2, 46.2, 123.2, 277.2};  ///< key montants, `;` between
     // [MONNAIE]
