@@ -296,7 +296,8 @@ void TVaroMainForm::closeEvent(QCloseEvent* evenement) {
     }
     if (montree_) {
         // A place that cannot be kept is not worth a question.
-        const Ouverture place{isMaximized() ? normalGeometry() : geometry(), isMaximized()};
+        const QRect normale = normalGeometry();
+        const Ouverture place{normale.isValid() ? normale : geometry(), isMaximized()};
         static_cast<void>(static_cast<bool>(contexte_.atelier.configuration.ecrire(
             "CONFIGURATION", "Fenetre", texteGeometrie(place).toStdString())));
     }
