@@ -20,7 +20,7 @@ namespace {
 
 // What wins each rank: good numbers (N) and the Chance (C).
 constexpr std::array<const char16_t*, NbRangsLoto> RangsLoto{
-    u"5N + C", u"5N", u"4N + C", u"4N", u"3N + C", u"3N", u"2N + C", u"2N", u"1N + C ou C"};
+    u"5N + C", u"5N", u"4N + C", u"4N", u"3N + C", u"3N", u"2N + C", u"2N", u"0-1N + C"};
 constexpr std::array<const char16_t*, NbRangs2nd> Rangs2nd{u"5N", u"4N", u"3N", u"2N"};
 
 constexpr int HauteurLigne = 26;   // of the 800 x 600 design
