@@ -406,6 +406,7 @@ TableauExporte PageStats::tableauExporte() const {
     }
     for (int l = 0; l < modele.rowCount(); ++l) {
         std::vector<std::string> cellules;
+        cellules.reserve(NbColonnesStats);
         for (int c = 0; c < NbColonnesStats; ++c) {
             cellules.push_back(c == Ratio ? lignes_[static_cast<std::size_t>(modele.origine(l))]
                                                 .cellules[static_cast<std::size_t>(Ratio)]

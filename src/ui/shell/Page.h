@@ -4,6 +4,7 @@
 // What every page is given, and what it can ask of the main form.
 #pragma once
 
+#include <cmath>
 #include <QString>
 #include <QWidget>
 #include <string>
@@ -23,7 +24,7 @@ struct Contexte {
     double EchelleLargeur = 1.0;  ///< screen width / 800
 
     /// A length of the 800 x 600 design, in pixels of this screen.
-    int px(double longueur) const { return static_cast<int>(longueur * Echelle + 0.5); }
+    int px(double longueur) const { return static_cast<int>(std::lround(longueur * Echelle)); }
 
     /// The busy rule. True when work runs: the user has then been told, and the command must end.
     bool refuserSiOccupe();
