@@ -6,6 +6,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 preset=${1:-release}
 
 scripts/paquets.sh construire essais
-cmake --preset "$preset" -DNORVANE_TESTS=ON --log-level=WARNING >/dev/null
+mesures=OFF
+[ "$preset" = release ] && mesures=ON # built with the tests so that they never rot
+cmake --preset "$preset" -DNORVANE_TESTS=ON -DNORVANE_BENCH=$mesures --log-level=WARNING >/dev/null
 cmake --build --preset "$preset"
 ctest --preset "$preset"

@@ -22,7 +22,8 @@ Base BaseIntegree(bool globale) {
     std::memcpy(base.Tirages.data(), table.tirages + (table.nbAnciens - anciens),
                 static_cast<std::size_t>(nombre) * sizeof(Tirage));
     for (int i = 0; i < table.nbNouveaux; ++i) {
-        RapportsTirage& rapports = base.Rapports[static_cast<std::size_t>(anciens + i)];
+        RapportsTirage& rapports =
+            base.Rapports[static_cast<std::size_t>(anciens) + static_cast<std::size_t>(i)];
         const std::uint32_t* source = table.rapports[i];
         for (Rapport& rapport : rapports) {
             rapport.Gagnants = *source++;
