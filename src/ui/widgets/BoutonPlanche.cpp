@@ -14,6 +14,18 @@ namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
 
+void dessinerAllume(QPainter& peintre, const QRectF& aire, const QString& texte,
+                    const QFont& fonte, const QColor& fond) {
+    QPainterPath lettres;
+    const QRectF boite = QFontMetricsF(fonte).tightBoundingRect(texte);
+    lettres.addText(aire.center().x() - boite.center().x(), aire.center().y() - boite.center().y(),
+                    fonte, texte);
+    const double bord = std::max(2.0, std::min(aire.width(), aire.height()) * 0.06);
+    peintre.strokePath(lettres, QPen(fond.darker(230), bord, Qt::SolidLine, Qt::RoundCap,
+                                     Qt::RoundJoin));
+    peintre.fillPath(lettres, QColor(CouleurTexteAllume));
+}
+
 BoutonPlanche::BoutonPlanche(GenreStats genre, int valeur, QWidget* parent)
     : QAbstractButton(parent), genre_(genre), valeur_(valeur) {
     const bool numero = genre == GenreStats::Numeros;
@@ -95,15 +107,8 @@ void BoutonPlanche::paintEvent(QPaintEvent*) {
     fonte.setBold(allume_ || enfonce_);
     p.setFont(fonte);
     const QRectF texte = bas && !enfonce_ ? aire.translated(0, 1) : aire;
-    if (allume_ && !enfonce_) {  // yellow on the lit fill needs an edge to be read
-        QPainterPath lettres;
-        const QFontMetricsF mesure(fonte);
-        const QRectF boite = mesure.tightBoundingRect(text());
-        lettres.addText(texte.center().x() - boite.center().x(),
-                        texte.center().y() - boite.center().y(), fonte, text());
-        p.strokePath(lettres, QPen(couleur.darker(230), std::max(2.0, cote * 0.06), Qt::SolidLine,
-                                   Qt::RoundCap, Qt::RoundJoin));
-        p.fillPath(lettres, police());
+    if (allume_ && !enfonce_) {
+        dessinerAllume(p, texte, text(), fonte, couleur);
     } else {
         p.setPen(enfonce_ && !allume_ ? t.accent : police());
         p.drawText(texte, Qt::AlignCenter, text());

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The choice of a ticket type and of how many tickets the program is to draw.
+#pragma once
+
+#include <QWidget>
+
+#include "tickets/Grille.h"
+
+class QButtonGroup;
+class QLabel;
+class QLayout;
+class QPushButton;
+
+namespace norvane::ui {
+
+class ChampNumero;
+class HautBas;
+
+class PanneauAleatoire final : public QWidget {
+    Q_OBJECT
+
+ public:
+    explicit PanneauAleatoire(QWidget* parent);
+
+    /// At most `reste` tickets can be asked for; Edit24 shows that figure.
+    void poserReste(int reste);
+    TypeGrille type() const;
+    int nombre() const;
+
+ Q_SIGNALS:
+    void ButtonAleatoireClick();
+
+ private:
+    QWidget* creerTypes();
+    QLayout* creerNombre();
+    void deplacer(int pas);
+    void borner();
+
+    int reste_ = 0;
+    QButtonGroup* types_ = nullptr;
+    ChampNumero* Edit24 = nullptr;
+    HautBas* UpDown24 = nullptr;
+    QLabel* surReste_ = nullptr;
+    QPushButton* ButtonAleatoire = nullptr;
+};
+
+}  // namespace norvane::ui
