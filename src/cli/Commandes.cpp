@@ -23,6 +23,8 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
     commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));
     commandes.push_back(std::make_unique<CommandeStatsChances>(stats));
+    commandes.push_back(std::make_unique<CommandeVerifier>(racine));
+    commandes.push_back(std::make_unique<CommandeBilan>(racine));
     return commandes;
 }
 

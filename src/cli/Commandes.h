@@ -7,6 +7,8 @@
 #include <CLI/CLI.hpp>
 #include <iosfwd>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "Contexte.h"
@@ -27,6 +29,7 @@ class Commande {
 
  protected:
     explicit Commande(CLI::App* app) : app_(app) {}
+    CLI::App& app() { return *app_; }
 
  private:
     CLI::App* app_;  // owned by its parent
@@ -54,6 +57,25 @@ class CommandeStatsChances : public Commande {
  public:
     explicit CommandeStatsChances(CLI::App& stats);
     Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+class CommandeVerifier : public Commande {
+ public:
+    explicit CommandeVerifier(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string fichier_;
+    std::optional<long> tirage_;  ///< one-based draw number, unchecked
+};
+
+class CommandeBilan : public Commande {
+ public:
+    explicit CommandeBilan(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string fichier_;
 };
 
 /// Declares all commands on `racine`, in the order of its help.

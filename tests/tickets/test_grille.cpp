@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Contenu.h"
-#include "tickets/Grille.h"
+#include "tickets/FichiersGrilles.h"
 
 namespace norvane {
 namespace {
