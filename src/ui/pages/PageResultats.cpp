@@ -7,22 +7,27 @@
 
 #include <algorithm>
 #include <QCalendarWidget>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QPainter>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 
 #include "base/Dates.h"
 #include "base/Textes.h"
+#include "pages/CalculGains.h"
+#include "pages/FicheGrille.h"
+#include "pages/PanneauAleatoire.h"
+#include "pages/SaisieGrilles.h"
+#include "pages/SaisieJoker.h"
 #include "shell/Theme.h"
 #include "widgets/BandeTirage.h"
 #include "widgets/ChampNumero.h"
+#include "widgets/Fiche.h"
 #include "widgets/PlancheNumeros.h"
 #include "widgets/TableRapports.h"
 
@@ -30,83 +35,16 @@ namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// A panel that stands on the window.
-class Fiche final : public QFrame {
- public:
-    explicit Fiche(QWidget* parent) : QFrame(parent) {
-        pile = new QVBoxLayout(this);
-        pile->setContentsMargins(2 * Unite, 2 * Unite - 2, 2 * Unite, 2 * Unite - 2);
-        pile->setSpacing(Unite);
-    }
-    QVBoxLayout* pile;
-
- protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        const Teintes t = teintes(palette());
-        p.setPen(t.bordure);
-        p.setBrush(t.carte);
-        p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
-    }
-};
-
-/// Secondary text, in a colour that follows the palette.
-QLabel* legende(const QString& texte, QWidget* parent) {
-    auto* etiquette = new QLabel(texte, parent);
-    etiquette->setForegroundRole(QPalette::PlaceholderText);
-    return etiquette;
-}
-
-void grossir(QWidget* cible, double facteur) {
-    QFont fonte = cible->font();
-    fonte.setPixelSize(static_cast<int>(QFontInfo(fonte).pixelSize() * facteur + 0.5));
-    fonte.setBold(true);
-    cible->setFont(fonte);
-}
-
-QLabel* valeur(const QString& nom, const QString& libelle, QWidget* parent) {
-    auto* etiquette = new QLabel(parent);
-    etiquette->setObjectName(nom);
-    etiquette->setAccessibleName(libelle);
-    grossir(etiquette, 1.2);
-    return etiquette;
-}
-
-/// A control with its caption above it.
-QVBoxLayout* colonne(const QString& titre, QLayout* contenu, QWidget* parent) {
-    auto* pile = new QVBoxLayout;
-    pile->setSpacing(2);
-    pile->addWidget(legende(titre, parent));
-    pile->addLayout(contenu);
-    return pile;
-}
-
-QHBoxLayout* rangee(std::initializer_list<QWidget*> widgets) {
-    auto* ligne = new QHBoxLayout;
-    ligne->setSpacing(Unite / 2);
-    for (QWidget* widget : widgets) ligne->addWidget(widget);
-    return ligne;
-}
-
-QPushButton* bouton(const QString& nom, const QString& libelle, const QString& indice,
-                    QWidget* parent) {
-    auto* b = new QPushButton(libelle, parent);
-    b->setObjectName(nom);
-    b->setMinimumSize(b->sizeHint().width() + 4 * Unite, b->fontMetrics().height() + 3 * Unite);
-    poserIndice(b, indice);
-    return b;
-}
-
-}  // namespace
-
 PageResultats::PageResultats(Contexte& ctx, QWidget* parent) : Page(ctx, parent) {
     setObjectName(u"Varo1"_s);
     construire();
     poserLimites();
+    saisie_ = new SaisieGrilles(contexte, *planche_, *fiche_, *aleatoire_, *joker_);
+    saisie_->setParent(this);
+    gains_ = new CalculGains(contexte, *VerifGains, *jauge_);
+    gains_->setParent(this);
     relier();
+    relierBillets();
     majCommandes();
     majFicheGrille();
 }
@@ -120,7 +58,8 @@ void PageResultats::construire() {
     auto* droite = new QVBoxLayout;
     droite->setSpacing(2 * Unite);
     droite->addWidget(creerFicheRapports());
-    droite->addWidget(creerFicheGrille(), 1);
+    fiche_ = new FicheGrille(this);
+    droite->addWidget(fiche_, 1);
     auto* haut = new QHBoxLayout;
     haut->setSpacing(2 * Unite);
     haut->addLayout(gauche, 19);
@@ -200,7 +139,15 @@ QFrame* PageResultats::creerFicheTirage() {
     boules->setSpacing(0);
     boules->addWidget(bande_, 0, Qt::AlignBottom);
     boules->addStretch(1);
-    boules->addLayout(colonne(u"Joker+"_s, rangee({MaskEdit1}), fiche));
+    // The place stays when the entry of a receipt borrows the field.
+    caseJoker_ = new QWidget(fiche);
+    caseJoker_->setMinimumWidth(MaskEdit1->width());
+    caseJoker_->setLayout(colonne(u"Joker+"_s, placeJoker_ = rangee({MaskEdit1}), caseJoker_));
+    caseJoker_->layout()->setContentsMargins(0, 0, 0, 0);
+    QSizePolicy garde = caseJoker_->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    caseJoker_->setSizePolicy(garde);
+    boules->addWidget(caseJoker_);
     fiche->pile->addLayout(boules);
     return fiche;
 }
@@ -214,47 +161,16 @@ QFrame* PageResultats::creerFicheRapports() {
     rapports_->addWidget(AdvStringGrid6);
     rapports_->addWidget(AdvStringGrid8);
     rapports_->setFixedHeight(AdvStringGrid6->sizeHint().height());
-    fiche->pile->addWidget(titreRapports_);
-    fiche->pile->addWidget(rapports_);
-    return fiche;
-}
-
-QFrame* PageResultats::creerFicheGrille() {
-    auto* fiche = new Fiche(this);
-    LabelSelection = valeur(u"LabelSelection"_s, {}, fiche);
-    Edit1 = new ChampNumero(u"Edit1"_s, fiche);
-    Edit1->setAccessibleName(u"Numéro de la grille"_s);
-    Edit1->setFixedWidth(Edit1->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
-    UpDown = new HautBas(u"UpDown"_s, fiche);
-    for (QWidget* w : {static_cast<QWidget*>(Edit1), static_cast<QWidget*>(UpDown)}) {
-        poserIndice(w, u"Sélection de grilles par numéro"_s);
+    aleatoire_ = new PanneauAleatoire(fiche);
+    joker_ = new SaisieJoker(contexte, fiche);
+    joker_->emprunter(MaskEdit1);
+    volet_ = new QStackedWidget(fiche);
+    for (QWidget* w : {static_cast<QWidget*>(rapports_), static_cast<QWidget*>(aleatoire_),
+                       static_cast<QWidget*>(joker_)}) {
+        volet_->addWidget(w);
     }
-    surGrilles_ = legende({}, fiche);
-    choixGrille_ = new QWidget(fiche);
-    auto* choix = rangee({Edit1, UpDown, surGrilles_});
-    choix->setContentsMargins(0, 0, 0, 0);
-    choixGrille_->setLayout(choix);
-    QSizePolicy garde = choixGrille_->sizePolicy();
-    garde.setRetainSizeWhenHidden(true);
-    choixGrille_->setSizePolicy(garde);
-    auto* tete = new QHBoxLayout;
-    tete->addWidget(LabelSelection);
-    tete->addStretch(1);
-    tete->addWidget(choixGrille_);
-
-    compteGrille_ = new QLabel(fiche);
-    compteGrille_->setObjectName(u"LabelCompteGrille"_s);
-    compteGrille_->setWordWrap(true);
-    LabelMiseF = valeur(u"LabelMiseF"_s, u"Mise de la grille"_s, fiche);
-    auto* corps = new QHBoxLayout;
-    corps->addWidget(compteGrille_, 1);
-    corps->addWidget(LabelMiseF);
-    CheckBox2ND = new QCheckBox(u"Option 2nd Tirage"_s, fiche);
-    CheckBox2ND->setObjectName(u"CheckBox2ND"_s);
-    fiche->pile->addLayout(tete);
-    fiche->pile->addLayout(corps);
-    fiche->pile->addWidget(CheckBox2ND);
-    fiche->pile->addStretch(1);
+    fiche->pile->addWidget(titreRapports_);
+    fiche->pile->addWidget(volet_);
     return fiche;
 }
 
@@ -279,14 +195,28 @@ QHBoxLayout* PageResultats::creerBoutons() {
     MajBaseManuelle = bouton(u"MajBaseManuelle"_s, u"&Mise à jour"_s,
                              u"Mise à jour des tirages (mode manuel)"_s, this);
     MajBaseManuelle->setEnabled(false);  // editing by hand comes with a later version
+    ChargerGrilles =
+        bouton(u"ChargerGrilles"_s, u"O&uvrir"_s, u"Ouvrir Grilles ou Reçus"_s, this);
+    ButtonSauverGrilles = bouton(u"ButtonSauverGrilles"_s, u"&Enregistrer"_s,
+                                 u"Enregistrer les grilles sélectionnées"_s, this);
+    VerifGains = bouton(u"VerifGains"_s, u"&Vérifier gains"_s, {}, this);
+    jauge_ = new QProgressBar(this);
+    jauge_->setObjectName(u"ProgressBarBilan"_s);
+    jauge_->setAccessibleName(u"Avancement du bilan"_s);
+    jauge_->setFixedWidth(24 * Unite);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(Unite + 2);
     // What comes and goes stands where it moves no other: the pointer stays on its button.
     for (QPushButton* b : {ReInit, CommunsButton, DeSelect}) ligne->addWidget(b);
     ligne->addStretch(1);
-    for (QPushButton* b : {NormalMode, SelectGrilles, Consultation, MajBaseManuelle}) {
+    ligne->addWidget(jauge_);
+    for (QPushButton* b : {NormalMode, VerifGains, ChargerGrilles, ButtonSauverGrilles,
+                           SelectGrilles, Consultation, MajBaseManuelle}) {
         ligne->addWidget(b);
     }
+    QSizePolicy garde = ButtonSauverGrilles->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    ButtonSauverGrilles->setSizePolicy(garde);
     return ligne;
 }
 
@@ -303,8 +233,9 @@ void PageResultats::relier() {
     });
     connect(UpDown1, &HautBas::deplacement, this, &PageResultats::deplacer);
     connect(planche_, &PlancheNumeros::appui, this, &PageResultats::presser);
-    connect(planche_, &PlancheNumeros::etatChange, this, &PageResultats::majFicheGrille);
-    connect(CheckBox2ND, &QCheckBox::toggled, this, &PageResultats::majFicheGrille);
+    connect(planche_, &PlancheNumeros::etatChange, this, [this] {
+        if (saisie_->etat() == EtatTickets::Normal) majFicheGrille();
+    });
     connect(CommunsButton, &QPushButton::toggled, this, [this](bool bas) {
         QFont fonte = CommunsButton->font();
         fonte.setBold(bas);
@@ -313,21 +244,43 @@ void PageResultats::relier() {
     });
     connect(DeSelect, &QPushButton::clicked, this, &PageResultats::DeSelectClick);
     connect(ReInit, &QPushButton::clicked, this, &PageResultats::ReInitClick);
-    connect(SelectGrilles, &QPushButton::clicked, this, &PageResultats::SelectGrillesClick);
-    connect(NormalMode, &QPushButton::clicked, this, &PageResultats::NormalModeClick);
-    connect(Consultation, &QPushButton::clicked, this, &PageResultats::ConsultationClick);
-    connect(Edit1, &QLineEdit::textChanged, this, [this](const QString& texte) {
-        if (!garde_ && !texte.isEmpty()) deplacerGrille(texte.toInt());
-    });
-    connect(Edit1, &ChampNumero::deplacement, this,
-            [this](int pas) { deplacerGrille(grille_ + pas); });
-    connect(Edit1, &ChampNumero::extremite, this, [this](bool derniere) {
-        deplacerGrille(derniere ? static_cast<int>(contexte.atelier.ListeGrilles.size()) : 1);
-    });
-    connect(UpDown, &HautBas::deplacement, this,
-            [this](int pas) { deplacerGrille(grille_ + pas); });
     connect(DateTimePicker->calendarWidget(), &QCalendarWidget::currentPageChanged, this,
             &PageResultats::marquerCalendrier);
+}
+
+void PageResultats::relierBillets() {
+    const auto geste = [this](QPushButton* b, void (SaisieGrilles::*methode)()) {
+        connect(b, &QPushButton::clicked, saisie_, methode);
+    };
+    geste(SelectGrilles, &SaisieGrilles::SelectGrillesClick);
+    geste(NormalMode, &SaisieGrilles::NormalModeClick);
+    geste(Consultation, &SaisieGrilles::ConsultationClick);
+    geste(ButtonSauverGrilles, &SaisieGrilles::ButtonSauverGrillesClick);
+    geste(ChargerGrilles, &SaisieGrilles::ChargerGrillesClick);
+    connect(VerifGains, &QPushButton::clicked, this,
+            [this] { gains_->VerifGainsClick(indice_); });
+    connect(saisie_, &SaisieGrilles::etatChange, this, &PageResultats::changerMode);
+    connect(saisie_, &SaisieGrilles::plancheRendue, this, [this] {
+        rendrePlanche();
+        majCommandes();
+        majFicheGrille();
+        SelectGrilles->setFocus();
+    });
+    connect(saisie_, &SaisieGrilles::dateDemandee, this, &PageResultats::choisirDate);
+    connect(saisie_, &SaisieGrilles::gainsChange, this, [this](const SaisieGrilles::Gains& gains) {
+        AdvStringGrid6->setFacteurs(gains.second ? ComptesRangs{} : gains.comptes);
+        AdvStringGrid8->setFacteurs(gains.second ? gains.comptes : ComptesRangs{});
+    });
+    connect(joker_, &SaisieJoker::etapeChange, this, &PageResultats::majCommandes);
+    connect(joker_, &SaisieJoker::masqueRendu, this, [this] {
+        placeJoker_->addWidget(MaskEdit1);
+        MaskEdit1->show();
+        AfficherNumeroAnnee();
+        majCommandes();
+    });
+    connect(gains_, &CalculGains::actionChange, this, &PageResultats::majCommandes);
+    connect(gains_, &CalculGains::traitementFini, this, &Page::traitementFini);
+    connect(gains_, &CalculGains::texteEtat, this, &Page::texteEtat);
 }
 
 void PageResultats::poserLimites() {

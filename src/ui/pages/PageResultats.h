@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The page "Résultats": one draw at a time, the board, the free choice and the entry of tickets.
+// The page "Résultats": one draw at a time, the board and its free choice; the tickets stand in
+// SaisieGrilles, their reports in CalculGains.
 #pragma once
 
 #include <array>
@@ -9,23 +10,29 @@
 
 #include "shell/Page.h"
 
-class QCheckBox;
 class QComboBox;
 class QDateEdit;
 class QFrame;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QPushButton;
 class QStackedWidget;
 
 namespace norvane::ui {
 
 class BandeTirage;
+class CalculGains;
 class ChampNumero;
+class FicheGrille;
 class HautBas;
+class PanneauAleatoire;
 class PlancheNumeros;
+class SaisieGrilles;
+class SaisieJoker;
 class TableRapports;
+enum class EtatTickets;
 
 /// Numbers and chances of the free choice, ascending.
 struct ChoixLibre {
@@ -50,9 +57,12 @@ class PageResultats final : public Page {
     /// Presses the button of a number or a Chance if it is up. Does nothing while tickets are
     /// entered.
     void appuyer(GenreStats genre, int element);
-    /// The window closes during an entry: a ticket in hand with three numbers or more goes to the
-    /// list as it stands, one with fewer is dropped.
+    /// The window closes during an entry: what becomes of the ticket in hand is SaisieGrilles's.
     void rangerGrilleEnMain();
+    /// The balance in progress stops soon.
+    void arreterBilan();
+    /// Copies lines of a list to the stock of grids and opens the consultation on it.
+    void CopierversBulletins(const std::vector<Grille>& grilles);
 
     /// What is held down in a free choice, in progress or validated.
     ChoixLibre choixLibre() const;
@@ -68,15 +78,16 @@ class PageResultats final : public Page {
     void construire();
     QFrame* creerFicheTirage();
     QFrame* creerFicheRapports();
-    QFrame* creerFicheGrille();
     QHBoxLayout* creerBoutons();
     void relier();
+    void relierBillets();
     void poserLimites();
 
     // Browsing and display.
     const Base& base() const { return contexte.atelier.base; }
     int dateChoisie() const;
     void ChoisirSousTirage();
+    void choisirDate(int date);
     void deplacer(int pas);
     void reglerSelecteur(int date);
     int selonSelecteur(int indice);
@@ -97,20 +108,11 @@ class PageResultats final : public Page {
     void basculer(int place, bool durable);
     void DeSelectClick();
     void ReInitClick();
-    void SelectGrillesClick();
-    void NormalModeClick();
-    void ConsultationClick();
-    bool commencerSelection();
-    void terminerSelection();
-    void terminerConsultation();
     void rendrePlanche();
-    void cocher(int place);
-    bool grilleComplete() const;
-    Grille grilleEnMain() const;
-    void montrerGrille(int numero);
-    void deplacerGrille(int numero);
     void changerMode();
     void majCommandes();
+    void majCommandesFiche();
+    void majVolet();
     void majFicheGrille();
 
     // State.
@@ -120,7 +122,7 @@ class PageResultats final : public Page {
     bool garde_ = false;         ///< a handler is at work: what it changes calls no other
     bool choixEnCours_ = false;  ///< "&OK!" stands on ReInit
     std::array<std::uint8_t, NumeroMax + ChanceMax> choix_{};  ///< the free choice, by place
-    int grille_ = 0;  ///< one-based ticket on show in the consultation
+    EtatTickets modeDit_{};  ///< what the form was last told
 
     // Controls; their object names are the ones that the handlers above speak of.
     QDateEdit* DateTimePicker = nullptr;
@@ -132,19 +134,19 @@ class PageResultats final : public Page {
     QLabel* LabelTirageFixeAn = nullptr;
     BandeTirage* bande_ = nullptr;
     QLineEdit* MaskEdit1 = nullptr;
+    QWidget* caseJoker_ = nullptr;
+    QHBoxLayout* placeJoker_ = nullptr;
     QLabel* titreRapports_ = nullptr;
+    QStackedWidget* volet_ = nullptr;  ///< rapports_, or a panel of the entry
     QStackedWidget* rapports_ = nullptr;
     TableRapports* AdvStringGrid6 = nullptr;
     TableRapports* AdvStringGrid8 = nullptr;
     PlancheNumeros* planche_ = nullptr;
-    QLabel* LabelSelection = nullptr;
-    QLabel* compteGrille_ = nullptr;
-    QLabel* LabelMiseF = nullptr;
-    QCheckBox* CheckBox2ND = nullptr;
-    QWidget* choixGrille_ = nullptr;
-    ChampNumero* Edit1 = nullptr;
-    HautBas* UpDown = nullptr;
-    QLabel* surGrilles_ = nullptr;
+    FicheGrille* fiche_ = nullptr;
+    PanneauAleatoire* aleatoire_ = nullptr;
+    SaisieJoker* joker_ = nullptr;
+    SaisieGrilles* saisie_ = nullptr;
+    CalculGains* gains_ = nullptr;
     QPushButton* CommunsButton = nullptr;
     QPushButton* DeSelect = nullptr;
     QPushButton* ReInit = nullptr;
@@ -152,6 +154,10 @@ class PageResultats final : public Page {
     QPushButton* Consultation = nullptr;
     QPushButton* NormalMode = nullptr;
     QPushButton* MajBaseManuelle = nullptr;
+    QPushButton* VerifGains = nullptr;
+    QPushButton* ChargerGrilles = nullptr;
+    QPushButton* ButtonSauverGrilles = nullptr;
+    QProgressBar* jauge_ = nullptr;
 };
 
 }  // namespace norvane::ui

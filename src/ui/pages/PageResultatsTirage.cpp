@@ -15,6 +15,7 @@
 
 #include "base/Dates.h"
 #include "pages/PageResultats.h"
+#include "pages/SaisieGrilles.h"
 #include "shell/Theme.h"
 #include "widgets/BandeTirage.h"
 #include "widgets/ChampNumero.h"
@@ -182,6 +183,7 @@ void PageResultats::afficher(int indice) {
     afficherCellules();
     eclairer();
     AfficherStatsBoutons();
+    saisie_->poserTirage(indice);
 }
 
 void PageResultats::afficherAbsence() {
@@ -195,6 +197,15 @@ void PageResultats::afficherAbsence() {
     bande_->vider();
     eclairer();
     AfficherStatsBoutons();
+    saisie_->poserTirage(-1);
+}
+
+/// A date that may lie ahead: the receipt of a draw to come.
+void PageResultats::choisirDate(int date) {
+    const QDate voulue = enQDate(date);
+    if (voulue > DateTimePicker->maximumDate()) DateTimePicker->setMaximumDate(voulue);
+    DateTimePicker->setDate(voulue);
+    ChoisirParDate();
 }
 
 /// Cells and prize table in the form that date and selector ask for.
@@ -202,8 +213,7 @@ void PageResultats::disposer(int date) {
     bande_->disposer(!selecteur2nd() && date >= DateNouveauLoto);
     rapports_->setCurrentWidget(selecteur2nd() && date >= DateSecondTirage ? AdvStringGrid8
                                                                            : AdvStringGrid6);
-    titreRapports_->setText(selecteur2nd() ? u"Rapports du 2nd Tirage"_s
-                                           : u"Rapports du 1er Tirage"_s);
+    majVolet();
 }
 
 void PageResultats::AfficherRapports() {
@@ -233,7 +243,8 @@ void PageResultats::AfficherNumeroAnnee() {
     }
     LabelTirageFixeAn->setText(annee);
     LabelTirageFixeNum->setText(numero);
-    MaskEdit1->setText(joker);
+    // The field may be lent to the entry of a receipt.
+    if (MaskEdit1->inputMask().isEmpty()) MaskEdit1->setText(joker);
 }
 
 void PageResultats::afficherCellules() {
@@ -254,7 +265,8 @@ void PageResultats::afficherCellules() {
 
 /// The board belongs to the draw unless numbers are being chosen on it.
 bool PageResultats::plancheLibre() const {
-    return !choixEnCours_ && !contexte.modes.ModeSelection;
+    return !choixEnCours_ && (saisie_->etat() == EtatTickets::Normal ||
+                              saisie_->etat() == EtatTickets::Consultation);
 }
 
 void PageResultats::eclairer() {

@@ -250,6 +250,7 @@ void PageStats::reposerBornes() {
     intervalle_->poser(n, 1, n);
     intervalle_->poserAttenteSaisie(genre_ == GenreStats::Chances && !base.AnciensTirages);
     intervalle_->setEnabled(n >= 2);
+    direIntervalle();
     boutonSauver_->setEnabled(n >= 2);
     boutonImprimer_->setEnabled(n >= 2);
     if (n >= 2) {
@@ -259,6 +260,13 @@ void PageStats::reposerBornes() {
     libelle_->clear();
     lignes_.clear();
     table_->remplir({});
+}
+
+/// Other pages work over the interval of "Numéros".
+void PageStats::direIntervalle() {
+    if (genre_ != GenreStats::Numeros) return;
+    contexte.StatsInf = intervalle_->inf();
+    contexte.StatsSup = intervalle_->sup();
 }
 
 void PageStats::remplirDemarrage() {
@@ -278,6 +286,7 @@ void PageStats::surDepart() {
 void PageStats::remplirParControles() {
     const Base& base = contexte.atelier.base;
     if (base.NbTirages < 2) return;
+    direIntervalle();
     libelle_->setText(versQt(LibelleIntervalle(base, intervalle_->inf(), intervalle_->sup())));
     remplir(intervalle_->sup() - 1, intervalle_->inf() - 1);
 }

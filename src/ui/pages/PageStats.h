@@ -55,6 +55,7 @@ class PageStats final : public Page {
     void poserOrdreTabulation();
 
     void reposerBornes();
+    void direIntervalle();
     void remplirParControles();
     void remplir(int dernier, int premier);
     void poserLignes(std::vector<LigneStats> lignes, int dernier, int premier);

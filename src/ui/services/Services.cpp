@@ -22,8 +22,9 @@ class DialoguesFichiersEcran final : public DialoguesFichiers {
         return QFileDialog::getSaveFileName(parent, titre, nomPropose, filtres, &filtreChoisi);
     }
     QString ouvrir(QWidget* parent, const QString& titre, const QString& dossier,
-                   const QString& filtres) override {
-        return QFileDialog::getOpenFileName(parent, titre, dossier, filtres);
+                   const QString& filtres, const QString& filtrePreset) override {
+        QString filtre = filtrePreset;
+        return QFileDialog::getOpenFileName(parent, titre, dossier, filtres, &filtre);
     }
 };
 

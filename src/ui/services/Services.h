@@ -25,8 +25,10 @@ class DialoguesFichiers {
     /// return `filtreChoisi` is the chosen one. Overwriting is confirmed. Empty when cancelled.
     virtual QString enregistrer(QWidget* parent, const QString& titre, const QString& nomPropose,
                                 const QString& filtres, QString& filtreChoisi) = 0;
+    /// Asks for a file that exists; `filtrePreset` is one of `filtres`, empty for the first. Empty
+    /// when cancelled.
     virtual QString ouvrir(QWidget* parent, const QString& titre, const QString& dossier,
-                           const QString& filtres) = 0;
+                           const QString& filtres, const QString& filtrePreset = {}) = 0;
 };
 
 /// The choice of a printer or a PDF file.

@@ -61,8 +61,9 @@ bool Fermeture::fermerSelection() {
                                                     u"Confirmation"_s) != CodeBouton1) {
         return false;
     }
-    if (contexte_.modes.ModeSelection) rangerGrilleEnMain();
+    // The place in hand counts, whatever becomes of it.
     const bool enCours = atelier.ListeGrilles.size() > 1 || atelier.ListeChoix.empty();
+    if (contexte_.modes.ModeSelection) rangerGrilleEnMain();
     return sauverGrilles(enCours ? atelier.ListeGrilles : atelier.ListeChoix) && sauverBase() &&
            restaurerFiltre();
 }

@@ -22,6 +22,9 @@ struct Contexte {
     Modes& modes;
     double Echelle = 1.0;         ///< screen height / 600: factor of every size set in pixels
     double EchelleLargeur = 1.0;  ///< screen width / 800
+    // Draws chosen on the page "Numéros", one-based; the whole base until that page stands.
+    int StatsInf = 1;
+    int StatsSup = 0;
 
     /// A length of the 800 x 600 design, in pixels of this screen.
     int px(double longueur) const { return static_cast<int>(std::lround(longueur * Echelle)); }
@@ -58,6 +61,8 @@ class Page : public QWidget {
     void historiqueDemande(norvane::GenreStats genre, int element, int inf, int sup);
     /// A mode flag changed: the form rewrites the label and lets it blink.
     void modeChange();
+    /// A worker ended: its busy count goes back to the form.
+    void traitementFini();
     /// Text of long work for the first panel of the status bar.
     void texteEtat(const QString& texte);
 

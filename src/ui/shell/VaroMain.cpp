@@ -131,6 +131,7 @@ void TVaroMainForm::creerPages() {
         relier(page);
     }
     connect(pages_, &QTabWidget::currentChanged, this, &TVaroMainForm::changerPage);
+    connect(this, &TVaroMainForm::arretDemande, resultats_, &PageResultats::arreterBilan);
     setCentralWidget(pages_);
 }
 
@@ -138,6 +139,7 @@ void TVaroMainForm::relier(Page* page) {
     connect(page, &Page::tirageDemande, this, &TVaroMainForm::montrerTirage);
     connect(page, &Page::historiqueDemande, this, &TVaroMainForm::ouvrirHistorique);
     connect(page, &Page::modeChange, this, &TVaroMainForm::changerMode);
+    connect(page, &Page::traitementFini, this, &TVaroMainForm::finTraitement);
     connect(page, &Page::texteEtat, this, [this](const QString& t) {
         texteTravail_ = !t.isEmpty();
         dire(t);

@@ -18,6 +18,8 @@
 
 namespace norvane::ui::essais {
 
+using namespace Qt::StringLiterals;
+
 class MessagesScriptes final : public Messages {
  public:
     std::deque<int> reponses;      ///< answers to come; the first button when none is left
@@ -37,12 +39,16 @@ class FichiersScriptes final : public DialoguesFichiers {
  public:
     QString reponse;  ///< the next path, empty to cancel
     QString filtre;   ///< the filter chosen with it
-    QString enregistrer(QWidget*, const QString&, const QString&, const QString&,
+    QStringList demandes;  ///< of each dialog so far: title, filters and preset filter
+    QString enregistrer(QWidget*, const QString& titre, const QString&, const QString& filtres,
                         QString& filtreChoisi) override {
+        demandes << titre + u"|"_s + filtres;
         filtreChoisi = filtre;
         return reponse;
     }
-    QString ouvrir(QWidget*, const QString&, const QString&, const QString&) override {
+    QString ouvrir(QWidget*, const QString& titre, const QString&, const QString& filtres,
+                   const QString& filtrePreset) override {
+        demandes << titre + u"|"_s + filtres + u"|"_s + filtrePreset;
         return reponse;
     }
 };

@@ -14,6 +14,7 @@
 #include "comb/EtatCombinaisons.h"
 #include "stats/Occurrences.h"
 #include "tickets/Grille.h"
+#include "tickets/Rangs.h"
 
 namespace norvane {
 
@@ -27,6 +28,7 @@ struct Atelier {
     std::vector<Grille> ListeGrilles;  ///< the working list of tickets
     std::vector<Grille> ListeRecu;     ///< the tickets of the receipt in memory
     std::vector<Grille> ListeChoix;    ///< the stock of grids
+    std::vector<LigneJoker> ListeJoker;  ///< the Joker+ lines of the receipt
 
     int TraitementsEnCours = 0;     ///< workers alive
     bool Disponible = true;         ///< no long operation runs

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pages/CalculGains.h"
+
+#include <algorithm>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include "base/Fichiers.h"
+#include "shell/Page.h"
+#include "tickets/Bilan.h"
+#include "tickets/Verification.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct TextesAction {
+    const char16_t* titre;
+    const char16_t* indice;
+};
+/// By Action.
+constexpr TextesAction Textes[] = {
+    {u"&Vérifier gains",
+     u"Calcul des gains pour toutes les grilles (voir le fichier \"Lotoveri.dat\")\n"},
+    {u"&Bilan Gains",
+     u"Bilan des gains pour toutes les grilles (voir le fichier \"Bilan.dat\")|Bilan effectué selon "
+     u"l'intervalle des tirages choisi dans l'onglet \"Numéros\""},
+    {u"STOP", u"Arrêter le bilan des gains"},
+};
+
+Monnaie monnaieDe(const Reglages& reglages) {
+    return {reglages.SymboleMonnaie, reglages.TauxConversion};
+}
+
+}  // namespace
+
+CalculGains::CalculGains(Contexte& ctx, QPushButton& VerifGains, QProgressBar& jauge)
+    : contexte_(ctx), VerifGains_(VerifGains), jauge_(jauge) {
+    jauge_.setRange(0, 100);
+    poser(Action::Verifier);
+}
+
+CalculGains::~CalculGains() = default;
+
+void CalculGains::poser(Action action) {
+    action_ = action;
+    const TextesAction& textes = Textes[static_cast<int>(action)];
+    VerifGains_.setText(QString::fromUtf16(textes.titre));
+    poserIndice(&VerifGains_, QString::fromUtf16(textes.indice));
+    jauge_.setVisible(action == Action::Arreter);
+    Q_EMIT actionChange();
+}
+
+void CalculGains::poserBilan(bool bilan) {
+    const Action action = bilan ? Action::Bilan : Action::Verifier;
+    if (action_ != Action::Arreter && action_ != action) poser(action);
+}
+
+void CalculGains::VerifGainsClick(int tirage) {
+    if (action_ == Action::Arreter) {
+        arreter();
+        return;
+    }
+    if (contexte_.refuserSiOccupe()) return;
+    if (action_ == Action::Bilan) {
+        lancerBilan();
+    } else {
+        verifier(tirage);
+    }
+}
+
+void CalculGains::verifier(int tirage) {
+    Messages& messages = *contexte_.services.messages;
+    const Atelier& atelier = contexte_.atelier;
+    if (tirage < 0) {
+        messages.MessageAvertissement(u"Il faut d'abord sélectionner un tirage en mémoire..."_s,
+                                      u"Avertissement"_s);
+        return;
+    }
+    if (atelier.ListeGrilles.empty()) {
+        messages.MessageInfo(u"Aucune grille sélectionnée..."_s, u"Message"_s,
+                             u"Cliquez sur le bouton Sélection afin de saisir des grilles."_s);
+        return;
+    }
+    publier(NomVerification,
+            RedigerVerification(atelier.base, tirage + 1, atelier.ListeGrilles, atelier.ListeJoker,
+                                monnaieDe(atelier.configuration.reglages)));
+}
+
+/// Writes a report and opens it with the desktop's viewer.
+void CalculGains::publier(const char* nom, const std::string& texte) {
+    Messages& messages = *contexte_.services.messages;
+    const auto fichier = contexte_.atelier.fichier(nom);
+    if (const auto ecrit = EcrireFichier(fichier, texte); !ecrit) {
+        messages.MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
+        return;
+    }
+    if (!contexte_.services.lanceur->ouvrirDocument(versQt(fichier.string()))) {
+        messages.MessageInfo(u"Impossible de lancer le Bloc-notes depuis l'Application"_s,
+                             u"Message"_s);
+    }
+}
+
+void CalculGains::lancerBilan() {
+    Atelier& atelier = contexte_.atelier;
+    const int n = atelier.base.NbTirages;
+    if (n < 1) return;
+    const int inf = std::clamp(contexte_.StatsInf, 1, n);
+    const int sup = contexte_.StatsSup < inf ? n : std::min(contexte_.StatsSup, n);
+    ++atelier.TraitementsEnCours;
+    jauge_.setValue(0);
+    poser(Action::Arreter);
+    Q_EMIT texteEtat(u"Bilan des gains en cours..."_s);
+    // The busy rule keeps base and configuration as they are until the end.
+    fil_ = std::jthread([this, inf, sup, &base = atelier.base, grilles = atelier.ListeGrilles,
+                         monnaie = monnaieDe(atelier.configuration.reglages)](
+                            const std::stop_token& arret) {
+        SuiviBilan suivi;
+        suivi.arret = arret;
+        suivi.progres = [this](int pourcent) {
+            QMetaObject::invokeMethod(this, [this, pourcent] { jauge_.setValue(pourcent); });
+        };
+        std::optional<std::string> texte;
+        QString echec;
+        try {
+            texte = RedigerBilan(base, inf, sup, grilles, monnaie, suivi);
+        } catch (const std::exception& e) {
+            echec = u"Le bilan a été interrompu (%1) : fermez d'autres programmes puis "
+                    u"recommencez."_s.arg(QString::fromLocal8Bit(e.what()));
+        }
+        QMetaObject::invokeMethod(
+            this, [this, texte = std::move(texte), echec] { finirBilan(texte, echec); });
+    });
+}
+
+void CalculGains::finirBilan(const std::optional<std::string>& texte, const QString& echec) {
+    fil_.join();
+    poser(Action::Bilan);
+    // The count falls before any dialog: nothing runs any more.
+    Q_EMIT traitementFini();
+    if (!echec.isEmpty()) {
+        contexte_.services.messages->MessageErreur(echec, u"Erreur"_s);
+    } else if (texte) {
+        publier(NomBilan, *texte);
+    }
+}
+
+void CalculGains::arreter() {
+    fil_.request_stop();
+}
+
+}  // namespace norvane::ui
