@@ -271,7 +271,10 @@ void PageResultats::relierBillets() {
         AdvStringGrid6->setFacteurs(gains.second ? ComptesRangs{} : gains.comptes);
         AdvStringGrid8->setFacteurs(gains.second ? gains.comptes : ComptesRangs{});
     });
-    connect(joker_, &SaisieJoker::etapeChange, this, &PageResultats::majCommandes);
+    connect(joker_, &SaisieJoker::etapeChange, this, [this] {
+        majCommandes();
+        majFicheGrille();
+    });
     connect(joker_, &SaisieJoker::masqueRendu, this, [this] {
         placeJoker_->addWidget(MaskEdit1);
         MaskEdit1->show();

@@ -148,6 +148,7 @@ bool SaisieGrilles::commencer() {
     } else {
         AfficherGrille(nombre());
     }
+    Q_EMIT etatChange();
     return true;
 }
 

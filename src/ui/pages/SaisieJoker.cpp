@@ -98,6 +98,7 @@ QWidget* SaisieJoker::creerCompte() {
         if (!texte.isEmpty()) libre_->setChecked(true);
         suivre();
     });
+    connect(Edit26, &QLineEdit::returnPressed, Button66, &QPushButton::click);
     connect(Edit26, &ChampNumero::deplacement, this, [this](int pas) {
         Edit26->setText(QString::number(std::clamp(Edit26->text().toInt() + pas, 0, 999)));
     });
@@ -221,6 +222,7 @@ void SaisieJoker::Button66Click() {
     masque_->setEnabled(true);
     masque_->setInputMask(u"9.9.9.9.9.9.9;_"_s);
     masque_->show();
+    connect(masque_, &QLineEdit::returnPressed, ButtonValiderJack, &QPushButton::click);
     passer(Etape::Numeros);
 }
 
@@ -289,6 +291,7 @@ void SaisieJoker::validerNumero() {
     liste.push_back(ligne);
     if (static_cast<int>(liste.size()) < compte_) {
         demanderNumero();
+        Q_EMIT etapeChange();
         return;
     }
     rendreMasque();
@@ -308,6 +311,7 @@ void SaisieJoker::validerDate() {
 
 void SaisieJoker::rendreMasque() {
     if (masque_ == nullptr || masque_->inputMask().isEmpty()) return;
+    disconnect(masque_, &QLineEdit::returnPressed, ButtonValiderJack, nullptr);
     masque_->setInputMask({});
     masque_->setReadOnly(true);
     place_->removeWidget(masque_);

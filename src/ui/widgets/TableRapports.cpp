@@ -23,7 +23,7 @@ constexpr std::array<const char16_t*, NbRangsLoto> RangsLoto{
     u"5N + C", u"5N", u"4N + C", u"4N", u"3N + C", u"3N", u"2N + C", u"2N", u"0-1N + C"};
 constexpr std::array<const char16_t*, NbRangs2nd> Rangs2nd{u"5N", u"4N", u"3N", u"2N"};
 
-constexpr int HauteurLigne = 22;   // of the 800 x 600 design
+constexpr int HauteurLigne = 24;   // of the 800 x 600 design
 constexpr int LargeurTable = 300;  // of the same
 
 /// Leaves the cells the margin that the captions above them have.

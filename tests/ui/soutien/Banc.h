@@ -37,8 +37,8 @@ class MessagesScriptes final : public Messages {
 
 class FichiersScriptes final : public DialoguesFichiers {
  public:
-    QString reponse;  ///< the next path, empty to cancel
-    QString filtre;   ///< the filter chosen with it
+    QString reponse;       ///< the next path, empty to cancel
+    QString filtre;        ///< the filter chosen with it
     QStringList demandes;  ///< of each dialog so far: title, filters and preset filter
     QString enregistrer(QWidget*, const QString& titre, const QString&, const QString& filtres,
                         QString& filtreChoisi) override {

@@ -81,6 +81,15 @@ struct Essai {
         banc.scripts.messages->posees.clear();
         return textes;
     }
+    void cliquer(std::initializer_list<const char16_t*> noms) const {
+        for (const char16_t* nom : noms) de(QString::fromUtf16(nom))->click();
+    }
+    /// Starts the entry of grids or of a receipt.
+    void selectionner(bool recu) const {
+        repondre({CodeBouton1, recu ? CodeBouton1 : CodeBouton2});
+        cliquer({u"SelectGrilles"});
+        demandes();
+    }
     void repondre(std::initializer_list<int> codes) const {
         banc.scripts.messages->reponses.assign(codes.begin(), codes.end());
     }
