@@ -151,7 +151,8 @@ class TestBillets final : public QObject {
         const Geste rien = [](Essai&) {};
         const Geste jourSansTirage = [](Essai& e) { e.date()->setDate({2024, 7, 23}); };
         const char* grille = "2.2 5 1 2 3 4 5 1 7\n";
-        const QString charger = u"ChargerGrilles"_s, vide = u"Aucune grille sélectionnée..."_s;
+        const QString recu = u"20230125.rdj"_s, charger = u"ChargerGrilles"_s,
+                      vide = u"Aucune grille sélectionnée..."_s;
         QTest::newRow("add") << entame << u"AddGrille"_s << Incomplete;
         QTest::newRow("delete all") << entame << u"SupprAllGrilles"_s << Incomplete;
         QTest::newRow("none to read") << rien << u"Consultation"_s << vide;
@@ -162,10 +163,8 @@ class TestBillets final : public QObject {
                               << u"Attendez la fin du traitement en cours..."_s;
         QTest::newRow("words") << ouvrir(u"a.grl"_s, "deux") << charger << QString();
         QTest::newRow("cut") << ouvrir(u"a.grl"_s, "2\n"s + grille) << charger << QString();
-        QTest::newRow("4 billion")
-            << ouvrir(u"a.grl"_s, "1\n2.2 4000000000 1") << charger << QString();
-        QTest::newRow("no Joker+")
-            << ouvrir(u"20230125.rdj"_s, "1\n"s + grille) << charger << QString();
+        QTest::newRow("huge") << ouvrir(u"a.grl"_s, "1\n2 4000000000") << charger << QString();
+        QTest::newRow("Joker+") << ouvrir(recu, "1\n"s + grille) << charger << QString();
         QTest::newRow("gone") << ouvrir(u"b.grl"_s, "") << charger << QString();
     }
 
@@ -335,23 +334,6 @@ class TestBillets final : public QObject {
         nombre->setText(u"0"_s);
         e.cliquer({u"ButtonAleatoire"});
         QCOMPARE(a.ListeGrilles, attendues);
-    }
-
-    void fermetureEnSelection() {
-        for (const bool recu : {false, true}) {
-            Banc banc;
-            TVaroMainForm forme(banc.atelier, banc.services);
-            forme.montrer();
-            banc.scripts.messages->reponses = {CodeBouton1, recu ? CodeBouton1 : CodeBouton2};
-            for (const char* nom : {"SelectGrilles", "Button1", "Button2", "Button3", "Button4",
-                                    "Button5", "Button50", "AddGrille", "Button40", "Button30",
-                                    "Button20"}) {  // three are worth keeping
-                forme.findChild<QAbstractButton*>(QString::fromUtf8(nom))->click();
-            }
-            QVERIFY(forme.close());
-            QCOMPARE(lire(banc.atelier.Repertoire / "Grilles&Reçus/Grlbak.grl"),
-                     std::string("2\n2.2 5 1 2 3 4 5 1 1\n1 3 40 30 20 0\n"));
-        }
     }
 };
 

@@ -222,13 +222,15 @@ class TestCoque : public QObject {
         QVERIFY(f.forme.isVisible());
         QCOMPARE(f.posees().last().instruction, u"Abandonner la sélection en cours ?"_s);
         QCOMPARE(f.posees().last().titre, u"Confirmation"_s);
-        for (const char* bouton :
-             {"Button5", "Button49", "Button7", "Button1", "Button12", "Button50"}) {
+        for (const char* bouton : {"Button5", "Button49", "Button7", "Button1", "Button12",
+                                   "Button50", "AddGrille", "Button40", "Button30", "Button20"}) {
             f.trouver<QAbstractButton>(bouton)->click();
         }
         f.forme.close();
         QVERIFY(!f.forme.isVisible());
-        QCOMPARE(f.lire("Grilles&Reçus/Grlbak.grl"), std::string("1\n2.2 5 5 49 7 1 12 1 1\n"));
+        // Three numbers are worth keeping, complete or not.
+        QCOMPARE(f.lire("Grilles&Reçus/Grlbak.grl"),
+                 std::string("2\n2.2 5 5 49 7 1 12 1 1\n1 3 40 30 20 0\n"));
     }
 
     void restaurationDuFiltre_data() {

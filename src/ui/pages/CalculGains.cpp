@@ -27,7 +27,8 @@ constexpr TextesAction Textes[] = {
     {u"&Vérifier gains",
      u"Calcul des gains pour toutes les grilles (voir le fichier \"Lotoveri.dat\")\n"},
     {u"&Bilan Gains",
-     u"Bilan des gains pour toutes les grilles (voir le fichier \"Bilan.dat\")|Bilan effectué selon "
+     u"Bilan des gains pour toutes les grilles (voir le fichier \"Bilan.dat\")|Bilan effectué "
+     u"selon "
      u"l'intervalle des tirages choisi dans l'onglet \"Numéros\""},
     {u"STOP", u"Arrêter le bilan des gains"},
 };
@@ -116,25 +117,26 @@ void CalculGains::lancerBilan() {
     poser(Action::Arreter);
     Q_EMIT texteEtat(u"Bilan des gains en cours..."_s);
     // The busy rule keeps base and configuration as they are until the end.
-    fil_ = std::jthread([this, inf, sup, &base = atelier.base, grilles = atelier.ListeGrilles,
-                         monnaie = monnaieDe(atelier.configuration.reglages)](
-                            const std::stop_token& arret) {
-        SuiviBilan suivi;
-        suivi.arret = arret;
-        suivi.progres = [this](int pourcent) {
-            QMetaObject::invokeMethod(this, [this, pourcent] { jauge_.setValue(pourcent); });
-        };
-        std::optional<std::string> texte;
-        QString echec;
-        try {
-            texte = RedigerBilan(base, inf, sup, grilles, monnaie, suivi);
-        } catch (const std::exception& e) {
-            echec = u"Le bilan a été interrompu (%1) : fermez d'autres programmes puis "
+    fil_ = std::jthread(
+        [this, inf, sup, &base = atelier.base, grilles = atelier.ListeGrilles,
+         monnaie = monnaieDe(atelier.configuration.reglages)](const std::stop_token& arret) {
+            SuiviBilan suivi;
+            suivi.arret = arret;
+            suivi.progres = [this](int pourcent) {
+                QMetaObject::invokeMethod(this, [this, pourcent] { jauge_.setValue(pourcent); });
+            };
+            std::optional<std::string> texte;
+            QString echec;
+            try {
+                texte = RedigerBilan(base, inf, sup, grilles, monnaie, suivi);
+            } catch (const std::exception& e) {
+                echec =
+                    u"Le bilan a été interrompu (%1) : fermez d'autres programmes puis "
                     u"recommencez."_s.arg(QString::fromLocal8Bit(e.what()));
-        }
-        QMetaObject::invokeMethod(
-            this, [this, texte = std::move(texte), echec] { finirBilan(texte, echec); });
-    });
+            }
+            QMetaObject::invokeMethod(
+                this, [this, texte = std::move(texte), echec] { finirBilan(texte, echec); });
+        });
 }
 
 void CalculGains::finirBilan(const std::optional<std::string>& texte, const QString& echec) {

@@ -135,8 +135,7 @@ void SaisieGrilles::majResultat(VueGrille& vue, const Grille& grille) {
     for (CaseGrille& c : vue.chances) {
         c.sortie = planche_.bouton(placeDe(GenreStats::Chances, c.valeur))->allume();
     }
-    const MontantAffiche gain =
-        afficherMontant(r.gain, contexte_.atelier.configuration.reglages);
+    const MontantAffiche gain = afficherMontant(r.gain, contexte_.atelier.configuration.reglages);
     vue.resultat = true;
     vue.sortis = u"%1 + %2C"_s.arg(r.bons.numeros).arg(r.bons.chances);
     vue.gain = gain.euros;
@@ -147,9 +146,10 @@ void SaisieGrilles::majResultat(VueGrille& vue, const Grille& grille) {
 void SaisieGrilles::CopierversBulletins(const std::vector<Grille>& grilles) {
     if (contexte_.refuserSiOccupe()) return;
     if (etat_ != EtatTickets::Normal && etat_ != EtatTickets::Consultation) {
-        messages().MessageInfo(u"Terminez le Mode Sélection dans l'onglet Résultats pour utiliser "
-                               u"cette fonctionnalité."_s,
-                               u"Message"_s);
+        messages().MessageInfo(
+            u"Terminez le Mode Sélection dans l'onglet Résultats pour utiliser "
+            u"cette fonctionnalité."_s,
+            u"Message"_s);
         return;
     }
     auto& stock = contexte_.atelier.ListeChoix;

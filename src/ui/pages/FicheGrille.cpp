@@ -13,8 +13,8 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 
-#include "base/Tirage.h"
 #include "base/Textes.h"
+#include "base/Tirage.h"
 #include "shell/Page.h"
 #include "shell/Theme.h"
 #include "widgets/ChampNumero.h"
@@ -63,8 +63,7 @@ FicheGrille::FicheGrille(QWidget* parent) : QWidget(parent) {
     corps_->addWidget(grille_);
     fiche->pile->setSpacing(Unite - 1);
     fiche->pile->addLayout(creerTete(fiche));
-    fiche->pile->addWidget(corps_);
-    fiche->pile->addStretch(1);
+    fiche->pile->addWidget(corps_, 1);
     fiche->pile->addLayout(creerPied(fiche));
 }
 
@@ -149,10 +148,11 @@ QWidget* FicheGrille::creerGrille(QWidget* parent) {
     auto* pile = new QVBoxLayout(cadre);
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(Unite - 1);
-    pile->addWidget(Panel3);
-    pile->addWidget(Panel5);
+    pile->addWidget(Panel3, 8);
+    pile->addWidget(Panel5, 8);
     pile->addLayout(mise);
     pile->addWidget(ligneResultat_);
+    pile->addStretch(1);
     return cadre;
 }
 

@@ -28,9 +28,9 @@ struct VueGrille {
     std::vector<CaseGrille> numeros, chances;
     QString mise, francs;  ///< the stake and its hint
     QString sortis, gain, gainFrancs;
-    QString note;     ///< what keeps the ticket from being complete
-    int numero = 0;   ///< its place in the list, one-based
-    int nombre = 0;   ///< places in the list
+    QString note;           ///< what keeps the ticket from being complete
+    int numero = 0;         ///< its place in the list, one-based
+    int nombre = 0;         ///< places in the list
     bool resultat = false;  ///< the ticket is checked: sortis and gain have a meaning
 };
 

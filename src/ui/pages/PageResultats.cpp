@@ -195,8 +195,7 @@ QHBoxLayout* PageResultats::creerBoutons() {
     MajBaseManuelle = bouton(u"MajBaseManuelle"_s, u"&Mise à jour"_s,
                              u"Mise à jour des tirages (mode manuel)"_s, this);
     MajBaseManuelle->setEnabled(false);  // editing by hand comes with a later version
-    ChargerGrilles =
-        bouton(u"ChargerGrilles"_s, u"O&uvrir"_s, u"Ouvrir Grilles ou Reçus"_s, this);
+    ChargerGrilles = bouton(u"ChargerGrilles"_s, u"O&uvrir"_s, u"Ouvrir Grilles ou Reçus"_s, this);
     ButtonSauverGrilles = bouton(u"ButtonSauverGrilles"_s, u"&Enregistrer"_s,
                                  u"Enregistrer les grilles sélectionnées"_s, this);
     VerifGains = bouton(u"VerifGains"_s, u"&Vérifier gains"_s, {}, this);
@@ -257,8 +256,7 @@ void PageResultats::relierBillets() {
     geste(Consultation, &SaisieGrilles::ConsultationClick);
     geste(ButtonSauverGrilles, &SaisieGrilles::ButtonSauverGrillesClick);
     geste(ChargerGrilles, &SaisieGrilles::ChargerGrillesClick);
-    connect(VerifGains, &QPushButton::clicked, this,
-            [this] { gains_->VerifGainsClick(indice_); });
+    connect(VerifGains, &QPushButton::clicked, this, [this] { gains_->VerifGainsClick(indice_); });
     connect(saisie_, &SaisieGrilles::etatChange, this, &PageResultats::changerMode);
     connect(saisie_, &SaisieGrilles::plancheRendue, this, [this] {
         rendrePlanche();

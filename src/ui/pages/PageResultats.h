@@ -122,7 +122,7 @@ class PageResultats final : public Page {
     bool garde_ = false;         ///< a handler is at work: what it changes calls no other
     bool choixEnCours_ = false;  ///< "&OK!" stands on ReInit
     std::array<std::uint8_t, NumeroMax + ChanceMax> choix_{};  ///< the free choice, by place
-    EtatTickets modeDit_{};  ///< what the form was last told
+    EtatTickets modeDit_{};                                    ///< what the form was last told
 
     // Controls; their object names are the ones that the handlers above speak of.
     QDateEdit* DateTimePicker = nullptr;

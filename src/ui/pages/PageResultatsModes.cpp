@@ -220,10 +220,10 @@ void PageResultats::majFicheGrille() {
     } else if (etat != EtatTickets::Normal) {
         saisie_->majFiche();
     } else if (choixEnCours_) {
-        fiche_->montrerTexte(u"Choix libre"_s,
-                             u"%1, %2\nCochez sur la planche, puis validez."_s.arg(
-                                 compte(numeros.size(), u"numéro"_s),
-                                 compte(chances.size(), u"chance"_s)));
+        fiche_->montrerTexte(
+            u"Choix libre"_s,
+            u"%1, %2\nCochez sur la planche, puis validez."_s.arg(
+                compte(numeros.size(), u"numéro"_s), compte(chances.size(), u"chance"_s)));
     } else {
         const ChoixLibre choix = choixLibre();
         QStringList lignes{

@@ -265,8 +265,8 @@ void PageResultats::afficherCellules() {
 
 /// The board belongs to the draw unless numbers are being chosen on it.
 bool PageResultats::plancheLibre() const {
-    return !choixEnCours_ && (saisie_->etat() == EtatTickets::Normal ||
-                              saisie_->etat() == EtatTickets::Consultation);
+    return !choixEnCours_ &&
+           (saisie_->etat() == EtatTickets::Normal || saisie_->etat() == EtatTickets::Consultation);
 }
 
 void PageResultats::eclairer() {

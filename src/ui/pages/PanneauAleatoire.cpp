@@ -50,8 +50,9 @@ QWidget* PanneauAleatoire::creerTypes() {
 }
 
 QLayout* PanneauAleatoire::creerNombre() {
-    ButtonAleatoire = bouton(u"ButtonAleatoire"_s, u"Grille(s) &Aléatoire(s)"_s,
-                             u"Une grille sur la planche, ou plusieurs ajoutées à la liste"_s, this);
+    ButtonAleatoire =
+        bouton(u"ButtonAleatoire"_s, u"Grille(s) &Aléatoire(s)"_s,
+               u"Une grille sur la planche, ou plusieurs ajoutées à la liste"_s, this);
     ButtonAleatoire->setMinimumHeight(ButtonAleatoire->minimumHeight() - Unite);
     Edit24 = new ChampNumero(u"Edit24"_s, this);
     Edit24->setAccessibleName(u"Nombre de grilles aléatoires"_s);

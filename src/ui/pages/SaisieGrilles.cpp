@@ -125,8 +125,8 @@ void SaisieGrilles::SelectGrillesClick() {
 
 /// Asks, and opens the entry. False when the user turned back.
 bool SaisieGrilles::commencer() {
-    if (messages().QuestionOuiNon(u"Passer en mode sélection de grilles ?"_s,
-                                  u"Confirmation"_s) != CodeBouton1) {
+    if (messages().QuestionOuiNon(u"Passer en mode sélection de grilles ?"_s, u"Confirmation"_s) !=
+        CodeBouton1) {
         return false;
     }
     const int recu = messages().QuestionOuiNon(u"S'agit-il de la saisie d'un Reçu de Jeu ?"_s,
@@ -346,8 +346,8 @@ void SaisieGrilles::NormalModeClick() {
         terminerConsultation();
     } else if (etat_ == EtatTickets::Joker) {
         // The receipt stays in memory; it is its file that will be missing.
-        if (messages().MessageAnnuler(u"Abandonner la sélection en cours ?"_s,
-                                      u"Confirmation"_s) == CodeBouton1) {
+        if (messages().MessageAnnuler(u"Abandonner la sélection en cours ?"_s, u"Confirmation"_s) ==
+            CodeBouton1) {
             terminer();
         }
     } else if (surPlanche()) {
@@ -412,8 +412,8 @@ void SaisieGrilles::recuDate(int date) {
         if (reponse == CodeFerme) return;  // neither: the date is still to be settled
         ajouter = reponse == CodeBouton1;
     }
-    const auto ecrit = EnregistrerRecu({atelier.ListeRecu, atelier.ListeJoker},
-                                       atelier.Repertoire, date, ajouter);
+    const auto ecrit =
+        EnregistrerRecu({atelier.ListeRecu, atelier.ListeJoker}, atelier.Repertoire, date, ajouter);
     if (!ecrit) {
         messages().MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
         return;

@@ -143,9 +143,8 @@ QWidget* SaisieJoker::creerSaisie() {
     pile->addStretch(1);
 
     connect(ButtonValiderJack, &QPushButton::clicked, this, &SaisieJoker::ButtonValiderJackClick);
-    connect(dateParticipation_, &QDateEdit::dateChanged, this, [this](QDate date) {
-        dateLongue_->setText(versQt(DateLongue(enEntier(date))));
-    });
+    connect(dateParticipation_, &QDateEdit::dateChanged, this,
+            [this](QDate date) { dateLongue_->setText(versQt(DateLongue(enEntier(date)))); });
     return page;
 }
 
@@ -160,8 +159,9 @@ QWidget* SaisieJoker::creerMise() {
         ligne->setCheckState(Qt::Unchecked);
     }
     RxCheckListBox7->item(0)->setCheckState(Qt::Checked);
-    RxCheckListBox7->setFixedSize(RxCheckListBox7->fontMetrics().horizontalAdvance(u"000000"_s) + 50,
-                                  2 * RxCheckListBox7->sizeHintForRow(0) + 4);
+    RxCheckListBox7->setFixedSize(
+        RxCheckListBox7->fontMetrics().horizontalAdvance(u"000000"_s) + 50,
+        2 * RxCheckListBox7->sizeHintForRow(0) + 4);
     connect(RxCheckListBox7, &QListWidget::itemChanged, this,
             [this](QListWidgetItem* ligne) { uneSeuleMise(RxCheckListBox7->row(ligne)); });
     CheckBoxPM1 = new QCheckBox(u"+ou-1"_s, cadre);

@@ -14,15 +14,15 @@ namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
 
-void dessinerAllume(QPainter& peintre, const QRectF& aire, const QString& texte,
-                    const QFont& fonte, const QColor& fond) {
+void dessinerAllume(QPainter& peintre, const QRectF& aire, const QString& texte, const QFont& fonte,
+                    const QColor& fond) {
     QPainterPath lettres;
     const QRectF boite = QFontMetricsF(fonte).tightBoundingRect(texte);
     lettres.addText(aire.center().x() - boite.center().x(), aire.center().y() - boite.center().y(),
                     fonte, texte);
     const double bord = std::max(2.0, std::min(aire.width(), aire.height()) * 0.06);
-    peintre.strokePath(lettres, QPen(fond.darker(230), bord, Qt::SolidLine, Qt::RoundCap,
-                                     Qt::RoundJoin));
+    peintre.strokePath(lettres,
+                       QPen(fond.darker(230), bord, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     peintre.fillPath(lettres, QColor(CouleurTexteAllume));
 }
 

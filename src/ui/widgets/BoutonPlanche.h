@@ -12,8 +12,8 @@
 namespace norvane::ui {
 
 /// A figure in the colour of a lit tile, on a lit ground: yellow with an edge so that it is read.
-void dessinerAllume(QPainter& peintre, const QRectF& aire, const QString& texte,
-                    const QFont& fonte, const QColor& fond);
+void dessinerAllume(QPainter& peintre, const QRectF& aire, const QString& texte, const QFont& fonte,
+                    const QColor& fond);
 
 class BoutonPlanche final : public QAbstractButton {
     Q_OBJECT

@@ -3,7 +3,9 @@
 
 #include "widgets/RangeeGrille.h"
 
+#include <algorithm>
 #include <array>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -48,10 +50,9 @@ class RangeeGrille::Etiquette final : public QLabel {
     Etiquette(GenreStats genre, QWidget* parent) : QLabel(parent), genre_(genre) {
         setAlignment(Qt::AlignCenter);
         const int cote = fontMetrics().height() + 8;
-        setFixedHeight(cote);
-        setMinimumWidth(cote);
-        setMaximumWidth(cote + 2 * Unite);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        setMinimumSize(cote, cote);
+        setMaximumHeight(cote * 3 / 2);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
 
     void poser(const CaseGrille* valeur) {
@@ -76,6 +77,7 @@ class RangeeGrille::Etiquette final : public QLabel {
         p.setBrush(sortie_ ? QBrush(fond) : QBrush(Qt::NoBrush));
         p.drawRoundedRect(aire, rayon, rayon);
         QFont fonte = font();
+        fonte.setPixelSize(std::max(QFontInfo(fonte).pixelSize(), height() * 45 / 100));
         fonte.setBold(true);
         p.setFont(fonte);
         if (sortie_) {
@@ -104,7 +106,9 @@ RangeeGrille::RangeeGrille(const QString& nom, GenreStats genre, int nombre, QWi
         etiquettes_.push_back(new Etiquette(genre, this));
         ligne->addWidget(etiquettes_.back(), 1);
     }
-    ligne->addStretch(0);
+    setMaximumHeight(etiquettes_.front()->maximumHeight());
+    // Both rows of a ticket share their columns.
+    if (nombre < ChanceMax) ligne->addStretch(ChanceMax - nombre);
 }
 
 RangeeGrille::~RangeeGrille() = default;

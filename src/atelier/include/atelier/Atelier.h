@@ -25,9 +25,9 @@ struct Atelier {
     Occurrences occurrences;
     EtatCombinaisons combinaisons;
 
-    std::vector<Grille> ListeGrilles;  ///< the working list of tickets
-    std::vector<Grille> ListeRecu;     ///< the tickets of the receipt in memory
-    std::vector<Grille> ListeChoix;    ///< the stock of grids
+    std::vector<Grille> ListeGrilles;    ///< the working list of tickets
+    std::vector<Grille> ListeRecu;       ///< the tickets of the receipt in memory
+    std::vector<Grille> ListeChoix;      ///< the stock of grids
     std::vector<LigneJoker> ListeJoker;  ///< the Joker+ lines of the receipt
 
     int TraitementsEnCours = 0;     ///< workers alive
