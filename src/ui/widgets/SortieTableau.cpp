@@ -150,7 +150,7 @@ void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& ta
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                      const QString& titre) {
     QPrinter imprimante(QPrinter::HighResolution);
-    imprimante.setDocName(titre);
+    imprimante.setDocName(tableau.titre.empty() ? titre : versQt(tableau.titre.front()));
     imprimante.setPageSize(QPageSize(QPageSize::A4));
     imprimante.setPageMargins(QMarginsF(MargePage, MargePage, MargePage, MargePage),
                               QPageLayout::Millimeter);
