@@ -9,6 +9,7 @@ namespace norvane {
 Croissance::Croissance(const IndexTirages& index, int taille, const std::atomic<int>& minimum,
                        int maximum, Recolte& recolte)
     : index_(index), taille_(taille), minimum_(minimum), maximum_(maximum), recolte_(recolte) {
+    derniers_.fill(-1);
     majSeuils();
 }
 
@@ -129,10 +130,12 @@ bool Croissance::issu(const Noeud& n, int y, Utilisations& avecY) const {
     const auto taille = static_cast<std::size_t>(n.taille);
     avecY = n.utilisations;
     if (utilisation == 0) return true;  // libresPossibles saw to it
-    for (const Proche& p : proches_)
-        if (p.numero == y)
-            for (std::size_t i = 0; i < taille; ++i)
-                if ((p.masque >> n.numeros[i] & 1) != 0) avecY[i] += p.poids;
+    for (auto place = derniers_[static_cast<std::size_t>(y)]; place >= 0;) {
+        const Proche& p = proches_[static_cast<std::size_t>(place)];
+        for (std::size_t i = 0; i < taille; ++i)
+            if ((p.masque >> n.numeros[i] & 1) != 0) avecY[i] += p.poids;
+        place = p.precedent;
+    }
     for (std::size_t i = 0; i < taille; ++i)
         if (avecY[i] < utilisation || (avecY[i] == utilisation && n.numeros[i] < y)) return false;
     return true;
@@ -187,16 +190,19 @@ void Croissance::noter(std::int32_t rang, Noeud& n) {
     for (const auto& [masque, poids] : index_.avec4(rang)) {
         const Masque dehors = masque & ~n.ensemble;
         if (dehors == 0) continue;
-        const int numero = std::countr_zero(dehors);
-        gains_[static_cast<std::size_t>(numero)] += poids;
+        const auto numero = static_cast<std::size_t>(std::countr_zero(dehors));
+        gains_[numero] += poids;
         n.gagnants |= dehors;
-        proches_.push_back({masque, poids, numero});
+        proches_.push_back({masque, poids, derniers_[numero], static_cast<std::uint8_t>(numero)});
+        derniers_[numero] = static_cast<std::int32_t>(proches_.size()) - 1;
     }
 }
 
 void Croissance::fermer(std::size_t hauteur) {
     while (proches_.size() > hauteur) {
-        gains_[static_cast<std::size_t>(proches_.back().numero)] -= proches_.back().poids;
+        const Proche& p = proches_.back();
+        gains_[p.numero] -= p.poids;
+        derniers_[p.numero] = p.precedent;
         proches_.pop_back();
     }
 }

@@ -58,7 +58,8 @@ class Croissance {
     struct Proche {
         Masque masque;
         int poids;
-        int numero;  ///< the one
+        std::int32_t precedent;  ///< place of the one before with the same number, or -1
+        std::uint8_t numero;     ///< the one outside
     };
 
     int gain(int y) const { return gains_[static_cast<std::size_t>(y)]; }
@@ -85,6 +86,7 @@ class Croissance {
     std::array<int, TailleGrandeMax + 1> seuils_{};  ///< fewest draws of a set by its size
     std::array<int, NumeroMax> gains_{};             ///< draws that each number would bring
     std::vector<Proche> proches_;                    ///< grows and shrinks with the walk
+    std::array<std::int32_t, NumeroMax> derniers_;   ///< the last one of each number, or -1
     std::vector<IndexTirages::Trouve> paires_;       ///< work of libresUtiles
     unsigned visites_ = 0;
     bool fini_ = false;

@@ -247,9 +247,9 @@ TEST(GrandesTailles, ExtremesContreMarcheDeTirages) {
         EXPECT_EQ(e.combinaisons, attendues);
     };
     for (int taille = 6; taille <= 8; ++taille) comparer(tous, taille);
-    comparer(tous.last(900), 9);
-    comparer(tous.last(400), 10);
-    for (int essai = 0; essai < 40; ++essai) {
+    comparer(tous.last(600), 9);
+    comparer(tous.last(300), 10);
+    for (int essai = 0; essai < 30; ++essai) {
         const std::size_t debut = hasard() % tous.size();
         const std::size_t longueur = std::min<std::size_t>(1 + hasard() % 200, tous.size() - debut);
         comparer(tous.subspan(debut, longueur), essai % 2 == 0 ? 6 : 7 + essai % 4);
