@@ -100,7 +100,7 @@ bool ListerBornesGrandeTaille(
     std::span<const Tirage> tirages, int taille, int inf, int sup, unsigned threads,
     std::stop_token arret, const std::function<void(int)>& avance,
     const std::function<bool(Masque, std::span<const std::uint16_t>)>& recevoir) {
-    if (sup < std::max(inf, 0)) return true;
+    if (sup < std::max(inf, 0) || inf > static_cast<int>(tirages.size())) return true;
     const IndexTirages index(tirages);
     Remise remise(index, recevoir, arret);
     const std::atomic<int> minimum = std::max(inf, 1);

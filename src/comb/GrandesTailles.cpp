@@ -220,7 +220,7 @@ ExtremesGrandeTaille ChercherExtremesGrandeTaille(std::span<const Tirage> tirage
 
 std::uint64_t CompterBornesGrandeTaille(std::span<const Tirage> tirages, int taille, int inf,
                                         int sup, std::uint64_t plafond, std::stop_token arret) {
-    if (sup < std::max(inf, 0)) return 0;
+    if (sup < std::max(inf, 0) || inf > static_cast<int>(tirages.size())) return 0;
     const IndexTirages index(tirages);
     return inf > 0 ? CompterAuMoins(index, taille, inf, sup, plafond, arret)
                    : CompterAuPlus(index, taille, sup, plafond, arret);
