@@ -120,7 +120,7 @@ PtrFil<TRechercheBornes> CreerRechercheBornes(const ContexteComb& c, Puits& puit
 
 int JaugeBornes(const ContexteComb& c, int taille) {
     const int s = c.selection.NbSelAbsolue;
-    if (c.selection.vide()) return c.series ? NumeroMax - 1 : JaugeExtremes(taille);
+    if (c.selection.vide()) return JaugeExtremes(taille, c.series);
     if (s >= taille) return s - 1;
     if (c.selection.NbSelSecondaire > 0) return std::max(c.selection.NbSelSecondaire - 1, 1);
     return NumeroMax - (s + 1);
