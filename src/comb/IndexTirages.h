@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The draws of an interval, found by their numbers: identical draws are one entry with a weight;
+// each entry can be found by any four of its numbers and by its three lowest.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "comb/GrandesTailles.h"
+
+namespace norvane {
+
+inline constexpr int TailleGrandeMin = 6;
+inline constexpr int TailleGrandeMax = 10;
+inline constexpr auto NbTriplets = 18424;  ///< C(49, 3)
+inline constexpr Masque TousLesNumeros = (Masque{1} << NumeroMax) - 1;
+
+constexpr Masque Bit(int zeroBase) {
+    return Masque{1} << zeroBase;
+}
+
+/// C(n, k) for n up to NumeroMax; 0 for k above n.
+constexpr std::uint64_t Binomial(int n, int k) {
+    if (k < 0 || k > n) return 0;
+    std::uint64_t c = 1;
+    for (int i = 1; i <= k; ++i)
+        c = c * static_cast<std::uint64_t>(n - k + i) / static_cast<unsigned>(i);
+    return c;
+}
+
+/// Small binomials by column: Colonnes[k][n] = C(n, k), k up to four. A set of ascending zero-based
+/// numbers e1 < e2 < ... has the rank C(e1,1) + C(e2,2) + ...
+inline constexpr auto Colonnes = [] {
+    std::array<std::array<std::int32_t, NumeroMax>, 5> t{};
+    for (int k = 0; k < 5; ++k)
+        for (int n = 0; n < NumeroMax; ++n)
+            t[static_cast<std::size_t>(k)][static_cast<std::size_t>(n)] =
+                static_cast<std::int32_t>(Binomial(n, k));
+    return t;
+}();
+
+constexpr std::int32_t Colonne(int k, int n) {
+    return Colonnes[static_cast<std::size_t>(k)][static_cast<std::size_t>(n)];
+}
+
+/// Order of the lists: the combination with the lower number at the first difference comes first.
+inline bool AvantLexico(Masque a, Masque b) {
+    const Masque difference = a ^ b;
+    return (a & difference & (~difference + 1)) != 0;
+}
+
+/// Rank of the `k` lowest numbers of the set, k up to four.
+inline std::size_t RangBas(Masque ensemble, int k) {
+    std::int32_t rang = 0;
+    for (int i = 1; i <= k; ++i, ensemble &= ensemble - 1)
+        rang += Colonne(i, std::countr_zero(ensemble));
+    return static_cast<std::size_t>(rang);
+}
+
+/// Calls `f` with each zero-based number of the set, ascending.
+template <typename F>
+void PourChaqueNumero(Masque ensemble, F f) {
+    for (; ensemble != 0; ensemble &= ensemble - 1) f(std::countr_zero(ensemble));
+}
+
+class IndexTirages {
+ public:
+    /// A distinct draw and the number that completes it where it is found by its four others.
+    struct Complement {
+        std::uint16_t tirage;
+        std::uint8_t numero;
+    };
+
+    explicit IndexTirages(std::span<const Tirage> tirages);
+
+    std::size_t nombre() const { return masques_.size(); }  ///< distinct draws
+    Masque masque(std::size_t i) const { return masques_[i]; }
+    int poids(std::size_t i) const { return poids_[i]; }  ///< how many records are this draw
+    int poidsTotal() const { return poidsTotal_; }
+
+    /// Whether any draw holds the four numbers of this rank. The table is small enough to stay in
+    /// the first cache: most questions end here.
+    bool complete(std::int32_t rang) const {
+        return (presents4_[static_cast<std::size_t>(rang) / 64] >> (rang % 64) & 1) != 0;
+    }
+    std::span<const Complement> complements(std::int32_t rang) const {
+        const auto r = static_cast<std::size_t>(rang);
+        return {complements_.data() + debuts4_[r], debuts4_[r + 1] - debuts4_[r]};
+    }
+
+    /// Replaces `places` by the ascending places of the records that lie in `ensemble`.
+    void lister(Masque ensemble, std::vector<std::uint16_t>& places) const;
+
+ private:
+    void regrouper(std::span<const Tirage> tirages);
+    void indexerQuatre();
+    void indexerTrois();
+
+    std::vector<Masque> masques_;
+    std::vector<int> poids_;
+    int poidsTotal_ = 0;
+    std::vector<std::uint32_t> debutsPlaces_;  ///< records of each distinct draw, in places_
+    std::vector<std::uint16_t> places_;
+    std::vector<std::uint64_t> presents4_;
+    std::vector<std::uint32_t> debuts4_;  ///< by rank of four numbers, in complements_
+    std::vector<Complement> complements_;
+    std::vector<std::uint32_t> debuts3_;  ///< by rank of the three lowest numbers, in parBas_
+    std::vector<std::uint16_t> parBas_;
+};
+
+}  // namespace norvane
