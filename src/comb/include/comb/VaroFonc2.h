@@ -186,6 +186,8 @@ int JaugeExtremes(int taille);
 
 // --- Bounds -------------------------------------------------------------------------------------
 
+class TravailBornes;
+
 /// What the searches by bounds share: every combination of the search whose count lies in Inf..Sup
 /// (both inclusive) becomes a record, in lexicographic order of its numbers, first-rank block
 /// filled, lower ranks unset: all words 0 but word 1 of the block, RangNonCalcule. Before the first
@@ -196,17 +198,18 @@ class TRechercheBornes : public TCombThread {
     Disposition disposition() const { return disposition_; }
     /// Records given out. After WaitFor.
     std::uint64_t nombre() const { return nombre_; }
-    /// True when the records are to be counted and not given.
+    /// True when the records are to be counted and not given. Set before Resume.
     bool compterSeulement = false;
+    /// Most records to give, the first ones; 0: all of them. Set before Resume.
+    std::uint64_t limite = 0;
 
  protected:
     TRechercheBornes(const ContexteComb& contexte, Puits& puits, int taille, int inf, int sup);
     void Execute() override { Rechercher(inf_, sup_); }
     virtual void Rechercher(int inf, int sup) = 0;
 
-    struct Travail;
     /// Counts, checks the memory, gives.
-    void mener(Travail& travail);
+    void mener(TravailBornes& travail);
 
     ContexteComb contexte_;
     Disposition disposition_;
