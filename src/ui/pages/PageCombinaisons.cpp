@@ -104,15 +104,16 @@ Fiche* PageCombinaisons::creerFicheTailles() {
     ComboBox1->setMinimumHeight(ComboBox1->fontMetrics().height() + 2 * Unite);
     poserIndice(ComboBox1, u"Choix du mode de la liste"_s);
     fiche->pile->addWidget(ComboBox1);
-    fiche->pile->addLayout(creerTailles(fiche), 1);
+    fiche->pile->addSpacing(Unite);
+    fiche->pile->addLayout(creerTailles(fiche));
+    fiche->pile->addStretch(1);
     fiche->pile->addWidget(creerStockage(fiche));
     CGauge = new QProgressBar(fiche);
     CGauge->setObjectName(u"CGauge"_s);
     CGauge->setAccessibleName(u"Avancement du calcul"_s);
     CGauge->setRange(0, 1);
     CGauge->setValue(0);
-    CGauge->setFormat(u"%p %"_s);
-    CGauge->setAlignment(Qt::AlignCenter);
+    CGauge->setTextVisible(false);
     LabelTemps = legende({}, fiche);
     LabelTemps->setObjectName(u"LabelTemps"_s);
     // Its line stays free, so that nothing moves when it comes.
@@ -125,7 +126,7 @@ Fiche* PageCombinaisons::creerFicheTailles() {
 QGridLayout* PageCombinaisons::creerTailles(QWidget* parent) {
     auto* grille = new QGridLayout;
     grille->setHorizontalSpacing(Unite / 2);
-    grille->setVerticalSpacing(Unite / 2);
+    grille->setVerticalSpacing(Unite - 1);
     grille->setColumnStretch(0, 1);
     grille->setColumnMinimumWidth(1, Unite);
     grille->setColumnMinimumWidth(4, Unite);
@@ -145,7 +146,6 @@ QGridLayout* PageCombinaisons::creerTailles(QWidget* parent) {
             grille->addWidget(cote->hautBas, rang, place + 1);
             place += 3;
         }
-        grille->setRowStretch(rang, 1);
     }
     return grille;
 }
