@@ -105,7 +105,7 @@ Fiche* PageCombinaisons::creerFicheTailles() {
     poserIndice(ComboBox1, u"Choix du mode de la liste"_s);
     fiche->pile->addWidget(ComboBox1);
     fiche->pile->addSpacing(Unite);
-    fiche->pile->addLayout(creerTailles(fiche));
+    fiche->pile->addLayout(creerTailles(fiche), 4);
     fiche->pile->addStretch(1);
     fiche->pile->addWidget(creerStockage(fiche));
     CGauge = new QProgressBar(fiche);
@@ -130,8 +130,11 @@ QGridLayout* PageCombinaisons::creerTailles(QWidget* parent) {
     grille->setColumnStretch(0, 1);
     grille->setColumnMinimumWidth(1, Unite);
     grille->setColumnMinimumWidth(4, Unite);
-    grille->addWidget(legende(u"Inf"_s, parent), 0, 2, 1, 2, Qt::AlignHCenter);
-    grille->addWidget(legende(u"Sup"_s, parent), 0, 5, 1, 2, Qt::AlignHCenter);
+    for (const auto& [titre, place] : {std::pair{u"Inf"_s, 2}, std::pair{u"Sup"_s, 5}}) {
+        auto* entete = legende(titre, parent);
+        entete->setFixedHeight(entete->sizeHint().height());
+        grille->addWidget(entete, 0, place, 1, 2, Qt::AlignHCenter);
+    }
     for (int taille = TailleCombMin; taille <= TailleCombMax; ++taille) {
         auto* bornes = new LigneBornes(taille, parent);
         lignes_[static_cast<std::size_t>(taille - TailleCombMin)] = bornes;
@@ -139,7 +142,7 @@ QGridLayout* PageCombinaisons::creerTailles(QWidget* parent) {
         grille->addWidget(bornes->bouton, rang, 0);
         int place = 2;
         for (const LigneBornes::Cote* cote : {&bornes->inf, &bornes->sup}) {
-            const int hauteur = bornes->bouton->minimumHeight() - 2;
+            const int hauteur = bornes->bouton->minimumHeight();
             cote->edit->setFixedHeight(hauteur);
             cote->hautBas->setFixedHeight(hauteur);
             grille->addWidget(cote->edit, rang, place);
@@ -288,13 +291,13 @@ Fiche* PageCombinaisons::creerLegende(QWidget* parent) {
     };
     for (const Couleur& c :
          {Couleur{&Teintes::ligneSup, u"Nombre de sorties égal à la borne Sup"_s},
-          Couleur{&Teintes::ligneInf, u"Nombre de sorties égal à la borne Inf"_s},
-          Couleur{&Teintes::discret, u"NC : borne non calculée"_s}}) {
+          Couleur{&Teintes::ligneInf, u"Nombre de sorties égal à la borne Inf"_s}}) {
         auto* rang = rangee({new Pastille(c.teinte, fiche), new QLabel(c.sens, fiche)});
         rang->setSpacing(Unite);
         rang->addStretch(1);
         fiche->pile->addLayout(rang);
     }
+    fiche->pile->addWidget(legende(u"NC : borne non calculée"_s, fiche));
     fiche->pile->addStretch(1);
     return fiche;
 }

@@ -192,16 +192,18 @@ void PageCombinaisons::TraitementTermine() {
         Label25->setText(u"Tri simple des combinaisons selon le premier rang"_s);
         AfficherListe(moteur_->TailleCombListe);
     }
-    // A window that waits for the end of the work closes without a word on it.
-    if (!contexte.atelier.QuitterEnAttente) direFin(fin);
+    // A window that waits for the end of the work closes now, without a word on it.
+    const bool ferme = contexte.atelier.QuitterEnAttente;
     Q_EMIT traitementTermine();
+    if (!ferme) direFin(fin);
 }
 
 void PageCombinaisons::direFin(const FinTraitement& fin) {
-    annoncer(fin);
     if (!fin.message.empty()) {
         contexte.services.messages->MessageAvertissement(versQt(fin.message), u"Message"_s);
+        return;
     }
+    annoncer(fin);
     if (fin.debordement) {
         contexte.services.messages->MessageInfo(
             u"Passez au Mode \"Combinaisons selon les bornes\" afin de stocker en mémoire et "

@@ -64,7 +64,10 @@ LigneBornes::LigneBornes(int taille, QWidget* parent)
       taille_(taille) {
     bouton->setObjectName(u"Comb%1Search"_s.arg(taille));
     bouton->setAccessibleName(u"Combinaisons de %1 numéros"_s.arg(taille));
-    bouton->setMinimumHeight(bouton->fontMetrics().height() + 2 * Unite);
+    const int hauteur = bouton->fontMetrics().height() + 2 * Unite;
+    bouton->setMinimumHeight(hauteur);
+    bouton->setMaximumHeight(hauteur * 3 / 2);
+    bouton->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     poserIndice(bouton, u"Calculer les combinaisons de %1 numéros"_s.arg(taille));
     relier(inf, false);
     relier(sup, true);
@@ -113,10 +116,10 @@ void LigneBornes::ouvrirEdits() {
     for (const Cote& cote : {inf, sup}) {
         cote.edit->setReadOnly(!ouverts);
         cote.hautBas->setEnabled(ouverts);
-        // Blue on the palette's own ground, discreet as long as there is nothing to read.
+        // Blue on the palette's own ground.
         const Teintes t = teintes(cote.edit->palette());
         QPalette couleurs = cote.edit->palette();
-        couleurs.setColor(QPalette::Text, calculee() ? t.ligneSup : t.discret);
+        couleurs.setColor(QPalette::Text, t.ligneSup);
         couleurs.setColor(QPalette::Base, ouverts ? t.carte : t.fondFerme);
         cote.edit->setPalette(couleurs);
     }
