@@ -23,6 +23,10 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
     commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));
     commandes.push_back(std::make_unique<CommandeStatsChances>(stats));
+    CLI::App& comb = Groupe(racine, "comb", "Combinaisons de 2 à 10 numéros sur l'intervalle");
+    commandes.push_back(std::make_unique<CommandeCombExtremes>(comb));
+    commandes.push_back(std::make_unique<CommandeCombBornes>(comb));
+    commandes.push_back(std::make_unique<CommandeCombStats>(comb));
     return commandes;
 }
 

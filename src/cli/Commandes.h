@@ -7,6 +7,8 @@
 #include <CLI/CLI.hpp>
 #include <iosfwd>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "Contexte.h"
@@ -27,6 +29,7 @@ class Commande {
 
  protected:
     explicit Commande(CLI::App* app) : app_(app) {}
+    CLI::App& sousCommande() { return *app_; }
 
  private:
     CLI::App* app_;  // owned by its parent
@@ -54,6 +57,40 @@ class CommandeStatsChances : public Commande {
  public:
     explicit CommandeStatsChances(CLI::App& stats);
     Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+class CommandeCombExtremes : public Commande {
+ public:
+    explicit CommandeCombExtremes(CLI::App& comb);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::optional<long> taille_;
+    bool series_ = false;
+};
+
+class CommandeCombBornes : public Commande {
+ public:
+    explicit CommandeCombBornes(CLI::App& comb);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    struct Demande;
+    Resultat<Demande> verifier() const;
+
+    std::optional<long> taille_, inf_, sup_, stockage_, max_;
+    std::optional<std::string> absolue_, secondaire_;
+    bool series_ = false;
+    bool compter_ = false;
+};
+
+class CommandeCombStats : public Commande {
+ public:
+    explicit CommandeCombStats(CLI::App& comb);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string numeros_;
 };
 
 /// Declares all commands on `racine`, in the order of its help.

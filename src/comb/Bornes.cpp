@@ -15,6 +15,7 @@ namespace norvane {
 namespace {
 
 constexpr std::uint64_t SansLimite = std::numeric_limits<std::uint64_t>::max();
+constexpr int GaugeCentieme = 100;
 constexpr std::uint64_t Mega = 1'000'000;
 
 /// "38 Mo", rounded up.
@@ -120,7 +121,8 @@ PtrFil<TRechercheBornes> CreerRechercheBornes(const ContexteComb& c, Puits& puit
 
 int JaugeBornes(const ContexteComb& c, int taille) {
     const int s = c.selection.NbSelAbsolue;
-    if (c.selection.vide()) return c.series ? NumeroMax - 1 : JaugeExtremes(taille);
+    if (c.selection.vide()) return JaugeExtremes(taille, c.series);
+    if (taille > NbBoules) return GaugeCentieme;
     if (s >= taille) return s - 1;
     if (c.selection.NbSelSecondaire > 0) return std::max(c.selection.NbSelSecondaire - 1, 1);
     return NumeroMax - (s + 1);

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Croissance.h"
 
+#include <algorithm>
+
 namespace norvane {
 
 Croissance::Croissance(const IndexTirages& index, int taille, const std::atomic<int>& minimum,
                        int maximum, Recolte& recolte)
     : index_(index), taille_(taille), minimum_(minimum), maximum_(maximum), recolte_(recolte) {
+    derniers_.fill(-1);
     majSeuils();
 }
 
@@ -30,7 +33,7 @@ bool Croissance::depuis(std::size_t tirage) {
     n.ensemble = index_.masque(tirage);
     n.compte = index_.poids(tirage);
     PourChaqueNumero(n.ensemble, [&](int x) {
-        n.numeros[static_cast<std::size_t>(n.taille)] = x;
+        n.numeros[static_cast<std::size_t>(n.taille)] = static_cast<std::uint8_t>(x);
         n.utilisations[static_cast<std::size_t>(n.taille++)] = n.compte;
     });
     for (int omis = 0; omis < NbBoules; ++omis) {
@@ -65,7 +68,8 @@ Masque Croissance::libresPossibles(const Noeud& n) {
 void Croissance::dernieresAdditions(const Noeud& n) {
     PourChaqueNumero(n.gagnants, [&](int y) {
         const int compte = n.compte + gain(y);
-        if (compte < seuil(taille_) || compte > maximum_ || !issuDe(avec(n, y), y)) return;
+        Utilisations avecY;
+        if (compte < seuil(taille_) || compte > maximum_ || !issu(n, y, avecY)) return;
         recolte_.recevoir(n.ensemble, Bit(y), compte);
         majSeuils();
     });
@@ -76,56 +80,86 @@ void Croissance::dernieresAdditions(const Noeud& n) {
 void Croissance::explorerSuivants(const Noeud& n) {
     PourChaqueNumero(n.gagnants, [&](int y) { enfant(n, y); });
     if (n.compte >= seuil(n.taille + 1))
-        PourChaqueNumero(libresPossibles(n), [&](int y) { enfant(n, y); });
+        PourChaqueNumero(libresUtiles(n, libresPossibles(n)), [&](int y) { enfant(n, y); });
+}
+
+/// Those of the unused numbers that can lead further. Where the set with one of them has too few
+/// draws for the size after it, the next number x must bring draws, all of them through y: else y
+/// would be used less than x and x would not be what the parent lacks. For the same reason x < y.
+Masque Croissance::libresUtiles(const Noeud& n, Masque libres) {
+    const int manque = seuil(n.taille + 2) - n.compte;
+    if (manque <= 0) return libres;
+    paires_.clear();
+    Masque utiles = 0;
+    const auto colonne = [&](int k, int i) {
+        return Colonne(k, n.numeros[static_cast<std::size_t>(i)]);
+    };
+    for (int c = 2; c < n.taille; ++c)
+        for (int b = 1; b < c; ++b)
+            for (int a = 0; a < b; ++a)
+                for (const auto& [masque, poids] :
+                     index_.avec3(colonne(3, c) + colonne(2, b) + colonne(1, a))) {
+                    const Masque paire = masque & ~n.ensemble;
+                    const Masque y = paire & (paire - 1);
+                    if ((y & libres) == 0 || (paire & n.gagnants) != 0) continue;
+                    auto p = std::find_if(paires_.begin(), paires_.end(),
+                                          [&](const auto& q) { return q.masque == paire; });
+                    if (p == paires_.end()) p = paires_.insert(p, {paire, 0});
+                    p->poids += poids;
+                    if (p->poids >= manque) utiles |= y;
+                }
+    return utiles;
 }
 
 void Croissance::enfant(const Noeud& n, int y) {
     const int compte = n.compte + gain(y);
     if (fini_ || compte < seuil(n.taille + 1) || compte > maximum_) return;
-    Noeud suivant = avec(n, y);
-    if (!issuDe(suivant, y)) return;
+    Utilisations avecY;
+    if (!issu(n, y, avecY)) return;
+    Noeud suivant = avec(n, y, avecY);
     const std::size_t hauteur = proches_.size();
     ouvrir(suivant, y);
     explorer(suivant);
     fermer(hauteur);
 }
 
-/// The set with y, its count and its uses; not yet the draws that come near it through y.
-Croissance::Noeud Croissance::avec(const Noeud& n, int y) const {
+/// Whether y is what the parent of the set with y lacks: its least used number, the lowest of
+/// those. `avecY` becomes the uses of the numbers of n in that set.
+bool Croissance::issu(const Noeud& n, int y, Utilisations& avecY) const {
+    const int utilisation = gain(y);
+    const auto taille = static_cast<std::size_t>(n.taille);
+    avecY = n.utilisations;
+    if (utilisation == 0) return true;  // libresPossibles saw to it
+    for (auto place = derniers_[static_cast<std::size_t>(y)]; place >= 0;) {
+        const Proche& p = proches_[static_cast<std::size_t>(place)];
+        for (std::size_t i = 0; i < taille; ++i)
+            if ((p.masque >> n.numeros[i] & 1) != 0) avecY[i] += p.poids;
+        place = p.precedent;
+    }
+    for (std::size_t i = 0; i < taille; ++i)
+        if (avecY[i] < utilisation || (avecY[i] == utilisation && n.numeros[i] < y)) return false;
+    return true;
+}
+
+/// The set with y and its counts; not yet the draws that come near it through y.
+Croissance::Noeud Croissance::avec(const Noeud& n, int y, const Utilisations& avecY) const {
     Noeud suivant;
     suivant.ensemble = n.ensemble | Bit(y);
     suivant.gagnants = n.gagnants & ~Bit(y);
     suivant.taille = n.taille + 1;
     suivant.compte = n.compte + gain(y);
-    const auto place = static_cast<std::size_t>(std::popcount(n.ensemble & (Bit(y) - 1)));
-    for (std::size_t i = 0; i < place; ++i) {
+    auto i = static_cast<std::size_t>(n.taille);
+    for (; i > 0 && n.numeros[i - 1] > y; --i) {
+        suivant.numeros[i] = n.numeros[i - 1];
+        suivant.utilisations[i] = avecY[i - 1];
+    }
+    suivant.numeros[i] = static_cast<std::uint8_t>(y);
+    suivant.utilisations[i] = gain(y);
+    while (i-- > 0) {
         suivant.numeros[i] = n.numeros[i];
-        suivant.utilisations[i] = n.utilisations[i];
+        suivant.utilisations[i] = avecY[i];
     }
-    suivant.numeros[place] = y;
-    suivant.utilisations[place] = gain(y);
-    for (std::size_t i = place; i < static_cast<std::size_t>(n.taille); ++i) {
-        suivant.numeros[i + 1] = n.numeros[i];
-        suivant.utilisations[i + 1] = n.utilisations[i];
-    }
-    if (gain(y) == 0) return suivant;
-    for (const Proche& p : proches_)
-        if (p.numero == y)
-            for (std::size_t i = 0; i < static_cast<std::size_t>(suivant.taille); ++i)
-                if (i != place && (p.masque & Bit(suivant.numeros[i])) != 0)
-                    suivant.utilisations[i] += p.poids;
     return suivant;
-}
-
-/// Whether y is what the parent of this set lacks.
-bool Croissance::issuDe(const Noeud& n, int y) {
-    const auto place = static_cast<std::size_t>(std::popcount(n.ensemble & (Bit(y) - 1)));
-    const int utilisation = n.utilisations[place];
-    for (std::size_t i = 0; i < place; ++i)
-        if (n.utilisations[i] <= utilisation) return false;
-    for (std::size_t i = place + 1; i < static_cast<std::size_t>(n.taille); ++i)
-        if (n.utilisations[i] < utilisation) return false;
-    return true;
 }
 
 /// Notes the draws that hold y, three other numbers of the set and one outside.
@@ -147,24 +181,28 @@ void Croissance::ouvrir(Noeud& n, int y) {
             const std::int32_t partiel = termes[2][c] + termes[1][b] + y;
             for (std::size_t a = 0; a < b; ++a) {
                 const std::int32_t rang = partiel + termes[0][a];
-                if (index_.complete(rang)) noter(rang, n);
+                if (index_.existe4(rang)) noter(rang, n);
             }
         }
 }
 
 void Croissance::noter(std::int32_t rang, Noeud& n) {
-    for (const auto& [tirage, numero] : index_.complements(rang)) {
-        if ((n.ensemble & Bit(numero)) != 0) continue;
-        const int poids = index_.poids(tirage);
+    for (const auto& [masque, poids] : index_.avec4(rang)) {
+        const Masque dehors = masque & ~n.ensemble;
+        if (dehors == 0) continue;
+        const auto numero = static_cast<std::size_t>(std::countr_zero(dehors));
         gains_[numero] += poids;
-        n.gagnants |= Bit(numero);
-        proches_.push_back({index_.masque(tirage), poids, numero});
+        n.gagnants |= dehors;
+        proches_.push_back({masque, poids, derniers_[numero], static_cast<std::uint8_t>(numero)});
+        derniers_[numero] = static_cast<std::int32_t>(proches_.size()) - 1;
     }
 }
 
 void Croissance::fermer(std::size_t hauteur) {
     while (proches_.size() > hauteur) {
-        gains_[static_cast<std::size_t>(proches_.back().numero)] -= proches_.back().poids;
+        const Proche& p = proches_.back();
+        gains_[p.numero] -= p.poids;
+        derniers_[p.numero] = p.precedent;
         proches_.pop_back();
     }
 }
@@ -183,7 +221,7 @@ bool Croissance::lexicographique() {
                 recolte_.recevoir(n.ensemble, Bit(y), compte);
                 continue;
             }
-            Noeud suivant = avec(n, y);
+            Noeud suivant = avec(n, y, n.utilisations);
             const std::size_t hauteur = proches_.size();
             ouvrir(suivant, y);
             self(self, suivant);

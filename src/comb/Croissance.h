@@ -45,19 +45,21 @@ class Croissance {
     bool lexicographique();
 
  private:
+    using Utilisations = std::array<int, TailleGrandeMax>;
     struct Noeud {
         Masque ensemble = 0;
         Masque gagnants = 0;  ///< numbers that would bring at least one draw
         int taille = 0;
-        int compte = 0;                                   ///< draws inside
-        std::array<int, TailleGrandeMax> numeros{};       ///< ascending, zero-based
-        std::array<int, TailleGrandeMax> utilisations{};  ///< draws inside that hold each of them
+        int compte = 0;                                       ///< draws inside
+        std::array<std::uint8_t, TailleGrandeMax> numeros{};  ///< ascending, zero-based
+        Utilisations utilisations{};  ///< draws inside that hold each of them
     };
     /// A draw with all its numbers but one in the current set, or in one of its ancestors.
     struct Proche {
         Masque masque;
         int poids;
-        int numero;  ///< the one
+        std::int32_t precedent;  ///< place of the one before with the same number, or -1
+        std::uint8_t numero;     ///< the one outside
     };
 
     int gain(int y) const { return gains_[static_cast<std::size_t>(y)]; }
@@ -70,9 +72,10 @@ class Croissance {
     void ouvrir(Noeud& n, int y);
     void fermer(std::size_t hauteur);
     void noter(std::int32_t rang, Noeud& n);
-    Noeud avec(const Noeud& n, int y) const;
-    static bool issuDe(const Noeud& n, int y);
+    bool issu(const Noeud& n, int y, Utilisations& avecY) const;
+    Noeud avec(const Noeud& n, int y, const Utilisations& avecY) const;
     static Masque libresPossibles(const Noeud& n);
+    Masque libresUtiles(const Noeud& n, Masque libres);
     bool poursuivre();
 
     const IndexTirages& index_;
@@ -83,6 +86,8 @@ class Croissance {
     std::array<int, TailleGrandeMax + 1> seuils_{};  ///< fewest draws of a set by its size
     std::array<int, NumeroMax> gains_{};             ///< draws that each number would bring
     std::vector<Proche> proches_;                    ///< grows and shrinks with the walk
+    std::array<std::int32_t, NumeroMax> derniers_;   ///< the last one of each number, or -1
+    std::vector<IndexTirages::Trouve> paires_;       ///< work of libresUtiles
     unsigned visites_ = 0;
     bool fini_ = false;
 };

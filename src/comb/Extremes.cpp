@@ -211,8 +211,8 @@ PtrFil<TRechercheExtremes> CreerRechercheExtremes(const ContexteComb& contexte, 
                   : Ptr(new TCombNSearch(contexte, puits, taille));
 }
 
-int JaugeExtremes(int taille) {
-    return taille <= NbBoules ? NumeroMax - 1 : GaugeCentieme;
+int JaugeExtremes(int taille, bool series) {
+    return series || taille <= NbBoules ? NumeroMax - 1 : GaugeCentieme;
 }
 
 }  // namespace norvane

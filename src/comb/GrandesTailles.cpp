@@ -71,9 +71,10 @@ void Prolonger(const IndexTirages& index, const Candidat& c, std::vector<Candida
                 for (std::size_t i = 0; i < j; ++i) {
                     const std::int32_t rang = numeros[i] + Colonne(2, numeros[j]) +
                                               Colonne(3, numeros[k]) + Colonne(4, numeros[l]);
-                    if (!index.complete(rang)) continue;
-                    for (const auto& [tirage, numero] : index.complements(rang))
-                        gains[numero] += index.poids(tirage);
+                    if (!index.existe4(rang)) continue;
+                    for (const auto& [masque, poids] : index.avec4(rang))
+                        if (const Masque dehors = masque & ~c.ensemble)
+                            gains[static_cast<std::size_t>(std::countr_zero(dehors))] += poids;
                 }
     PourChaqueNumero(TousLesNumeros & ~c.ensemble, [&](int x) {
         const int gain = gains[static_cast<std::size_t>(x)];

@@ -12,17 +12,44 @@ namespace {
 static_assert(NbTriplets == Binomial(NumeroMax, 3));
 constexpr auto NbQuadruplets = static_cast<std::size_t>(Binomial(NumeroMax, 4));
 
-/// Turns the counts in `debuts` (the count of rank r at r + 1) into starting places.
-void Cumuler(std::vector<std::uint32_t>& debuts) {
-    std::partial_sum(debuts.begin(), debuts.end(), debuts.begin());
-}
-
 }  // namespace
+
+template <typename T>
+void IndexTirages::Classeur<T>::classer(std::size_t rangs,
+                                        const std::vector<std::pair<std::uint32_t, T>>& choses) {
+    // Counted one place further than used: filling moves each start to where it belongs.
+    debuts.assign(rangs + 2, 0);
+    for (const auto& chose : choses) ++debuts[chose.first + 2];
+    std::partial_sum(debuts.begin(), debuts.end(), debuts.begin());
+    contenu.resize(choses.size());
+    for (const auto& [rang, chose] : choses) contenu[debuts[rang + 1]++] = chose;
+}
 
 IndexTirages::IndexTirages(std::span<const Tirage> tirages) {
     regrouper(tirages);
-    indexerQuatre();
-    indexerTrois();
+    std::vector<std::pair<std::uint32_t, Trouve>> trois, quatre;
+    std::vector<std::pair<std::uint32_t, std::uint16_t>> bas;
+    trois.reserve(nombre() * 10);
+    quatre.reserve(nombre() * 5);
+    bas.reserve(nombre());
+    presents4_.assign(NbQuadruplets / 64 + 1, 0);
+    for (std::size_t i = 0; i < nombre(); ++i) {
+        const Masque masque = masques_[i];
+        const auto rang = [](Masque m, int k) { return static_cast<std::uint32_t>(RangBas(m, k)); };
+        PourChaqueNumero(masque, [&](int x) {
+            const Masque reste = masque & ~Bit(x);
+            quatre.push_back({rang(reste, 4), {masque, poids_[i]}});
+            PourChaqueNumero(reste & (Bit(x) - 1), [&](int y) {
+                trois.push_back({rang(reste & ~Bit(y), 3), {masque, poids_[i]}});
+            });
+        });
+        bas.push_back({rang(masque, 3), static_cast<std::uint16_t>(i)});
+    }
+    for (const auto& [rang, trouve] : quatre)
+        presents4_[rang / 64] |= std::uint64_t{1} << (rang % 64);
+    par3_.classer(NbTriplets, trois);
+    par4_.classer(NbQuadruplets, quatre);
+    parBas_.classer(NbTriplets, bas);
 }
 
 void IndexTirages::regrouper(std::span<const Tirage> tirages) {
@@ -47,39 +74,6 @@ void IndexTirages::regrouper(std::span<const Tirage> tirages) {
     poidsTotal_ = static_cast<int>(tirages.size());
 }
 
-void IndexTirages::indexerQuatre() {
-    presents4_.assign(NbQuadruplets / 64 + 1, 0);
-    debuts4_.assign(NbQuadruplets + 1, 0);
-    complements_.resize(masques_.size() * NbBoules);
-    std::vector<std::uint32_t> rangs;
-    rangs.reserve(complements_.size());
-    for (const Masque masque : masques_)
-        PourChaqueNumero(masque, [&](int x) {
-            const std::size_t rang = RangBas(masque & ~Bit(x), 4);
-            presents4_[rang / 64] |= std::uint64_t{1} << (rang % 64);
-            ++debuts4_[rang + 1];
-            rangs.push_back(static_cast<std::uint32_t>(rang));
-        });
-    Cumuler(debuts4_);
-    std::vector<std::uint32_t> suivants(debuts4_.begin(), debuts4_.end() - 1);
-    std::size_t rang = 0;
-    for (std::size_t i = 0; i < masques_.size(); ++i)
-        PourChaqueNumero(masques_[i], [&](int x) {
-            complements_[suivants[rangs[rang++]]++] = {static_cast<std::uint16_t>(i),
-                                                       static_cast<std::uint8_t>(x)};
-        });
-}
-
-void IndexTirages::indexerTrois() {
-    debuts3_.assign(NbTriplets + 1, 0);
-    parBas_.resize(masques_.size());
-    for (const Masque masque : masques_) ++debuts3_[RangBas(masque, 3) + 1];
-    Cumuler(debuts3_);
-    std::vector<std::uint32_t> suivants(debuts3_.begin(), debuts3_.end() - 1);
-    for (std::size_t i = 0; i < masques_.size(); ++i)
-        parBas_[suivants[RangBas(masques_[i], 3)]++] = static_cast<std::uint16_t>(i);
-}
-
 void IndexTirages::lister(Masque ensemble, std::vector<std::uint16_t>& places) const {
     places.clear();
     std::array<int, NumeroMax> numeros;
@@ -91,16 +85,11 @@ void IndexTirages::lister(Masque ensemble, std::vector<std::uint16_t>& places) c
     // The third lowest number of a draw inside has at least two numbers of the set above it.
     for (int k = 2; k + 2 < n; ++k)
         for (int j = 1; j < k; ++j)
-            for (int i = 0; i < j; ++i) {
-                const auto rang =
-                    static_cast<std::size_t>(colonne(1, i) + colonne(2, j) + colonne(3, k));
-                for (auto p = debuts3_[rang]; p < debuts3_[rang + 1]; ++p) {
-                    const std::size_t t = parBas_[p];
+            for (int i = 0; i < j; ++i)
+                for (const std::size_t t : parBas_[colonne(1, i) + colonne(2, j) + colonne(3, k)])
                     if ((masques_[t] & ~ensemble) == 0)
                         places.insert(places.end(), places_.begin() + debutsPlaces_[t],
                                       places_.begin() + debutsPlaces_[t + 1]);
-                }
-            }
     std::sort(places.begin(), places.end());
 }
 

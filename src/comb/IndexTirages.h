@@ -9,6 +9,7 @@
 #include <bit>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "comb/GrandesTailles.h"
@@ -70,10 +71,10 @@ void PourChaqueNumero(Masque ensemble, F f) {
 
 class IndexTirages {
  public:
-    /// A distinct draw and the number that completes it where it is found by its four others.
-    struct Complement {
-        std::uint16_t tirage;
-        std::uint8_t numero;
+    /// A distinct draw found by some of its numbers: all that a search needs of it, in one place.
+    struct Trouve {
+        Masque masque;
+        int poids;
     };
 
     explicit IndexTirages(std::span<const Tirage> tirages);
@@ -85,21 +86,32 @@ class IndexTirages {
 
     /// Whether any draw holds the four numbers of this rank. The table is small enough to stay in
     /// the first cache: most questions end here.
-    bool complete(std::int32_t rang) const {
+    bool existe4(std::int32_t rang) const {
         return (presents4_[static_cast<std::size_t>(rang) / 64] >> (rang % 64) & 1) != 0;
     }
-    std::span<const Complement> complements(std::int32_t rang) const {
-        const auto r = static_cast<std::size_t>(rang);
-        return {complements_.data() + debuts4_[r], debuts4_[r + 1] - debuts4_[r]};
-    }
+    /// The distinct draws that hold the three or four numbers of this rank.
+    std::span<const Trouve> avec3(std::int32_t rang) const { return par3_[rang]; }
+    std::span<const Trouve> avec4(std::int32_t rang) const { return par4_[rang]; }
 
     /// Replaces `places` by the ascending places of the records that lie in `ensemble`.
     void lister(Masque ensemble, std::vector<std::uint16_t>& places) const;
 
  private:
+    /// Things filed by rank, one after the other.
+    template <typename T>
+    struct Classeur {
+        std::vector<std::uint32_t> debuts;
+        std::vector<T> contenu;
+
+        std::span<const T> operator[](std::int32_t rang) const {
+            const auto r = static_cast<std::size_t>(rang);
+            return {contenu.data() + debuts[r], debuts[r + 1] - debuts[r]};
+        }
+        /// Files each thing of a list of (rank, thing) under its rank, the order kept.
+        void classer(std::size_t rangs, const std::vector<std::pair<std::uint32_t, T>>& choses);
+    };
+
     void regrouper(std::span<const Tirage> tirages);
-    void indexerQuatre();
-    void indexerTrois();
 
     std::vector<Masque> masques_;
     std::vector<int> poids_;
@@ -107,10 +119,9 @@ class IndexTirages {
     std::vector<std::uint32_t> debutsPlaces_;  ///< records of each distinct draw, in places_
     std::vector<std::uint16_t> places_;
     std::vector<std::uint64_t> presents4_;
-    std::vector<std::uint32_t> debuts4_;  ///< by rank of four numbers, in complements_
-    std::vector<Complement> complements_;
-    std::vector<std::uint32_t> debuts3_;  ///< by rank of the three lowest numbers, in parBas_
-    std::vector<std::uint16_t> parBas_;
+    Classeur<Trouve> par3_;
+    Classeur<Trouve> par4_;
+    Classeur<std::uint16_t> parBas_;  ///< distinct draws by their three lowest numbers
 };
 
 }  // namespace norvane

@@ -72,12 +72,16 @@ struct Residus::Descente {
     }
 };
 
+std::uint64_t Residus::choixPossibles() const {
+    return Combinaisons(static_cast<int>(reserve_.size()), choix_);
+}
+
 std::uint64_t Residus::compter(int inf, int sup, std::uint64_t plafond,
                                const std::stop_token& arret) const {
     const int n = static_cast<int>(reserve_.size());
     if (inf == 0) {
         // Far more choices hold few draws than hold many: the others are counted.
-        const std::uint64_t total = Combinaisons(n, choix_);
+        const std::uint64_t total = choixPossibles();
         std::uint64_t majorant = 0;
         for (const Residu& r : residus_) {
             const int m = std::popcount(r.manque);
@@ -111,13 +115,14 @@ void Residus::lister(
     int inf, int sup, const std::stop_token& arret, const std::function<void(int)>& avance,
     const std::function<bool(Masque, std::span<const std::uint16_t>)>& recevoir) const {
     std::vector<std::uint16_t> places;
-    int dernierePlace = 0;
+    Masque derniereTete = 0;
     const auto donnerFeuille = [&](auto& descente, std::size_t premier, Masque choisis,
                                    const std::vector<Residu>& vivants) {
-        const Masque tete = choisis == 0 ? 0 : choisis & (~choisis + 1);
-        const auto place = static_cast<int>(
-            std::ranges::count_if(reserve_, [&](int n) { return MasqueNumero(n) <= tete; }));
-        if (place > dernierePlace) avance(dernierePlace = place);
+        const Masque tete = choisis & (~choisis + 1);
+        if (tete != derniereTete) {
+            derniereTete = tete;
+            avance(std::countr_zero(tete) * 100 / NumeroMax);
+        }
         for (std::size_t j = premier; j < reserve_.size() && !descente.fini; ++j) {
             const Masque b = MasqueNumero(reserve_[j]);
             places.clear();

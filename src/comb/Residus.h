@@ -22,13 +22,15 @@ class Residus {
     Residus(const std::vector<Masque>& tirages, const std::vector<int>& fixes,
             std::vector<int> reserve, int choix);
 
+    std::uint64_t choixPossibles() const;
+
     /// How many choices hold inf..sup draws; where there are more than `plafond`, any number of
     /// them above it. Void when stopped.
     std::uint64_t compter(int inf, int sup, std::uint64_t plafond,
                           const std::stop_token& arret) const;
 
     /// Gives each of them in lexicographic order with the ascending places of its draws, until
-    /// `recevoir` answers false. `avance` is told the place of the first chosen number, from 1.
+    /// `recevoir` answers false. `avance` is told how far the first number has come, 0..100.
     void lister(int inf, int sup, const std::stop_token& arret,
                 const std::function<void(int)>& avance,
                 const std::function<bool(Masque, std::span<const std::uint16_t>)>& recevoir) const;

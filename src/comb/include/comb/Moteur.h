@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "comb/Collecte.h"
 #include "comb/LigneCombinaison.h"
 #include "comb/VaroFonc2.h"
 
@@ -52,6 +53,8 @@ struct FinTraitement {
     bool debordement = false;
 };
 
+class TCombNewSearch;
+
 /// All calls come from the main thread. The references must outlive the object and nothing of them
 /// may change while a worker runs.
 class Moteur {
@@ -72,7 +75,8 @@ class Moteur {
 
     /// Progress of a worker, called on its threads.
     std::function<void(int)> surProgression;
-    /// The worker is through, called on it: have the main thread call TraitementTermine.
+    /// The worker is through, called on it (while it is destroyed with the Moteur as well): have
+    /// the main thread call TraitementTermine.
     std::function<void()> surFin;
 
     // What the page shows.
@@ -89,7 +93,8 @@ class Moteur {
     /// Size whose button reads "STOP", 0 when none does.
     int enCours() const { return taille_; }
 
-    /// A click on a size button. `inf`, `sup` are read in list mode 1 alone.
+    /// A click on a size button. `inf`, `sup` are read in list mode 1 alone. While a worker runs
+    /// the button of its size stops it and every other one is refused.
     ReponseClic Cliquer(int taille, int inf = 0, int sup = 0);
 
     /// The end handler, once for each worker started.
@@ -113,18 +118,18 @@ class Moteur {
     bool intervalleEntier() const;
 
  private:
-    class Collecte;
-    class Avance;
-
     ContexteComb contexte() const;
     std::filesystem::path fichierListe(int taille) const;
-    ReponseClic charger(int taille);
+    bool listeDepassee(int taille) const;
+    ReponseClic arreter();
     ReponseClic lancer(int taille, PtrComb fil, int jauge);
     ReponseClic cliquerExtremes(int taille);
+    ReponseClic calculerExtremes(int taille);
     ReponseClic cliquerBornes(int taille, int inf, int sup);
-    void finirExtremes(FinTraitement& fin);
-    void finirAvance(FinTraitement& fin);
-    void finirBornes(FinTraitement& fin);
+    ReponseClic oublierAutreBase(int taille);
+    void finirExtremes(const TRechercheExtremes& fil, FinTraitement& fin);
+    void finirAvance(TCombNewSearch& fil, FinTraitement& fin);
+    void finirBornes(const TRechercheBornes& fil, FinTraitement& fin);
     void stocker(FinTraitement& fin);
 
     const Base& base_;
@@ -134,26 +139,15 @@ class Moteur {
     int& traitements_;
     const bool& disponible_;
 
+    // The run under way.
     int taille_ = 0;
-    std::unique_ptr<Collecte> collecte_;
-    PtrComb fil_;
+    bool extremes_ = false;  // NbTiragesComb goes back to NbTiragesCombSauve on STOP
+    Collecte collecte_;
+    std::vector<std::string> lignesAvant_;
+    std::uint64_t nombreAvant_ = 0;
     std::function<void(FinTraitement&)> terminer_;
     std::chrono::steady_clock::time_point debut_;
+    PtrComb fil_;
 };
-
-/// The list of extremes cleaned up after a new draw: of lines with the same numbers the one with
-/// the highest count stays (a marked one before another). `min` becomes the smallest count left,
-/// unless it is 0, `max` the largest. The lines end up in the order of their numbers.
-void NettoyerDoublons(std::vector<std::string>& lignes, int& min, int& max);
-/// Cuts every line behind its ")".
-void EffacerMarques(std::vector<std::string>& lignes);
-/// Keeps the lines with the mark.
-void GarderMarques(std::vector<std::string>& lignes);
-/// The lines of the records (1 + taille words) whose count is BorneInf or BorneSup; a record that
-/// was given twice in a row becomes one line.
-std::vector<std::string> FiltrerExtremes(std::span<const Mot> ListeExtremes, int taille,
-                                         int BorneInf, int BorneSup);
-/// Keeps the lines whose count is BorneInf or BorneSup.
-void FiltrerLignes(std::vector<std::string>& lignes, int BorneInf, int BorneSup);
 
 }  // namespace norvane

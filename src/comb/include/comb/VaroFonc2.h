@@ -110,7 +110,7 @@ struct Extremes {
 /// What the searches for extremes share. They give every candidate that reaches the running
 /// maximum, ties included, and, where it is tracked, the running minimum: one that is both goes out
 /// twice. What was overtaken later stays in the output for the reduction to drop. The gauge runs
-/// from 0 to JaugeExtremes(taille).
+/// from 0 to JaugeExtremes.
 class TRechercheExtremes : public TCombThread {
  public:
     int taille() const { return taille_; }
@@ -182,7 +182,7 @@ class TCombNSuccMaxOnlySearch : public TRechercheExtremes {
 PtrFil<TRechercheExtremes> CreerRechercheExtremes(const ContexteComb& contexte, Puits& puits,
                                                   int taille);
 /// Maximum of its gauge.
-int JaugeExtremes(int taille);
+int JaugeExtremes(int taille, bool series);
 
 // --- Bounds -------------------------------------------------------------------------------------
 
