@@ -20,7 +20,6 @@
 
 #include "pages/ColonnesStats.h"
 #include "shell/Theme.h"
-#include "widgets/Alerte.h"
 #include "widgets/ChampNumero.h"
 #include "widgets/Fiche.h"
 #include "widgets/LigneBornes.h"

@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "base/Textes.h"
 #include "pages/ColonnesStats.h"
 #include "shell/Theme.h"
 #include "widgets/PaireIntervalle.h"

@@ -113,6 +113,10 @@ QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid %discret;
   background: %carte; }
 QRadioButton::indicator:hover { border-color: %accent; }
 QRadioButton::indicator:checked { width: 5px; height: 5px; border: 5px solid %accent; border-radius: 7px; }
+QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid %discret; border-radius: 3px;
+  background: %carte; }
+QCheckBox::indicator:hover { border-color: %accent; }
+QCheckBox::indicator:checked { border-color: %accent; background: %accent; image: url(:/norvane/coche.svg); }
 QFrame#Carte { background: %carte; border: 1px solid %bordure; border-radius: 8px; }
 QHeaderView::section { background: %alternance; color: %texte; border: 0; border-right: 1px solid %bordure;
   border-bottom: 1px solid %bordure; padding: 4px 6px; font-weight: 600; }
