@@ -13,7 +13,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QPainter>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
@@ -23,84 +22,13 @@
 #include "shell/Theme.h"
 #include "widgets/BandeTirage.h"
 #include "widgets/ChampNumero.h"
+#include "widgets/Fiche.h"
 #include "widgets/PlancheNumeros.h"
 #include "widgets/TableRapports.h"
 
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A panel that stands on the window.
-class Fiche final : public QFrame {
- public:
-    explicit Fiche(QWidget* parent) : QFrame(parent) {
-        pile = new QVBoxLayout(this);
-        pile->setContentsMargins(2 * Unite, 2 * Unite - 2, 2 * Unite, 2 * Unite - 2);
-        pile->setSpacing(Unite);
-    }
-    QVBoxLayout* pile;
-
- protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        const Teintes t = teintes(palette());
-        p.setPen(t.bordure);
-        p.setBrush(t.carte);
-        p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
-    }
-};
-
-/// Secondary text, in a colour that follows the palette.
-QLabel* legende(const QString& texte, QWidget* parent) {
-    auto* etiquette = new QLabel(texte, parent);
-    etiquette->setForegroundRole(QPalette::PlaceholderText);
-    return etiquette;
-}
-
-void grossir(QWidget* cible, double facteur) {
-    QFont fonte = cible->font();
-    fonte.setPixelSize(qRound(QFontInfo(fonte).pixelSize() * facteur));
-    fonte.setBold(true);
-    cible->setFont(fonte);
-}
-
-QLabel* valeur(const QString& nom, const QString& libelle, QWidget* parent) {
-    auto* etiquette = new QLabel(parent);
-    etiquette->setObjectName(nom);
-    etiquette->setAccessibleName(libelle);
-    grossir(etiquette, 1.2);
-    return etiquette;
-}
-
-/// A control with its caption above it.
-QVBoxLayout* colonne(const QString& titre, QLayout* contenu, QWidget* parent) {
-    auto* pile = new QVBoxLayout;
-    pile->setSpacing(2);
-    pile->addWidget(legende(titre, parent));
-    pile->addLayout(contenu);
-    return pile;
-}
-
-QHBoxLayout* rangee(std::initializer_list<QWidget*> widgets) {
-    auto* ligne = new QHBoxLayout;
-    ligne->setSpacing(Unite / 2);
-    for (QWidget* widget : widgets) ligne->addWidget(widget);
-    return ligne;
-}
-
-QPushButton* bouton(const QString& nom, const QString& libelle, const QString& indice,
-                    QWidget* parent) {
-    auto* b = new QPushButton(libelle, parent);
-    b->setObjectName(nom);
-    b->setMinimumSize(b->sizeHint().width() + 4 * Unite, b->fontMetrics().height() + 3 * Unite);
-    poserIndice(b, indice);
-    return b;
-}
-
-}  // namespace
 
 PageResultats::PageResultats(Contexte& ctx, QWidget* parent) : Page(ctx, parent) {
     setObjectName(u"Varo1"_s);
