@@ -209,7 +209,7 @@ TEST(Bornes, StoppedLeavesALeadingPart) {
     Collecte tout;
     Mener(CreerRechercheBornes(e.contexte(), tout, 4, 0, 9999));
     std::mt19937 hasard(25);
-    for (int essai = 0; essai < 20; ++essai) {
+    for (int essai = 0; essai < 8; ++essai) {
         struct : Collecte {
             void AddRecord(std::span<const Mot> nouveaux) override {
                 Collecte::AddRecord(nouveaux);
