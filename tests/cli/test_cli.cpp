@@ -2,56 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <sstream>
-
+#include "BancCli.h"
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
 #include "base/TableCsv.h"
-#include "BasesEssai.h"
-#include "cli/Executer.h"
-#include "Contenu.h"
 #include "OracleStats.h"
 
 namespace norvane {
 namespace {
-
-using Args = std::vector<std::string>;
-
-struct Sortie {
-    int statut;
-    std::string out, err;
-};
-
-/// A folder with the four records in quatre.csv, and the program run in it.
-class Cli : public testing::Test {
- protected:
-    Cli() {
-        std::ostringstream csv;
-        EcrireTableCsv(csv, QuatreTirages(), 0, 3);
-        poser(dossier / "quatre.csv", csv.str());
-    }
-
-    /// The words of one line, between blanks.
-    Sortie lancer(const std::string& ligne) const {
-        std::istringstream mots(ligne);
-        return lancer(Args{std::istream_iterator<std::string>(mots), {}});
-    }
-    Sortie lancer(const Args& args) const {
-        std::ostringstream out, err;
-        const int statut = Executer(args, out, err, dossier.chemin());
-        return {statut, out.str(), err.str()};
-    }
-
-    Dossier dossier;
-};
-
-std::string Lignes(const std::string& texte, int premiere, int derniere) {
-    std::istringstream flux(texte);
-    std::string lignes, ligne;
-    for (int i = 0; std::getline(flux, ligne); ++i)
-        if (i >= premiere && i <= derniere) lignes += ligne + '\n';
-    return lignes;
-}
 
 TEST_F(Cli, Base) {
     EXPECT_EQ(lancer("base").out,
@@ -181,7 +139,8 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
         "Commandes :\n"
         "  base     Ce que contient la base des tirages\n"
         "  tirages  Les tirages de l'intervalle, en CSV\n"
-        "  stats    Statistiques des numéros ou des chances sur l'intervalle\n");
+        "  stats    Statistiques des numéros ou des chances sur l'intervalle\n"
+        "  comb     Combinaisons de 2 à 10 numéros sur l'intervalle\n");
     const Sortie chances = lancer("stats chances --help");
     EXPECT_EQ(chances.statut, StatutFait);
     EXPECT_EQ(Lignes(chances.out, 0, 2),
@@ -191,8 +150,10 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
 
     // The manual tells of everything that the help does.
     const std::string manuel = lire(NORVANE_DATA "/../packaging/norvane-cli.1");
-    for (const char* mot : {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages",
-                            "B stats numeros", "B stats chances"})
+    for (const char* mot :
+         {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages", "B stats numeros",
+          "B stats chances", "comb extremes", "comb bornes", "-series", "-stockage", "-max",
+          "-compter", "-absolue", "-secondaire", "comb stats"})
         EXPECT_NE(manuel.find(mot), std::string::npos) << mot;
 }
 
