@@ -127,6 +127,9 @@ void LigneBornes::ouvrirEdits() {
 }
 
 void LigneBornes::montrerArret(bool enCours) {
+    QFont fonte = bouton->font();
+    fonte.setBold(enCours);
+    bouton->setFont(fonte);
     bouton->setText(enCours ? u"STOP"_s : QString::fromUtf16(nomsDe(taille_).legende));
 }
 
