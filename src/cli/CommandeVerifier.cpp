@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <fmt/format.h>
 
-#include <charconv>
 #include <ostream>
 
 #include "base/Configuration.h"
 #include "base/Dates.h"
-#include "base/Fichiers.h"
 #include "Commandes.h"
 #include "Options.h"
 #include "tickets/Bilan.h"
@@ -32,18 +30,9 @@ Resultat<Recu> LireBillets(const fs::path& fichier) {
             fmt::format("« {} » n'est ni une liste de grilles ni un reçu : son nom doit finir par "
                         ".grl ou .rdj.",
                         fichier.string())};
-    const auto texte = LireFichier(fichier);
-    if (!texte) return Erreur{texte.erreur()};
-    const auto refuser = [&](const std::string& raison) {
-        return Erreur{fmt::format("« {} » : {}", fichier.string(), raison)};
-    };
-    if (recu) {
-        auto lu = LireRecu(*texte);
-        if (!lu) return refuser(lu.erreur());
-        return lu;
-    }
-    auto grilles = LireGrilles(*texte);
-    if (!grilles) return refuser(grilles.erreur());
+    if (recu) return ChargerRecu(fichier);
+    auto grilles = ChargerGrilles(fichier);
+    if (!grilles) return Erreur{grilles.erreur()};
     return Recu{*std::move(grilles), {}};
 }
 
@@ -55,18 +44,16 @@ Monnaie LireMonnaie(const Contexte& contexte) {
 
 /// The first draw of the date that a receipt is named after.
 Resultat<int> TirageDuRecu(const fs::path& fichier, const Base& base) {
-    const std::string nom = fichier.stem().string();
-    int date = 0;
-    const auto [fin, erreur] = std::from_chars(nom.data(), nom.data() + nom.size(), date);
-    if (erreur != std::errc{} || fin != nom.data() + nom.size() || !DateValide(date))
+    const auto date = DateRecu(fichier);
+    if (!date)
         return Erreur{
             fmt::format("Le nom du reçu « {} » n'est pas une date aaaammjj : donnez le "
                         "numéro du tirage avec --tirage.",
                         fichier.string())};
-    const int indice = TirageParDate(base.Tirages, date, base.NbTirages).indice;
+    const int indice = TirageParDate(base.Tirages, *date, base.NbTirages).indice;
     if (indice < 0)
         return Erreur{fmt::format("La base n'a aucun tirage à la date du reçu « {} », {}.",
-                                  fichier.string(), DateLongue(date))};
+                                  fichier.string(), DateLongue(*date))};
     return indice + 1;
 }
 
