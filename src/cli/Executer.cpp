@@ -5,9 +5,7 @@
 #include <fmt/ostream.h>
 
 #include <algorithm>
-#include <charconv>
 #include <exception>
-#include <limits>
 #include <ostream>
 #include <sstream>
 #include <string_view>
@@ -16,39 +14,13 @@
 
 #include "Aide.h"
 #include "Commandes.h"
+#include "Options.h"
 
 namespace norvane {
 
 namespace {
 
 constexpr const char* NomProgramme = "norvane-cli";
-
-/// Reads a draw number. One too large for any type is out of every base, and is refused as such
-/// later on rather than as bad usage here.
-bool LireEntier(std::string_view texte, std::optional<long>& valeur) {
-    long lu = 0;
-    const char* fin = texte.data() + texte.size();
-    const auto [suite, erreur] = std::from_chars(texte.data(), fin, lu);
-    if (suite != fin || erreur == std::errc::invalid_argument) return false;
-    if (erreur == std::errc::result_out_of_range)
-        lu = texte.front() == '-' ? std::numeric_limits<long>::min()
-                                  : std::numeric_limits<long>::max();
-    valeur = lu;
-    return true;
-}
-
-void AjouterBorne(CLI::App& app, const char* nom, std::optional<long>& valeur,
-                  const char* description) {
-    app.add_option_function<std::string>(
-           nom,
-           [nom, &valeur](const std::string& texte) {
-               if (!LireEntier(texte, valeur))
-                   throw CLI::ValidationError(
-                       nom, fmt::format("« {} » n'est pas un nombre entier", texte));
-           },
-           description)
-        ->type_name("N");
-}
 
 void DeclarerOptions(CLI::App& app, OptionsGlobales& options) {
     app.set_help_flag("--help", "Affiche cette aide");
@@ -61,8 +33,8 @@ void DeclarerOptions(CLI::App& app, OptionsGlobales& options) {
     app.add_flag("--globale", options.globale,
                  "Base intégrée : avec les tirages de l'ancien jeu, depuis 1976")
         ->disable_flag_override();
-    AjouterBorne(app, "--de", options.de, "Premier tirage de l'intervalle ; par défaut 1");
-    AjouterBorne(app, "--a", options.a, "Dernier tirage de l'intervalle ; par défaut le dernier");
+    AjouterEntier(app, "--de", options.de, "Premier tirage de l'intervalle ; par défaut 1");
+    AjouterEntier(app, "--a", options.a, "Dernier tirage de l'intervalle ; par défaut le dernier");
 }
 
 /// The innermost command that the line names.
@@ -82,12 +54,14 @@ std::string RaisonUsage(const CLI::App& racine, const CLI::ParseError& erreur) {
             return fmt::format("l'option globale {} se place avant la commande", option);
         return fmt::format("argument inattendu « {} »", mot);
     }
-    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) return "il manque la commande";
-
     const std::string_view texte = erreur.what();  // begins with the option's name
     const std::string nom(texte.substr(0, texte.find_first_of(": ")));
+    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr)
+        return CommandeNommee(racine).get_option_no_throw(nom) == nullptr
+                   ? "il manque la commande"
+                   : fmt::format("il manque l'argument {}", nom);
     if (dynamic_cast<const CLI::ValidationError*>(&erreur) != nullptr)
-        return fmt::format("option {} :{}", nom,
+        return fmt::format("{} {} :{}", nom.starts_with('-') ? "option" : "argument", nom,
                            texte.substr(std::min(nom.size() + 1, texte.size())));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
         return fmt::format("option {}{} : nombre de valeurs incorrect",
