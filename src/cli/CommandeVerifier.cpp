@@ -64,19 +64,15 @@ Resultat<int> ChoisirTirage(std::optional<long> tirage, const fs::path& fichier,
             "Une liste de grilles n'a pas de date : donnez le numéro du tirage avec "
             "--tirage."};
     if (!tirage) return TirageDuRecu(fichier, base);
-    if (*tirage < 1 || *tirage > base.NbTirages)
-        return Erreur{
-            fmt::format("--tirage {} est hors de la base, dont les tirages vont de 1 à {}.",
-                        *tirage, base.NbTirages)};
-    return static_cast<int>(*tirage);
+    return EntierDans(tirage, "--tirage", 1, base.NbTirages);
 }
 
 }  // namespace
 
 CommandeVerifier::CommandeVerifier(CLI::App& racine)
     : Commande(racine.add_subcommand("verifier", "Les gains de grilles ou d'un reçu à un tirage")) {
-    AjouterFichier(app(), fichier_);
-    AjouterEntier(app(), "--tirage", tirage_,
+    AjouterFichier(sousCommande(), fichier_);
+    AjouterEntier(sousCommande(), "--tirage", tirage_,
                   "Numéro du tirage dans la base ; par défaut, pour un reçu,\n"
                   "le premier de la date qu'il a pour nom");
 }
@@ -99,7 +95,7 @@ Resultat<Rien> CommandeVerifier::executer(const Contexte& contexte, std::ostream
 CommandeBilan::CommandeBilan(CLI::App& racine)
     : Commande(racine.add_subcommand(
           "bilan", "Ce que des grilles auraient gagné et coûté sur l'intervalle")) {
-    AjouterFichier(app(), fichier_);
+    AjouterFichier(sousCommande(), fichier_);
 }
 
 Resultat<Rien> CommandeBilan::executer(const Contexte& contexte, std::ostream& out) {

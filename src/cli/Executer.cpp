@@ -55,13 +55,13 @@ std::string RaisonUsage(const CLI::App& racine, const CLI::ParseError& erreur) {
         return fmt::format("argument inattendu « {} »", mot);
     }
     const std::string_view texte = erreur.what();  // begins with the option's name
-    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
-        if (!CommandeNommee(racine).get_subcommands({}).empty()) return "il manque la commande";
-        return fmt::format("il manque {}", texte.substr(0, texte.find(' ')));
-    }
     const std::string nom(texte.substr(0, texte.find_first_of(": ")));
+    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr)
+        return CommandeNommee(racine).get_option_no_throw(nom) == nullptr
+                   ? "il manque la commande"
+                   : fmt::format("il manque l'argument {}", nom);
     if (dynamic_cast<const CLI::ValidationError*>(&erreur) != nullptr)
-        return fmt::format("option {} :{}", nom,
+        return fmt::format("{} {} :{}", nom.starts_with('-') ? "option" : "argument", nom,
                            texte.substr(std::min(nom.size() + 1, texte.size())));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
         return fmt::format("option {}{} : nombre de valeurs incorrect",

@@ -7,7 +7,6 @@
 #include <charconv>
 #include <limits>
 #include <string>
-#include <string_view>
 
 namespace norvane {
 
@@ -27,17 +26,25 @@ bool LireEntier(std::string_view texte, std::optional<long>& valeur) {
 
 }  // namespace
 
-void AjouterEntier(CLI::App& app, const char* nom, std::optional<long>& valeur,
-                   const char* description) {
-    app.add_option_function<std::string>(
-           nom,
-           [nom, &valeur](const std::string& texte) {
-               if (!LireEntier(texte, valeur))
-                   throw CLI::ValidationError(
-                       nom, fmt::format("« {} » n'est pas un nombre entier", texte));
-           },
-           description)
+CLI::Option* AjouterEntier(CLI::App& app, const char* nom, std::optional<long>& valeur,
+                           const char* description) {
+    return app
+        .add_option_function<std::string>(
+            nom,
+            [nom, &valeur](const std::string& texte) {
+                if (!LireEntier(texte, valeur))
+                    throw CLI::ValidationError(
+                        nom, fmt::format("« {} » n'est pas un nombre entier", texte));
+            },
+            description)
         ->type_name("N");
+}
+
+Resultat<int> EntierDans(const std::optional<long>& valeur, std::string_view nom, int min,
+                         int max) {
+    if (*valeur < min || *valeur > max)
+        return Erreur{fmt::format("{} va de {} à {}, pas {}.", nom, min, max, *valeur)};
+    return static_cast<int>(*valeur);
 }
 
 }  // namespace norvane
