@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "Contenu.h"
 #include "tickets/Binomial.h"
 
 namespace norvane {
@@ -111,23 +112,11 @@ auto Chercher(const std::array<Ligne, Taille>& table, int cle)
     return ligne->comptes;
 }
 
-/// The numbers and the chances inside a ticket.
-struct Contenu {
-    std::span<const double> numeros;
-    std::span<const double> chances;
-};
-Contenu Ouvrir(const Grille& grille) {
-    const std::span<const double> tout(grille);
-    const auto n = static_cast<std::size_t>(grille[1]);
-    return {tout.subspan(2, n), tout.subspan(n + 3)};
-}
-
 }  // namespace
 
 bool ParticipeAu2ndTirage(const Grille& grille) {
     const Contenu contenu = Ouvrir(grille);
-    return grille[0] != TableMises(static_cast<int>(contenu.numeros.size()),
-                                   static_cast<int>(contenu.chances.size()));
+    return grille[0] != TableMises(contenu.n(), contenu.c());
 }
 
 Bons CompterBons(const Grille& grille, const Tirage& tirage) {
@@ -179,14 +168,13 @@ std::optional<ComptesRangs> RangsResultat(int n, int g, int c, int gc, int date)
 ComptesRangs RangsGagnes(const Grille& grille, const Tirage& tirage) {
     const Bons bons = CompterBons(grille, tirage);
     const Contenu contenu = Ouvrir(grille);
-    return RangsResultat(static_cast<int>(contenu.numeros.size()), bons.numeros,
-                         static_cast<int>(contenu.chances.size()), bons.chances, tirage.DateTirage)
+    return RangsResultat(contenu.n(), bons.numeros, contenu.c(), bons.chances, tirage.DateTirage)
         .value_or(ComptesRangs{});
 }
 
 ComptesRangs2nd Rangs2ndGagnes(const Grille& grille, const Tirage& tirage) {
     if (!ParticipeAu2ndTirage(grille)) return {};
-    return ChercherRangs2nd(static_cast<int>(grille[1]), CompterBons(grille, tirage).numeros)
+    return ChercherRangs2nd(Ouvrir(grille).n(), CompterBons(grille, tirage).numeros)
         .value_or(ComptesRangs2nd{});
 }
 
