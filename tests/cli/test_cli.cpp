@@ -11,6 +11,7 @@
 #include "cli/Executer.h"
 #include "Contenu.h"
 #include "OracleStats.h"
+#include "tickets/FichiersGrilles.h"
 
 namespace norvane {
 namespace {
@@ -112,6 +113,32 @@ TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
     }
 }
 
+TEST_F(Cli, PrizeRulesAndRandomTickets) {
+    const std::pair<const char*, const char*> cas[] = {
+        {"regles mise 6 2", "26.4\n"},
+        {"regles mise 6 2 --2nd", "31.2\n"},
+        {"regles mise 4 1", "1\n"},
+        {"regles rangs 6 10 5 1 20170306", "1 9 5 45 0 0 0 0 0\n"},
+        {"regles rangs 6 10 5 1 20170305", "1 9 0 50 0 0 0 0 5\n"},
+        {"regles rangs 5 1 1 0 20240101", "aucun\n"},
+        {"regles rangs2 9 5", "1 20 60 40\n"},
+        {"regles rangs2 9 1", "aucun\n"},
+        {"regles joker 0000000 3 9000001", "6\t0\t0\t-1\t3000\n"},
+        {"regles joker 1234567 1 2334567", "0\t5\t-1\t-1\t2500\n"},
+        {"regles joker 1234567 3 2034566", "0\t5\t-1\t6\t600\n"},
+    };
+    for (const auto& [ligne, attendu] : cas) EXPECT_EQ(lancer(ligne).out, attendu) << ligne;
+
+    const Args lot = {"aleatoire", "06 + 02C", "50", "--graine", "7"};
+    const std::string grilles = lancer(lot).out;
+    EXPECT_EQ(LireGrilles(grilles)->size(), 50U);
+    EXPECT_EQ(lancer(lot).out, grilles);
+    EXPECT_EQ(lancer(Args{"aleatoire", "05 + 01C", "0"}).out, "0\n");
+    EXPECT_NE(lancer(Args{"aleatoire", "07 + 09C", "1"}).err.find("pas une grille vendue"),
+              std::string::npos);
+    EXPECT_EQ(lancer(Args{"aleatoire", "05 + 01C", "10000"}).statut, StatutRefus);
+}
+
 TEST_F(Cli, Refused) {
     poser(dossier / "nonsens.csv", "a;b;c\n1;2;3\n");
     poser(dossier / "base.txt", "");
@@ -126,6 +153,11 @@ TEST_F(Cli, Refused) {
         {"--base quatre.csv --a 5 tirages", "--a 5 est hors de la base"},
         {"--base quatre.csv --a 99999999999999999999 tirages", "est hors de la base"},
         {"--base quatre.csv --de 3 --a 2 stats chances", "croisé"},
+        {"regles mise 10 1", "N va de 0 à 9, pas 10"},
+        {"regles rangs 5 1 6 0 20240101", "g va de 0 à 5"},
+        {"regles rangs 5 1 2 0 20240230", "20240230 n'est pas une date"},
+        {"regles joker 123456 1 1234567", "sept chiffres"},
+        {"regles joker 1234567 5 1234567", "CODE va de 1 à 4"},
     };
     for (const auto& [ligne, dit] : cas) {
         const Sortie sortie = lancer(ligne);
@@ -151,6 +183,9 @@ TEST_F(Cli, BadUsage) {
         {"--a 3.5 base", "option --a : « 3.5 » n'est pas un nombre entier", "base"},
         {"--base", "option --base : nombre de valeurs incorrect", "COMMANDE"},
         {"--de 1 --de 2 base", "option --de : nombre de valeurs incorrect", "base"},
+        {"regles mise 5", "il manque l'argument C", "regles mise [OPTIONS] N C"},
+        {"regles rangs2 cinq 5", "argument N : « cinq » n'est pas un nombre entier",
+         "regles rangs2 N g"},
         {"--globale=non base", "option --globale : nombre de valeurs incorrect", "COMMANDE"},
     };
     for (const auto& c : cas) {
@@ -179,9 +214,11 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
         "  --a N           Dernier tirage de l'intervalle ; par défaut le dernier\n"
         "\n"
         "Commandes :\n"
-        "  base     Ce que contient la base des tirages\n"
-        "  tirages  Les tirages de l'intervalle, en CSV\n"
-        "  stats    Statistiques des numéros ou des chances sur l'intervalle\n");
+        "  base       Ce que contient la base des tirages\n"
+        "  tirages    Les tirages de l'intervalle, en CSV\n"
+        "  stats      Statistiques des numéros ou des chances sur l'intervalle\n"
+        "  regles     Règles des mises et des gains, sans la base\n"
+        "  aleatoire  Des grilles tirées au hasard, en liste de grilles (*.grl)\n");
     const Sortie chances = lancer("stats chances --help");
     EXPECT_EQ(chances.statut, StatutFait);
     EXPECT_EQ(Lignes(chances.out, 0, 2),
@@ -191,8 +228,10 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
 
     // The manual tells of everything that the help does.
     const std::string manuel = lire(NORVANE_DATA "/../packaging/norvane-cli.1");
-    for (const char* mot : {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages",
-                            "B stats numeros", "B stats chances"})
+    for (const char* mot :
+         {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages", "B stats numeros",
+          "B stats chances", "regles mise", "-2nd", "regles rangs", "regles rangs2", "regles joker",
+          "aleatoire", "-graine"})
         EXPECT_NE(manuel.find(mot), std::string::npos) << mot;
 }
 
