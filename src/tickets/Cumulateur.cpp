@@ -12,10 +12,11 @@ namespace norvane {
 namespace {
 
 constexpr std::size_t TiragesParMot = 64;
-constexpr std::size_t NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
+constexpr int NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
 
 std::size_t IndiceType(const Contenu& contenu) {
-    return static_cast<std::size_t>(contenu.n() * (ChanceMax + 1) + contenu.c());
+    const int indice = contenu.n() * (ChanceMax + 1) + contenu.c();
+    return static_cast<std::size_t>(indice);
 }
 
 TablesType PreparerType(int n, int c) {
