@@ -11,6 +11,7 @@
 #include <string>
 
 #include "base/Fichiers.h"
+#include "base/Textes.h"
 #include "Controle.h"
 
 namespace norvane {
@@ -27,16 +28,6 @@ std::string_view nomChamp(std::size_t colonne) {
     std::string_view reste = Titre;
     for (; colonne > 0; --colonne) reste.remove_prefix(reste.find(';') + 1);
     return reste.substr(0, reste.find(';'));
-}
-
-/// What a message shows of a field: its start, and nothing that a screen could stumble on.
-std::string citer(std::string_view champ) {
-    constexpr std::size_t montre = 24;
-    std::string texte(champ.substr(0, montre));
-    for (char& c : texte) {
-        if (c < ' ' || c > '~') c = '?';
-    }
-    return champ.size() > montre ? texte + "..." : texte;
 }
 
 /// One line being taken apart: the fields in turn, and the first complaint.
@@ -92,7 +83,7 @@ class Lecteur {
                           champ.front() >= '0' && champ.front() <= '9';
         if (sain || manque_ || !defaut_.empty()) return;
         defaut_ = fmt::format("{} contient « {} », il faut {}", nomChamp(colonne_ - 1),
-                              citer(champ), attendu);
+                              Citer(champ), attendu);
     }
 
     std::string_view reste_;

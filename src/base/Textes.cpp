@@ -195,4 +195,13 @@ std::string_view Rogner(std::string_view texte) {
     return texte.substr(debut, texte.find_last_not_of(BlancsAscii) - debut + 1);
 }
 
+std::string Citer(std::string_view texte) {
+    constexpr std::size_t montre = 24;
+    std::string debut(texte.substr(0, montre));
+    for (char& c : debut) {
+        if (c < ' ' || c > '~') c = '?';
+    }
+    return texte.size() > montre ? debut + "..." : debut;
+}
+
 }  // namespace norvane

@@ -27,6 +27,13 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeCombExtremes>(comb));
     commandes.push_back(std::make_unique<CommandeCombBornes>(comb));
     commandes.push_back(std::make_unique<CommandeCombStats>(comb));
+    CLI::App& regles = Groupe(racine, "regles", "Règles des mises et des gains, sans la base");
+    for (const CommandeRegle::Regle& regle : CommandeRegle::regles())
+        commandes.push_back(std::make_unique<CommandeRegle>(regles, regle));
+    commandes.push_back(std::make_unique<CommandeReglesJoker>(regles));
+    commandes.push_back(std::make_unique<CommandeVerifier>(racine));
+    commandes.push_back(std::make_unique<CommandeBilan>(racine));
+    commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
     return commandes;
 }
 

@@ -8,6 +8,7 @@
 #include <iosfwd>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -91,6 +92,73 @@ class CommandeCombStats : public Commande {
 
  private:
     std::string numeros_;
+};
+
+/// A prize rule of whole numbers, one row of a table of its own.
+class CommandeRegle : public Commande {
+ public:
+    struct Argument {
+        const char* nom;
+        const char* description;
+        int min, max;
+    };
+    struct Regle {
+        const char* nom;
+        const char* description;
+        std::vector<Argument> arguments;
+        const char* option;  ///< a flag and what it means, or nullptr
+        const char* sensOption;
+        /// The line to print, from arguments in their ranges.
+        Resultat<std::string> (*calculer)(std::span<const int> arguments, bool option);
+    };
+    static std::span<const Regle> regles();
+
+    CommandeRegle(CLI::App& groupe, const Regle& regle);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    const Regle& regle_;
+    std::vector<std::optional<long>> valeurs_;
+    bool option_ = false;
+};
+
+class CommandeReglesJoker : public Commande {
+ public:
+    explicit CommandeReglesJoker(CLI::App& groupe);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string joue_, tire_;
+    std::optional<long> code_;
+};
+
+class CommandeAleatoire : public Commande {
+ public:
+    explicit CommandeAleatoire(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string type_;
+    std::optional<long> nombre_, graine_;
+};
+
+class CommandeVerifier : public Commande {
+ public:
+    explicit CommandeVerifier(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string fichier_;
+    std::optional<long> tirage_;  ///< one-based draw number, unchecked
+};
+
+class CommandeBilan : public Commande {
+ public:
+    explicit CommandeBilan(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string fichier_;
 };
 
 /// Declares all commands on `racine`, in the order of its help.

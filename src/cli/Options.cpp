@@ -43,6 +43,13 @@ CLI::Option* AjouterEntier(CLI::App& app, const char* nom, std::optional<long>& 
         ->type_name("N");
 }
 
+Resultat<int> EntierDans(const std::optional<long>& valeur, std::string_view nom, int min,
+                         int max) {
+    if (*valeur < min || *valeur > max)
+        return Erreur{fmt::format("{} va de {} à {}, pas {}.", nom, min, max, *valeur)};
+    return static_cast<int>(*valeur);
+}
+
 Resultat<std::vector<int>> LireNumeros(std::string_view texte, int min, int max) {
     std::vector<int> numeros;
     std::istringstream mots{std::string(texte)};

@@ -20,6 +20,9 @@ namespace norvane {
 CLI::Option* AjouterEntier(CLI::App& app, const char* nom, std::optional<long>& valeur,
                            const char* description);
 
+/// The value of an argument that was given, when it lies in min..max.
+Resultat<int> EntierDans(const std::optional<long>& valeur, std::string_view nom, int min, int max);
+
 /// "7 23 45": distinct numbers 1..49 between blanks, in any order; ascending in the answer. Between
 /// `min` and `max` of them.
 Resultat<std::vector<int>> LireNumeros(std::string_view texte, int min, int max);

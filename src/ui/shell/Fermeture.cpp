@@ -3,6 +3,8 @@
 
 #include "shell/Fermeture.h"
 
+#include "tickets/FichiersGrilles.h"
+
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;

@@ -35,4 +35,7 @@ int ComparerAlphanumerique(std::string_view a, std::string_view b);
 /// Without blanks (ASCII) at both ends.
 std::string_view Rogner(std::string_view texte);
 
+/// What a message shows of a foreign text: its start, and nothing that a screen could stumble on.
+std::string Citer(std::string_view texte);
+
 }  // namespace norvane

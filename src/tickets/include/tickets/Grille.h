@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// A ticket of N numbers and C chances, what it costs, and the list file that keeps tickets.
+// A ticket of N numbers and C chances, and what it costs.
 #pragma once
 
-#include <filesystem>
+#include <array>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
-
-#include "base/Resultat.h"
 
 namespace norvane {
 
@@ -27,19 +27,35 @@ inline constexpr double PrixGrilleSimple = 2.2;
 /// counts out of range.
 double TableMises(int n, int c);
 
-/// A ticket of these numbers and chances with its stake; `option2nd` adds 0.8 x C(N,5) to a stake.
-/// What cannot be played carries MiseIncomplete or MiseInjouable in its place.
+/// Stake of a ticket: TableMises(n, c), plus 0.8 x C(n,5) with the option 2nd Tirage; always the
+/// very double that its decimal text reads as. MiseInjouable for counts out of range.
+double MiseGrille(int n, int c, bool option2nd);
+
+/// A ticket of these numbers and chances with its stake, MiseGrille.
 Grille FaireGrille(std::span<const int> numeros, std::span<const int> chances, bool option2nd);
 
-/// The text of a ticket list (*.grl): the count on a line, then one ticket a line, fields behind
-/// one blank, numbers as the default conversion of a stream writes them.
-std::string TexteGrilles(std::span<const Grille> grilles);
+/// One of the tickets sold: how many numbers (5..9) and chances (1..10).
+struct TypeGrille {
+    int n;
+    int c;
 
-inline constexpr const char* DossierGrilles = "Grilles&Reçus";
-inline constexpr const char* NomGrillesSecours = "Grlbak.grl";
-
-/// Writes the safety copy "Grilles&Reçus/Grlbak.grl" below `repertoire`, folder made if missing.
-Resultat<Rien> SauverGrillesSecours(std::span<const Grille> grilles,
-                                    const std::filesystem::path& repertoire);
+    friend bool operator==(const TypeGrille&, const TypeGrille&) = default;
+};
+/// The 32 tickets sold, by rising n, then c.
+inline constexpr auto TypesVendus = [] {
+    constexpr std::array<int, 5> chancesMax = {10, 10, 8, 3, 1};  // with 5, 6, ... 9 numbers
+    std::array<TypeGrille, 32> types{};
+    auto type = types.begin();
+    int n = 5;
+    for (const int max : chancesMax) {
+        for (int c = 1; c <= max; ++c) *type++ = {n, c};
+        ++n;
+    }
+    return types;
+}();
+/// "05 + 01C".
+std::string LibelleType(TypeGrille type);
+/// The ticket sold that bears this label; nothing for any other text.
+std::optional<TypeGrille> LireTypeGrille(std::string_view libelle);
 
 }  // namespace norvane

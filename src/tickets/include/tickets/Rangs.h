@@ -24,9 +24,6 @@ extern const std::array<const char*, NbRangs2nd> LibellesRang2nd;
 using ComptesRangs = std::array<int, NbRangsLoto>;  ///< wins per rank of a 1er Tirage
 using ComptesRangs2nd = std::array<int, NbRangs2nd>;
 
-/// Stake of a ticket: TableMises(n, c), plus 0.8 x C(n,5) with the option 2nd Tirage.
-double MiseGrille(int n, int c, bool option2nd);
-
 /// True when the stake of the ticket differs from TableMises: nothing else tells the option.
 bool ParticipeAu2ndTirage(const Grille& grille);
 
@@ -60,8 +57,11 @@ int RangSimple(int g, int gc);
 std::optional<ComptesRangs> ChercherRangs(int cle, int date);
 std::optional<ComptesRangs2nd> ChercherRangs2nd(int n, int g);
 
-/// Wins of a ticket on a draw; all zero for none. A ticket of four numbers without a chance is
-/// read from RangSimple.
+/// Wins of a result of any ticket: by key, but one of four numbers without a chance is read from
+/// RangSimple. g 0..5, gc 0..1; nothing for no win.
+std::optional<ComptesRangs> RangsResultat(int n, int g, int c, int gc, int date);
+
+/// Wins of a ticket on a draw; all zero for none.
 ComptesRangs RangsGagnes(const Grille& grille, const Tirage& tirage);
 /// Wins on a 2nd Tirage record; all zero when the ticket does not take part.
 ComptesRangs2nd Rangs2ndGagnes(const Grille& grille, const Tirage& tirage);

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Cumulateur.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "Contenu.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr std::size_t TiragesParMot = 64;
+constexpr int NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
+
+std::size_t IndiceType(const Contenu& contenu) {
+    const int indice = contenu.n() * (ChanceMax + 1) + contenu.c();
+    return static_cast<std::size_t>(indice);
+}
+
+TablesType PreparerType(int n, int c) {
+    TablesType tables;
+    for (int g = 0; g <= std::min(n, NbBoules); ++g) {
+        for (int gc = 0; gc <= 1; ++gc) {
+            const int cle = CleRang(n, g, c, gc);
+            tables.avant.noter(g, gc,
+                               ChercherRangs(cle, DateNouveauxRangs - 1).value_or(ComptesRangs{}));
+            tables.depuis.noter(g, gc,
+                                ChercherRangs(cle, DateNouveauxRangs).value_or(ComptesRangs{}));
+        }
+        tables.seconds.noter(g, 0, ChercherRangs2nd(n, g).value_or(ComptesRangs2nd{}));
+    }
+    return tables;
+}
+
+/// A ticket that the game sells: whole numbers in range, none twice. Others, which a list made by
+/// hand may hold, take the slow way.
+bool EstOrdinaire(const Contenu& contenu) {
+    const double mise = TableMises(contenu.n(), contenu.c());
+    if (mise == MiseIncomplete || mise == MiseInjouable) return false;
+    const auto distincts = [](std::span<const double> valeurs, int maximum) {
+        std::uint64_t vus = 0;
+        for (const double valeur : valeurs) {
+            if (!(valeur >= 1 && valeur <= maximum)) return false;
+            const auto entier = static_cast<unsigned>(valeur);
+            if (entier != valeur || (vus >> entier & 1) != 0) return false;
+            vus |= std::uint64_t{1} << entier;
+        }
+        return true;
+    };
+    return distincts(contenu.numeros, NumeroMax) && distincts(contenu.chances, ChanceMax);
+}
+
+/// Good numbers of a ticket in sixty-four draws at once: the bits of a three-digit counter.
+struct Compteurs {
+    std::uint64_t un = 0, deux = 0, quatre = 0, chance = 0;
+
+    void ajouter(std::uint64_t sortis) {
+        const std::uint64_t retenue = un & sortis;
+        un ^= sortis;
+        quatre ^= deux & retenue;
+        deux ^= retenue;
+    }
+    std::size_t bons(int place) const {
+        return (un >> place & 1) | (deux >> place & 1) << 1 | (quatre >> place & 1) << 2;
+    }
+};
+
+Compteurs Compter(const Contenu& contenu, const Serie::Mots& mots) {
+    Compteurs compteurs;
+    for (const double numero : contenu.numeros)
+        compteurs.ajouter(mots.numeros[static_cast<std::size_t>(numero)]);
+    for (const double chance : contenu.chances)
+        compteurs.chance |= mots.chances[static_cast<std::size_t>(chance)];
+    return compteurs;
+}
+
+/// Adds what the ticket wins on each draw of the series. `tableDe` gives the table of a draw.
+template <std::size_t NbRangs, typename TableDe>
+void Cumuler(const Contenu& contenu, const Serie& serie, TableDe tableDe,
+             std::array<Cumul, NbRangs>& bilan) {
+    for (std::size_t mot = 0; mot < serie.mots.size(); ++mot) {
+        const Compteurs compteurs = Compter(contenu, serie.mots[mot]);
+        // No table pays less than two numbers without the chance.
+        std::uint64_t restants = compteurs.deux | compteurs.quatre | compteurs.chance;
+        for (; restants != 0; restants &= restants - 1) {
+            const int place = std::countr_zero(restants);
+            const std::size_t i = mot * TiragesParMot + static_cast<std::size_t>(place);
+            const auto& resultat =
+                tableDe(i).resultats[compteurs.bons(place)][compteurs.chance >> place & 1];
+            for (std::size_t e = 0; e < resultat.nb; ++e) {
+                const auto [rang, fois] = resultat.gagnes[e];
+                bilan[rang].fois += fois;
+                bilan[rang].gain += fois * (*serie.rapports[i])[rang].Gain;
+            }
+        }
+    }
+}
+
+template <std::size_t NbRangs>
+void Ajouter(const std::array<int, NbRangs>& comptes, const RapportsTirage& rapports,
+             std::array<Cumul, NbRangs>& bilan) {
+    for (std::size_t rang = 0; rang < NbRangs; ++rang) {
+        bilan[rang].fois += comptes[rang];
+        bilan[rang].gain += comptes[rang] * rapports[rang].Gain;
+    }
+}
+
+}  // namespace
+
+void Serie::ajouter(const Tirage& tirage, const RapportsTirage& gains) {
+    const std::size_t place = tirages.size() % TiragesParMot;
+    const std::uint64_t bit = std::uint64_t{1} << place;
+    if (place == 0) mots.emplace_back();
+    for (const int boule : tirage.Numeros)
+        mots.back().numeros[static_cast<std::size_t>(boule)] |= bit;
+    if (tirage.Chance > 0) mots.back().chances[static_cast<std::size_t>(tirage.Chance)] |= bit;
+    tirages.push_back(&tirage);
+    rapports.push_back(&gains);
+}
+
+Cumulateur::Cumulateur(const Base& base, int premier, int dernier, std::span<const Grille> grilles)
+    : types_(NbTypes) {
+    for (int numero = premier; numero <= dernier; ++numero) {
+        const auto i = static_cast<std::size_t>(numero - 1);
+        const bool second = EstSecondTirage(base.Tirages[i]);
+        (second ? seconds_ : premiers_).ajouter(base.Tirages[i], base.Rapports[i]);
+        if (!second) depuis_.push_back(base.Tirages[i].DateTirage >= DateNouveauxRangs);
+    }
+    for (const Grille& grille : grilles) {
+        const Contenu contenu = Ouvrir(grille);
+        if (!EstOrdinaire(contenu)) continue;
+        auto& tables = types_[IndiceType(contenu)];
+        if (!tables) tables = PreparerType(contenu.n(), contenu.c());
+    }
+}
+
+BilanGrille Cumulateur::cumuler(const Grille& grille) const {
+    const Contenu contenu = Ouvrir(grille);
+    if (!EstOrdinaire(contenu)) return cumulerLentement(grille);
+    const TablesType& tables = *types_[IndiceType(contenu)];
+    BilanGrille bilan;
+    const auto parDate = [&](std::size_t i) -> const auto& {
+        return depuis_[i] != 0 ? tables.depuis : tables.avant;
+    };
+    Cumuler(contenu, premiers_, parDate, bilan.BilanRangs);
+    if (ParticipeAu2ndTirage(grille)) {
+        const auto seconds = [&](std::size_t) -> const auto& {
+            return tables.seconds;
+        };
+        Cumuler(contenu, seconds_, seconds, bilan.Bilan2nd);
+    }
+    return bilan;
+}
+
+BilanGrille Cumulateur::cumulerLentement(const Grille& grille) const {
+    BilanGrille bilan;
+    for (std::size_t i = 0; i < premiers_.tirages.size(); ++i)
+        Ajouter(RangsGagnes(grille, *premiers_.tirages[i]), *premiers_.rapports[i],
+                bilan.BilanRangs);
+    for (std::size_t i = 0; i < seconds_.tirages.size(); ++i)
+        Ajouter(Rangs2ndGagnes(grille, *seconds_.tirages[i]), *seconds_.rapports[i],
+                bilan.Bilan2nd);
+    return bilan;
+}
+
+}  // namespace norvane

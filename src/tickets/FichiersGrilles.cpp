@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tickets/FichiersGrilles.h"
+
+#include <fmt/format.h>
+
+#include <charconv>
+#include <cstdint>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+#include "base/Dates.h"
+#include "base/Fichiers.h"
+
+namespace norvane {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* ExtensionRecu = ".rdj";
+/// Well above 9999 grids of nine numbers and a long list of Joker+ lines.
+constexpr std::uint64_t TailleMax = std::uint64_t{16} << 20;
+
+Resultat<Rien> CreerDossier(const fs::path& dossier) {
+    std::error_code erreur;
+    fs::create_directories(dossier, erreur);
+    if (!erreur) return Rien{};
+    return Erreur{fmt::format(
+        "Impossible de créer le dossier « {} » : vérifiez les droits sur le dossier où il doit se "
+        "trouver et qu'aucun fichier ne porte ce nom.",
+        dossier.string())};
+}
+
+Resultat<Rien> EcrireDansDossier(const fs::path& fichier, std::string_view texte) {
+    const auto dossier = CreerDossier(fichier.parent_path());
+    return dossier ? EcrireFichier(fichier, texte) : dossier;
+}
+
+template <typename Contenu>
+Resultat<Contenu> Charger(const fs::path& fichier, Resultat<Contenu> (*lire)(std::string_view)) {
+    const auto texte = LireFichier(fichier, TailleMax);
+    if (!texte) return Erreur{texte.erreur()};
+    auto contenu = lire(*texte);
+    if (!contenu) return Erreur{fmt::format("« {} » : {}", fichier.string(), contenu.erreur())};
+    return contenu;
+}
+
+/// The receipt of the file, then `recu`.
+Resultat<Recu> Fusionner(const fs::path& fichier, const Recu& recu) {
+    auto tout = ChargerRecu(fichier);
+    if (!tout) return tout;
+    const std::size_t nombre = tout->grilles.size() + recu.grilles.size();
+    if (nombre > NbGrillesMax)
+        return Erreur{
+            fmt::format("« {} » tiendrait {} grilles, un reçu en tient {} au plus : "
+                        "remplacez-le au lieu d'y ajouter.",
+                        fichier.string(), nombre, NbGrillesMax)};
+    tout->grilles.insert(tout->grilles.end(), recu.grilles.begin(), recu.grilles.end());
+    tout->jokers.insert(tout->jokers.end(), recu.jokers.begin(), recu.jokers.end());
+    return tout;
+}
+
+}  // namespace
+
+std::string TexteGrilles(std::span<const Grille> grilles) {
+    std::string texte = fmt::format("{}\n", grilles.size());
+    // `g` is the default conversion of a stream: six significant digits, no trailing zeros.
+    for (const Grille& grille : grilles)
+        fmt::format_to(std::back_inserter(texte), "{:g}\n", fmt::join(grille, " "));
+    return texte;
+}
+
+std::string TexteRecu(const Recu& recu) {
+    std::string texte = TexteGrilles(recu.grilles);
+    texte += fmt::format("{}\n", recu.jokers.size());
+    for (const LigneJoker& ligne : recu.jokers)
+        texte += fmt::format("{} {} \n", fmt::join(ligne.chiffres, " "), ligne.code);
+    return texte;
+}
+
+Resultat<std::vector<Grille>> ChargerGrilles(const fs::path& fichier) {
+    return Charger(fichier, LireGrilles);
+}
+
+Resultat<Recu> ChargerRecu(const fs::path& fichier) {
+    return Charger(fichier, LireRecu);
+}
+
+Resultat<Rien> EnregistrerGrilles(std::span<const Grille> grilles, const fs::path& fichier) {
+    return EcrireFichier(fichier, TexteGrilles(grilles));
+}
+
+Resultat<Rien> SauverGrillesSecours(std::span<const Grille> grilles, const fs::path& repertoire) {
+    return EcrireDansDossier(repertoire / DossierGrilles / NomGrillesSecours,
+                             TexteGrilles(grilles));
+}
+
+fs::path FichierRecu(const fs::path& repertoire, int date) {
+    return repertoire / DossierGrilles / fmt::format("{:08}{}", date, ExtensionRecu);
+}
+
+std::optional<int> DateRecu(const fs::path& fichier) {
+    const std::string nom = fichier.stem().string();
+    if (nom.size() != 8) return std::nullopt;
+    int date = 0;
+    const char* fin = nom.data() + nom.size();
+    const auto lu = std::from_chars(nom.data(), fin, date);
+    if (lu.ec != std::errc{} || lu.ptr != fin || !DateValide(date)) return std::nullopt;
+    return date;
+}
+
+Resultat<Rien> EnregistrerRecu(const Recu& recu, const fs::path& repertoire, int date,
+                               bool ajouter) {
+    const fs::path fichier = FichierRecu(repertoire, date);
+    std::error_code erreur;
+    if (!ajouter || !fs::exists(fichier, erreur))
+        return EcrireDansDossier(fichier, TexteRecu(recu));
+    const auto tout = Fusionner(fichier, recu);
+    if (!tout) return Erreur{tout.erreur()};
+    return EcrireFichier(fichier, TexteRecu(*tout));
+}
+
+}  // namespace norvane
