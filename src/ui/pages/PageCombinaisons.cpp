@@ -195,7 +195,7 @@ Fiche* PageCombinaisons::creerFicheListe() {
     ListBox = new ListeCombinaisons(u"ListBox"_s, contexte.atelier.combinaisons, fiche);
     ListBox->setAccessibleName(u"Liste des combinaisons"_s);
     QFont fonte = ListBox->font();
-    fonte.setPixelSize(static_cast<int>(ListBox->fontInfo().pixelSize() * FacteurListe + 0.5));
+    fonte.setPixelSize(qRound(ListBox->fontInfo().pixelSize() * FacteurListe));
     ListBox->setFont(fonte);
     fiche->setFixedWidth(ListBox->largeurLigne() + 4 * Unite);
     fiche->pile->addWidget(ListBox, 1);
