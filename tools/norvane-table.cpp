@@ -26,8 +26,9 @@ constexpr std::string_view Titre =
     "g1;r1;g2;r2;g3;r3;g4;r4;g5;r5;g6;r6;g7;r7;g8;r8;g9;r9";
 
 struct Ligne {
-    std::array<std::int64_t, NbChamps> tirage{};       ///< n1..n5, chance, forclusion, ...
-    std::array<std::int64_t, 2 * NbRangs> rapports{};  ///< winners and cents, rank by rank
+    std::array<std::int64_t, NbChamps> tirage{};  ///< n1..n5, chance, forclusion, ...
+    std::array<std::int64_t, std::size_t{2} * NbRangs>
+        rapports{};  ///< winners and cents, rank by rank
 };
 
 std::string citer(std::string_view texte) {

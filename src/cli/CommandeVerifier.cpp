@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <fmt/format.h>
 
-#include <charconv>
 #include <ostream>
 
 #include "base/Configuration.h"
 #include "base/Dates.h"
-#include "base/Fichiers.h"
 #include "Commandes.h"
 #include "Options.h"
 #include "tickets/Bilan.h"
@@ -32,18 +30,9 @@ Resultat<Recu> LireBillets(const fs::path& fichier) {
             fmt::format("« {} » n'est ni une liste de grilles ni un reçu : son nom doit finir par "
                         ".grl ou .rdj.",
                         fichier.string())};
-    const auto texte = LireFichier(fichier);
-    if (!texte) return Erreur{texte.erreur()};
-    const auto refuser = [&](const std::string& raison) {
-        return Erreur{fmt::format("« {} » : {}", fichier.string(), raison)};
-    };
-    if (recu) {
-        auto lu = LireRecu(*texte);
-        if (!lu) return refuser(lu.erreur());
-        return lu;
-    }
-    auto grilles = LireGrilles(*texte);
-    if (!grilles) return refuser(grilles.erreur());
+    if (recu) return ChargerRecu(fichier);
+    auto grilles = ChargerGrilles(fichier);
+    if (!grilles) return Erreur{grilles.erreur()};
     return Recu{*std::move(grilles), {}};
 }
 
@@ -55,18 +44,16 @@ Monnaie LireMonnaie(const Contexte& contexte) {
 
 /// The first draw of the date that a receipt is named after.
 Resultat<int> TirageDuRecu(const fs::path& fichier, const Base& base) {
-    const std::string nom = fichier.stem().string();
-    int date = 0;
-    const auto [fin, erreur] = std::from_chars(nom.data(), nom.data() + nom.size(), date);
-    if (erreur != std::errc{} || fin != nom.data() + nom.size() || !DateValide(date))
+    const auto date = DateRecu(fichier);
+    if (!date)
         return Erreur{
             fmt::format("Le nom du reçu « {} » n'est pas une date aaaammjj : donnez le "
                         "numéro du tirage avec --tirage.",
                         fichier.string())};
-    const int indice = TirageParDate(base.Tirages, date, base.NbTirages).indice;
+    const int indice = TirageParDate(base.Tirages, *date, base.NbTirages).indice;
     if (indice < 0)
         return Erreur{fmt::format("La base n'a aucun tirage à la date du reçu « {} », {}.",
-                                  fichier.string(), DateLongue(date))};
+                                  fichier.string(), DateLongue(*date))};
     return indice + 1;
 }
 
@@ -77,19 +64,15 @@ Resultat<int> ChoisirTirage(std::optional<long> tirage, const fs::path& fichier,
             "Une liste de grilles n'a pas de date : donnez le numéro du tirage avec "
             "--tirage."};
     if (!tirage) return TirageDuRecu(fichier, base);
-    if (*tirage < 1 || *tirage > base.NbTirages)
-        return Erreur{
-            fmt::format("--tirage {} est hors de la base, dont les tirages vont de 1 à {}.",
-                        *tirage, base.NbTirages)};
-    return static_cast<int>(*tirage);
+    return EntierDans(tirage, "--tirage", 1, base.NbTirages);
 }
 
 }  // namespace
 
 CommandeVerifier::CommandeVerifier(CLI::App& racine)
     : Commande(racine.add_subcommand("verifier", "Les gains de grilles ou d'un reçu à un tirage")) {
-    AjouterFichier(app(), fichier_);
-    AjouterEntier(app(), "--tirage", tirage_,
+    AjouterFichier(sousCommande(), fichier_);
+    AjouterEntier(sousCommande(), "--tirage", tirage_,
                   "Numéro du tirage dans la base ; par défaut, pour un reçu,\n"
                   "le premier de la date qu'il a pour nom");
 }
@@ -112,7 +95,7 @@ Resultat<Rien> CommandeVerifier::executer(const Contexte& contexte, std::ostream
 CommandeBilan::CommandeBilan(CLI::App& racine)
     : Commande(racine.add_subcommand(
           "bilan", "Ce que des grilles auraient gagné et coûté sur l'intervalle")) {
-    AjouterFichier(app(), fichier_);
+    AjouterFichier(sousCommande(), fichier_);
 }
 
 Resultat<Rien> CommandeBilan::executer(const Contexte& contexte, std::ostream& out) {

@@ -23,8 +23,17 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
     commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));
     commandes.push_back(std::make_unique<CommandeStatsChances>(stats));
+    CLI::App& comb = Groupe(racine, "comb", "Combinaisons de 2 à 10 numéros sur l'intervalle");
+    commandes.push_back(std::make_unique<CommandeCombExtremes>(comb));
+    commandes.push_back(std::make_unique<CommandeCombBornes>(comb));
+    commandes.push_back(std::make_unique<CommandeCombStats>(comb));
+    CLI::App& regles = Groupe(racine, "regles", "Règles des mises et des gains, sans la base");
+    for (const CommandeRegle::Regle& regle : CommandeRegle::regles())
+        commandes.push_back(std::make_unique<CommandeRegle>(regles, regle));
+    commandes.push_back(std::make_unique<CommandeReglesJoker>(regles));
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
+    commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
     return commandes;
 }
 

@@ -8,6 +8,7 @@
 #include <iosfwd>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,7 @@ class Commande {
 
  protected:
     explicit Commande(CLI::App* app) : app_(app) {}
-    CLI::App& app() { return *app_; }
+    CLI::App& sousCommande() { return *app_; }
 
  private:
     CLI::App* app_;  // owned by its parent
@@ -57,6 +58,88 @@ class CommandeStatsChances : public Commande {
  public:
     explicit CommandeStatsChances(CLI::App& stats);
     Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+};
+
+class CommandeCombExtremes : public Commande {
+ public:
+    explicit CommandeCombExtremes(CLI::App& comb);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::optional<long> taille_;
+    bool series_ = false;
+};
+
+class CommandeCombBornes : public Commande {
+ public:
+    explicit CommandeCombBornes(CLI::App& comb);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    struct Demande;
+    Resultat<Demande> verifier() const;
+
+    std::optional<long> taille_, inf_, sup_, stockage_, max_;
+    std::optional<std::string> absolue_, secondaire_;
+    bool series_ = false;
+    bool compter_ = false;
+};
+
+class CommandeCombStats : public Commande {
+ public:
+    explicit CommandeCombStats(CLI::App& comb);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string numeros_;
+};
+
+/// A prize rule of whole numbers, one row of a table of its own.
+class CommandeRegle : public Commande {
+ public:
+    struct Argument {
+        const char* nom;
+        const char* description;
+        int min, max;
+    };
+    struct Regle {
+        const char* nom;
+        const char* description;
+        std::vector<Argument> arguments;
+        const char* option;  ///< a flag and what it means, or nullptr
+        const char* sensOption;
+        /// The line to print, from arguments in their ranges.
+        Resultat<std::string> (*calculer)(std::span<const int> arguments, bool option);
+    };
+    static std::span<const Regle> regles();
+
+    CommandeRegle(CLI::App& groupe, const Regle& regle);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    const Regle& regle_;
+    std::vector<std::optional<long>> valeurs_;
+    bool option_ = false;
+};
+
+class CommandeReglesJoker : public Commande {
+ public:
+    explicit CommandeReglesJoker(CLI::App& groupe);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string joue_, tire_;
+    std::optional<long> code_;
+};
+
+class CommandeAleatoire : public Commande {
+ public:
+    explicit CommandeAleatoire(CLI::App& racine);
+    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
+
+ private:
+    std::string type_;
+    std::optional<long> nombre_, graine_;
 };
 
 class CommandeVerifier : public Commande {

@@ -5,11 +5,13 @@
 #pragma once
 
 #include <filesystem>
+#include <iosfwd>
 #include <optional>
 #include <string>
 
 #include "base/Base.h"
 #include "base/Resultat.h"
+#include "Progression.h"
 
 namespace norvane {
 
@@ -30,6 +32,10 @@ struct Donnees {
 struct Contexte {
     OptionsGlobales options;
     std::filesystem::path repertoire;
+    /// The output itself, for what is too long to be held back until a command has gone well;
+    /// nothing may be written before all that can be refused has been checked.
+    std::ostream& sortie;
+    mutable Progression progression;  ///< shown while a command runs
 
     /// Reads the base and checks the interval. Never changes, moves or makes a file.
     Resultat<Donnees> charger() const;

@@ -15,6 +15,7 @@
 #include "Aide.h"
 #include "Commandes.h"
 #include "Options.h"
+#include "Progression.h"
 
 namespace norvane {
 
@@ -55,13 +56,13 @@ std::string RaisonUsage(const CLI::App& racine, const CLI::ParseError& erreur) {
         return fmt::format("argument inattendu « {} »", mot);
     }
     const std::string_view texte = erreur.what();  // begins with the option's name
-    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
-        if (!CommandeNommee(racine).get_subcommands({}).empty()) return "il manque la commande";
-        return fmt::format("il manque {}", texte.substr(0, texte.find(' ')));
-    }
     const std::string nom(texte.substr(0, texte.find_first_of(": ")));
+    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr)
+        return CommandeNommee(racine).get_option_no_throw(nom) == nullptr
+                   ? "il manque la commande"
+                   : fmt::format("il manque l'argument {}", nom);
     if (dynamic_cast<const CLI::ValidationError*>(&erreur) != nullptr)
-        return fmt::format("option {} :{}", nom,
+        return fmt::format("{} {} :{}", nom.starts_with('-') ? "option" : "argument", nom,
                            texte.substr(std::min(nom.size() + 1, texte.size())));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
         return fmt::format("option {}{} : nombre de valeurs incorrect",
@@ -78,6 +79,7 @@ int ExecuterCommande(Commande& commande, const Contexte& contexte, std::ostream&
                      std::ostream& err) {
     std::ostringstream tampon;  // nothing reaches the output of a command that fails half-way
     const auto fait = commande.executer(contexte, tampon);
+    contexte.progression.effacer();
     if (!fait) return Refuser(err, fait.erreur());
     out << std::move(tampon).str() << std::flush;
     if (!out) return Refuser(err, "Les résultats n'ont pas pu être écrits sur la sortie standard.");
@@ -88,7 +90,7 @@ int Analyser(std::span<const std::string> args, std::ostream& out, std::ostream&
              const std::filesystem::path& repertoire) {
     CLI::App racine{"Les calculs de Norvane en ligne de commande, sur la base des tirages du Loto.",
                     NomProgramme};
-    Contexte contexte{{}, repertoire};
+    Contexte contexte{{}, repertoire, out, Progression(err)};
     racine.formatter(std::make_shared<Aide>());
     racine.require_subcommand(1);
     DeclarerOptions(racine, contexte.options);

@@ -1,17 +1,30 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Options that several commands declare alike.
+// Arguments that several commands take.
 #pragma once
 
 #include <CLI/CLI.hpp>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Resultat.h"
 
 namespace norvane {
 
-/// An option whose value is a whole number. One too large for any type is kept as the largest
-/// there is: the command refuses it as it refuses any other that is out of range.
-void AjouterEntier(CLI::App& app, const char* nom, std::optional<long>& valeur,
-                   const char* description);
+/// Declares an option or a positional argument (by the form of `nom`) that takes an integer. One
+/// too large for any type takes the nearest end of the type: it is out of every range, and is
+/// refused as such later on rather than as bad usage here.
+CLI::Option* AjouterEntier(CLI::App& app, const char* nom, std::optional<long>& valeur,
+                           const char* description);
+
+/// The value of an argument that was given, when it lies in min..max.
+Resultat<int> EntierDans(const std::optional<long>& valeur, std::string_view nom, int min, int max);
+
+/// "7 23 45": distinct numbers 1..49 between blanks, in any order; ascending in the answer. Between
+/// `min` and `max` of them.
+Resultat<std::vector<int>> LireNumeros(std::string_view texte, int min, int max);
 
 }  // namespace norvane

@@ -136,6 +136,7 @@ Resultat<EtatCombinaisons> LireCombCalc(const fs::path& repertoire, int nbTirage
 
         const auto n = static_cast<std::size_t>(taille);
         etat.NbTiragesComb[n] = taille < TailleSansControle ? (*entiers)[0] : nbTirages;
+        if (etat.NbTiragesComb[n] != (*entiers)[0]) etat.NbTiragesPerime[n] = (*entiers)[0];
         etat.BorneInf[n] = (*entiers)[1];
         etat.BorneSup[n] = (*entiers)[2];
     }
@@ -145,7 +146,8 @@ Resultat<EtatCombinaisons> LireCombCalc(const fs::path& repertoire, int nbTirage
 Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat, const fs::path& repertoire) {
     std::string texte;
     for (std::size_t n = TailleCombMin; n <= TailleCombMax; ++n)
-        texte += Ligne(std::max(etat.NbTiragesComb[n], 0), etat.BorneInf[n], etat.BorneSup[n]);
+        texte += Ligne(std::max(etat.NbTiragesPerime[n].value_or(etat.NbTiragesComb[n]), 0),
+                       etat.BorneInf[n], etat.BorneSup[n]);
     return EcrireFichier(repertoire / NomCombCalc, texte);
 }
 

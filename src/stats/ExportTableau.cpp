@@ -117,6 +117,7 @@ std::string EnTexte(const TableauExporte& tableau) {
     if (!tableau.titre.empty()) texte += '\n';
     ecrireLigne(tableau.entetes);
     std::vector<std::string> filet;
+    filet.reserve(largeurs.size());
     for (const std::size_t largeur : largeurs) filet.emplace_back(largeur, '-');
     ecrireLigne(filet);
     for (const auto& ligne : tableau.lignes) ecrireLigne(ligne);

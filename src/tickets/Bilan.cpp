@@ -33,7 +33,7 @@ bool ParBlocs(std::span<const Grille> grilles, const SuiviBilan& suivi, Traiter 
     const std::size_t nbBlocs = NombreBlocs(grilles);
     std::atomic<std::size_t> suivant = 0;
     const auto travailler = [&](bool raconte) {
-        for (int dit = -1;;) {
+        for (int dit = 0;;) {
             const std::size_t bloc = suivant.fetch_add(1);
             if (bloc >= nbBlocs || suivi.arret.stop_requested()) return;
             const int pourcent = static_cast<int>(bloc * 100 / nbBlocs);
@@ -43,6 +43,7 @@ bool ParBlocs(std::span<const Grille> grilles, const SuiviBilan& suivi, Traiter 
             for (std::size_t k = debut; k < fin; ++k) traiter(bloc, k);
         }
     };
+    if (suivi.progres) suivi.progres(0);
     const std::size_t fils =
         suivi.fils > 0 ? suivi.fils : std::max(1U, std::thread::hardware_concurrency());
     std::vector<std::future<void>> autres;

@@ -5,18 +5,18 @@
 #include <algorithm>
 #include <bit>
 
-#include "Redaction.h"
+#include "Contenu.h"
 
 namespace norvane {
 
 namespace {
 
 constexpr std::size_t TiragesParMot = 64;
-constexpr std::size_t NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
+constexpr int NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
 
-std::size_t IndiceType(const Grille& grille) {
-    return static_cast<std::size_t>(NombreNumeros(grille) * (ChanceMax + 1) +
-                                    NombreChances(grille));
+std::size_t IndiceType(const Contenu& contenu) {
+    const int indice = contenu.n() * (ChanceMax + 1) + contenu.c();
+    return static_cast<std::size_t>(indice);
 }
 
 TablesType PreparerType(int n, int c) {
@@ -36,8 +36,8 @@ TablesType PreparerType(int n, int c) {
 
 /// A ticket that the game sells: whole numbers in range, none twice. Others, which a list made by
 /// hand may hold, take the slow way.
-bool EstOrdinaire(const Grille& grille) {
-    const double mise = TableMises(NombreNumeros(grille), NombreChances(grille));
+bool EstOrdinaire(const Contenu& contenu) {
+    const double mise = TableMises(contenu.n(), contenu.c());
     if (mise == MiseIncomplete || mise == MiseInjouable) return false;
     const auto distincts = [](std::span<const double> valeurs, int maximum) {
         std::uint64_t vus = 0;
@@ -49,7 +49,7 @@ bool EstOrdinaire(const Grille& grille) {
         }
         return true;
     };
-    return distincts(NumerosDe(grille), NumeroMax) && distincts(ChancesDe(grille), ChanceMax);
+    return distincts(contenu.numeros, NumeroMax) && distincts(contenu.chances, ChanceMax);
 }
 
 /// Good numbers of a ticket in sixty-four draws at once: the bits of a three-digit counter.
@@ -67,21 +67,21 @@ struct Compteurs {
     }
 };
 
-Compteurs Compter(const Grille& grille, const Serie::Mots& mots) {
+Compteurs Compter(const Contenu& contenu, const Serie::Mots& mots) {
     Compteurs compteurs;
-    for (const double numero : NumerosDe(grille))
+    for (const double numero : contenu.numeros)
         compteurs.ajouter(mots.numeros[static_cast<std::size_t>(numero)]);
-    for (const double chance : ChancesDe(grille))
+    for (const double chance : contenu.chances)
         compteurs.chance |= mots.chances[static_cast<std::size_t>(chance)];
     return compteurs;
 }
 
 /// Adds what the ticket wins on each draw of the series. `tableDe` gives the table of a draw.
 template <std::size_t NbRangs, typename TableDe>
-void Cumuler(const Grille& grille, const Serie& serie, TableDe tableDe,
+void Cumuler(const Contenu& contenu, const Serie& serie, TableDe tableDe,
              std::array<Cumul, NbRangs>& bilan) {
     for (std::size_t mot = 0; mot < serie.mots.size(); ++mot) {
-        const Compteurs compteurs = Compter(grille, serie.mots[mot]);
+        const Compteurs compteurs = Compter(contenu, serie.mots[mot]);
         // No table pays less than two numbers without the chance.
         std::uint64_t restants = compteurs.deux | compteurs.quatre | compteurs.chance;
         for (; restants != 0; restants &= restants - 1) {
@@ -129,25 +129,27 @@ Cumulateur::Cumulateur(const Base& base, int premier, int dernier, std::span<con
         if (!second) depuis_.push_back(base.Tirages[i].DateTirage >= DateNouveauxRangs);
     }
     for (const Grille& grille : grilles) {
-        if (!EstOrdinaire(grille)) continue;
-        auto& tables = types_[IndiceType(grille)];
-        if (!tables) tables = PreparerType(NombreNumeros(grille), NombreChances(grille));
+        const Contenu contenu = Ouvrir(grille);
+        if (!EstOrdinaire(contenu)) continue;
+        auto& tables = types_[IndiceType(contenu)];
+        if (!tables) tables = PreparerType(contenu.n(), contenu.c());
     }
 }
 
 BilanGrille Cumulateur::cumuler(const Grille& grille) const {
-    if (!EstOrdinaire(grille)) return cumulerLentement(grille);
-    const TablesType& tables = *types_[IndiceType(grille)];
+    const Contenu contenu = Ouvrir(grille);
+    if (!EstOrdinaire(contenu)) return cumulerLentement(grille);
+    const TablesType& tables = *types_[IndiceType(contenu)];
     BilanGrille bilan;
     const auto parDate = [&](std::size_t i) -> const auto& {
         return depuis_[i] != 0 ? tables.depuis : tables.avant;
     };
-    Cumuler(grille, premiers_, parDate, bilan.BilanRangs);
+    Cumuler(contenu, premiers_, parDate, bilan.BilanRangs);
     if (ParticipeAu2ndTirage(grille)) {
         const auto seconds = [&](std::size_t) -> const auto& {
             return tables.seconds;
         };
-        Cumuler(grille, seconds_, seconds, bilan.Bilan2nd);
+        Cumuler(contenu, seconds_, seconds, bilan.Bilan2nd);
     }
     return bilan;
 }

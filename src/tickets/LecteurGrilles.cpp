@@ -46,8 +46,8 @@ class Lecteur {
         if (lu.ec != std::errc{} || lu.ptr != fin || !std::isfinite(valeur))
             return refuser(fmt::format("{} est un nombre, pas « {} »", quoi, Citer(mot_)));
         if (valeur < min || valeur > max)
-            return refuser(
-                fmt::format("{} va de {} à {:.0f}, pas « {} »", quoi, min, max, Citer(mot_)));
+            return refuser(fmt::format("{} va de {} à {}, pas « {} »", quoi, min, std::floor(max),
+                                       Citer(mot_)));
         return true;
     }
 

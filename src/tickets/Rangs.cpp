@@ -3,7 +3,9 @@
 #include "tickets/Rangs.h"
 
 #include <algorithm>
+#include <cstdint>
 
+#include "Contenu.h"
 #include "tickets/Binomial.h"
 
 namespace norvane {
@@ -103,38 +105,39 @@ constexpr auto Table2nd = [] {
     return table;
 }();
 
+/// Binary search. A result is as good as drawn by lot, so the steps are written for the processor
+/// to choose without guessing.
 template <typename Ligne, std::size_t Taille>
 auto Chercher(const std::array<Ligne, Taille>& table, int cle)
     -> std::optional<decltype(Ligne::comptes)> {
-    const auto ligne = std::ranges::lower_bound(table, cle, {}, &Ligne::cle);
-    if (ligne == table.end() || ligne->cle != cle) return std::nullopt;
+    const Ligne* ligne = table.data();
+    for (std::size_t reste = Taille; reste > 1;) {
+        const std::size_t moitie = reste / 2;
+        ligne = ligne[moitie].cle <= cle ? ligne + moitie : ligne;
+        reste -= moitie;
+    }
+    if (ligne->cle != cle) return std::nullopt;
     return ligne->comptes;
 }
 
-/// The numbers and the chances inside a ticket.
-struct Contenu {
-    std::span<const double> numeros;
-    std::span<const double> chances;
-};
-Contenu Ouvrir(const Grille& grille) {
-    const std::span<const double> tout(grille);
-    const auto n = static_cast<std::size_t>(grille[1]);
-    return {tout.subspan(2, n), tout.subspan(n + 3)};
+template <typename Nombre>
+std::uint64_t Bit(Nombre numero) {
+    return std::uint64_t{1} << (static_cast<unsigned>(static_cast<int>(numero)) & 63U);
 }
 
 }  // namespace
 
 bool ParticipeAu2ndTirage(const Grille& grille) {
     const Contenu contenu = Ouvrir(grille);
-    return grille[0] != TableMises(static_cast<int>(contenu.numeros.size()),
-                                   static_cast<int>(contenu.chances.size()));
+    return grille[0] != TableMises(contenu.n(), contenu.c());
 }
 
 Bons CompterBons(const Grille& grille, const Tirage& tirage) {
     const Contenu contenu = Ouvrir(grille);
+    std::uint64_t tires = 0;  // bit n: the number n was drawn
+    for (const std::int32_t boule : tirage.Numeros) tires |= Bit(boule);
     Bons bons{0, 0};
-    for (const double numero : contenu.numeros)
-        for (const std::int32_t boule : tirage.Numeros) bons.numeros += numero == boule;
+    for (const double numero : contenu.numeros) bons.numeros += (tires & Bit(numero)) != 0;
     for (const double chance : contenu.chances) bons.chances += chance == tirage.Chance;
     return bons;
 }
@@ -179,14 +182,13 @@ std::optional<ComptesRangs> RangsResultat(int n, int g, int c, int gc, int date)
 ComptesRangs RangsGagnes(const Grille& grille, const Tirage& tirage) {
     const Bons bons = CompterBons(grille, tirage);
     const Contenu contenu = Ouvrir(grille);
-    return RangsResultat(static_cast<int>(contenu.numeros.size()), bons.numeros,
-                         static_cast<int>(contenu.chances.size()), bons.chances, tirage.DateTirage)
+    return RangsResultat(contenu.n(), bons.numeros, contenu.c(), bons.chances, tirage.DateTirage)
         .value_or(ComptesRangs{});
 }
 
 ComptesRangs2nd Rangs2ndGagnes(const Grille& grille, const Tirage& tirage) {
     if (!ParticipeAu2ndTirage(grille)) return {};
-    return ChercherRangs2nd(static_cast<int>(grille[1]), CompterBons(grille, tirage).numeros)
+    return ChercherRangs2nd(Ouvrir(grille).n(), CompterBons(grille, tirage).numeros)
         .value_or(ComptesRangs2nd{});
 }
 

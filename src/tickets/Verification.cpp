@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "base/Dates.h"
+#include "Contenu.h"
 #include "Redaction.h"
 
 namespace norvane {
@@ -74,25 +75,25 @@ double EcrireQuatreNumeros(const Bons& bons, const RapportsTirage& rapports, con
     return gain;
 }
 
-void EcrireNumerosSortis(std::size_t rang, const Grille& grille, const Tirage& tirage, int bons,
+void EcrireNumerosSortis(std::size_t rang, const Contenu& contenu, const Tirage& tirage, int bons,
                          std::ostream& flux) {
     fmt::print(flux, "Numéros sortis pour la combinaison {}:  ", rang);
-    for (const double numero : NumerosDe(grille))
+    for (const double numero : contenu.numeros)
         if (EstSorti(tirage, numero)) flux << Colonne(numero);
     if (bons > 0) {
-        fmt::print(flux, "soit {} sur {}; ", bons, NombreNumeros(grille));
+        fmt::print(flux, "soit {} sur {}; ", bons, contenu.n());
     } else {
         flux << "Aucun; ";
     }
 }
 
-void EcrireChancesSorties(std::size_t rang, const Grille& grille, const Tirage& tirage, int bons,
+void EcrireChancesSorties(std::size_t rang, const Contenu& contenu, const Tirage& tirage, int bons,
                           std::ostream& flux) {
     fmt::print(flux, "Chances sorties pour la combinaison {}:  ", rang);
-    for (const double chance : ChancesDe(grille))
+    for (const double chance : contenu.chances)
         if (chance == tirage.Chance) fmt::print(flux, "{:g}  ", chance);
     if (bons > 0) {
-        fmt::print(flux, "soit {} sur {}; ", bons, NombreChances(grille));
+        fmt::print(flux, "soit {} sur {}; ", bons, contenu.c());
     } else {
         flux << "Aucunes; ";
     }
@@ -147,12 +148,13 @@ class Redacteur {
     double grillePremier(std::size_t rang, const Grille& grille, const Tirage& tirage,
                          const RapportsTirage& rapports) {
         const Bons bons = CompterBons(grille, tirage);
-        EcrireNumerosSortis(rang, grille, tirage, bons.numeros, flux_);
+        const Contenu contenu = Ouvrir(grille);
+        EcrireNumerosSortis(rang, contenu, tirage, bons.numeros, flux_);
         flux_ << '\n';
-        EcrireChancesSorties(rang, grille, tirage, bons.chances, flux_);
+        EcrireChancesSorties(rang, contenu, tirage, bons.chances, flux_);
         flux_ << '\n';
         totaux_.mise += grille[0];
-        if (NombreNumeros(grille) == 4 && NombreChances(grille) == 0)
+        if (contenu.n() == 4 && contenu.c() == 0)
             return EcrireQuatreNumeros(bons, rapports, monnaie_, flux_);
         return resultat(RangsGagnes(grille, tirage), LibellesRangLoto, rapports);
     }
@@ -165,7 +167,8 @@ class Redacteur {
         }
         // The stake counts again, on top of the 1er Tirage: the sums rest on it.
         totaux_.mise += grille[0];
-        EcrireNumerosSortis(rang, grille, tirage, CompterBons(grille, tirage).numeros, flux_);
+        EcrireNumerosSortis(rang, Ouvrir(grille), tirage, CompterBons(grille, tirage).numeros,
+                            flux_);
         return resultat(Rangs2ndGagnes(grille, tirage), LibellesRang2nd, rapports);
     }
 
@@ -206,11 +209,12 @@ PaireTirages TiragesDeLaDate(const Base& base, int numero) {
 }  // namespace
 
 std::string LigneGrille(std::size_t rang, const Grille& grille, const Monnaie& monnaie) {
-    const int n = NombreNumeros(grille), c = NombreChances(grille);
-    std::string ligne = fmt::format("Combinaison {} ({}N + {}C) N: ", rang, n, c);
-    for (const double numero : NumerosDe(grille)) ligne += Colonne(numero);
+    const Contenu contenu = Ouvrir(grille);
+    std::string ligne =
+        fmt::format("Combinaison {} ({}N + {}C) N: ", rang, contenu.n(), contenu.c());
+    for (const double numero : contenu.numeros) ligne += Colonne(numero);
     ligne += " C: ";
-    for (const double chance : ChancesDe(grille))
+    for (const double chance : contenu.chances)
         fmt::format_to(std::back_inserter(ligne), "{:g}  ", chance);
     // A stake is told in the singular by its whole part: 1.2 is "Euro" too.
     const bool singulier = grille[0] >= 1 && grille[0] < 2;

@@ -2,56 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <sstream>
-
+#include "BancCli.h"
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
 #include "base/TableCsv.h"
-#include "BasesEssai.h"
-#include "cli/Executer.h"
-#include "Contenu.h"
 #include "OracleStats.h"
+#include "SeptTirages.h"
+#include "tickets/FichiersGrilles.h"
 
 namespace norvane {
 namespace {
-
-using Args = std::vector<std::string>;
-
-struct Sortie {
-    int statut;
-    std::string out, err;
-};
-
-/// A folder with the four records in quatre.csv, and the program run in it.
-class Cli : public testing::Test {
- protected:
-    Cli() {
-        std::ostringstream csv;
-        EcrireTableCsv(csv, QuatreTirages(), 0, 3);
-        poser(dossier / "quatre.csv", csv.str());
-    }
-
-    /// The words of one line, between blanks.
-    Sortie lancer(const std::string& ligne) const {
-        std::istringstream mots(ligne);
-        return lancer(Args{std::istream_iterator<std::string>(mots), {}});
-    }
-    Sortie lancer(const Args& args) const {
-        std::ostringstream out, err;
-        const int statut = Executer(args, out, err, dossier.chemin());
-        return {statut, out.str(), err.str()};
-    }
-
-    Dossier dossier;
-};
-
-std::string Lignes(const std::string& texte, int premiere, int derniere) {
-    std::istringstream flux(texte);
-    std::string lignes, ligne;
-    for (int i = 0; std::getline(flux, ligne); ++i)
-        if (i >= premiere && i <= derniere) lignes += ligne + '\n';
-    return lignes;
-}
 
 TEST_F(Cli, Base) {
     EXPECT_EQ(lancer("base").out,
@@ -112,6 +72,77 @@ TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
     }
 }
 
+TEST_F(Cli, PrizeRulesAndRandomTickets) {
+    const std::pair<const char*, const char*> cas[] = {
+        {"regles mise 6 2", "26.4\n"},
+        {"regles mise 6 2 --2nd", "31.2\n"},
+        {"regles mise 4 1", "1\n"},
+        {"regles rangs 6 10 5 1 20170306", "1 9 5 45 0 0 0 0 0\n"},
+        {"regles rangs 6 10 5 1 20170305", "1 9 0 50 0 0 0 0 5\n"},
+        {"regles rangs 5 1 1 0 20240101", "aucun\n"},
+        {"regles rangs2 9 5", "1 20 60 40\n"},
+        {"regles rangs2 9 1", "aucun\n"},
+        {"regles joker 0000000 3 9000001", "6\t0\t0\t-1\t3000\n"},
+        {"regles joker 1234567 1 2334567", "0\t5\t-1\t-1\t2500\n"},
+        {"regles joker 1234567 3 2034566", "0\t5\t-1\t6\t600\n"},
+    };
+    for (const auto& [ligne, attendu] : cas) EXPECT_EQ(lancer(ligne).out, attendu) << ligne;
+
+    const Args lot = {"aleatoire", "06 + 02C", "50", "--graine", "7"};
+    const std::string grilles = lancer(lot).out;
+    EXPECT_EQ(LireGrilles(grilles)->size(), 50U);
+    EXPECT_EQ(lancer(lot).out, grilles);
+    EXPECT_EQ(lancer(Args{"aleatoire", "05 + 01C", "0"}).out, "0\n");
+    EXPECT_NE(lancer(Args{"aleatoire", "07 + 09C", "1"}).err.find("pas une grille vendue"),
+              std::string::npos);
+    EXPECT_EQ(lancer(Args{"aleatoire", "05 + 01C", "10000"}).statut, StatutRefus);
+}
+
+TEST_F(Cli, ReportsOnTickets) {
+    std::ostringstream csv;
+    EcrireTableCsv(csv, SeptTirages(), 0, 6);
+    poser(dossier / "sept.csv", csv.str());
+    poser(dossier / "deux.grl", "2\n378 9 1 7 12 23 40 2 3 4 6 1 9\n2.2 5 7 12 23 34 45 1 5\n");
+    poser(dossier / "une.grl", "1\n378 9 1 7 12 23 40 2 3 4 6 1 9\n");
+    const std::string recu = "1\n3 5 16 5 1 2 3 1 1\n1\n7 0 0 0 0 0 0 1\n";
+    for (const char* nom : {"20240727.rdj", "20191104.rdj", "20240728.rdj", "recu.rdj"})
+        poser(dossier / nom, recu);
+    poser(dossier / "vide.grl", "0\n");
+    poser(dossier / "notes.txt", "1\n");
+    const auto avant = Contenu(dossier);
+
+    const std::string base = "--base sept.csv ";
+    EXPECT_EQ(lancer(base + "verifier 20240727.rdj").out, Attendu("second-seul"));
+    EXPECT_EQ(lancer(base + "verifier recu.rdj --tirage 7").out, Attendu("second-seul"));
+    EXPECT_NE(lancer(base + "verifier 20191104.rdj").out.find("1er Tirage n°4 du"),
+              std::string::npos);
+    EXPECT_EQ(lancer(base + "bilan deux.grl").out, Attendu("bilan"));
+    EXPECT_EQ(lancer(base + "--a 3 bilan une.grl").out, Attendu("bilan-avant-2019"));
+    const std::pair<const char*, const char*> refus[] = {
+        {"verifier deux.grl", "donnez le numéro du tirage avec --tirage"},
+        {"verifier recu.rdj", "n'est pas une date"},
+        {"verifier 20240728.rdj", "aucun tirage à la date"},
+        {"verifier vide.grl --tirage 1", "ne contient aucune grille"},
+        {"verifier deux.grl --tirage 8", "--tirage va de 1 à 7, pas 8"},
+        {"verifier absent.grl --tirage 1", "absent.grl"},
+        {"bilan notes.txt", "son nom doit finir par .grl ou .rdj"},
+        {"bilan sept.csv", "son nom doit finir par .grl ou .rdj"},
+    };
+    for (const auto& [ligne, dit] : refus) {
+        const Sortie sortie = lancer(base + ligne);
+        EXPECT_EQ(sortie.statut, StatutRefus) << ligne;
+        EXPECT_EQ(sortie.out, "");
+        EXPECT_NE(sortie.err.find(dit), std::string::npos) << ligne << '\n' << sortie.err;
+    }
+    EXPECT_EQ(lancer("bilan").err,
+              "norvane-cli : il manque l'argument FICHIER\n"
+              "Usage : norvane-cli [OPTIONS] bilan FICHIER\n");
+    EXPECT_EQ(Contenu(dossier), avant);
+
+    poser(dossier / "NORVANE.INI", "[MONNAIE]\nsymbole=$\n");
+    EXPECT_EQ(lancer(base + "--de 5 --a 5 bilan une.grl").out, Attendu("bilan-second-dollar"));
+}
+
 TEST_F(Cli, Refused) {
     poser(dossier / "nonsens.csv", "a;b;c\n1;2;3\n");
     poser(dossier / "base.txt", "");
@@ -126,6 +157,11 @@ TEST_F(Cli, Refused) {
         {"--base quatre.csv --a 5 tirages", "--a 5 est hors de la base"},
         {"--base quatre.csv --a 99999999999999999999 tirages", "est hors de la base"},
         {"--base quatre.csv --de 3 --a 2 stats chances", "croisé"},
+        {"regles mise 10 1", "N va de 0 à 9, pas 10"},
+        {"regles rangs 5 1 6 0 20240101", "g va de 0 à 5"},
+        {"regles rangs 5 1 2 0 20240230", "20240230 n'est pas une date"},
+        {"regles joker 123456 1 1234567", "sept chiffres"},
+        {"regles joker 1234567 5 1234567", "CODE va de 1 à 4"},
     };
     for (const auto& [ligne, dit] : cas) {
         const Sortie sortie = lancer(ligne);
@@ -151,6 +187,9 @@ TEST_F(Cli, BadUsage) {
         {"--a 3.5 base", "option --a : « 3.5 » n'est pas un nombre entier", "base"},
         {"--base", "option --base : nombre de valeurs incorrect", "COMMANDE"},
         {"--de 1 --de 2 base", "option --de : nombre de valeurs incorrect", "base"},
+        {"regles mise 5", "il manque l'argument C", "regles mise [OPTIONS] N C"},
+        {"regles rangs2 cinq 5", "argument N : « cinq » n'est pas un nombre entier",
+         "regles rangs2 N g"},
         {"--globale=non base", "option --globale : nombre de valeurs incorrect", "COMMANDE"},
     };
     for (const auto& c : cas) {
@@ -179,9 +218,14 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
         "  --a N           Dernier tirage de l'intervalle ; par défaut le dernier\n"
         "\n"
         "Commandes :\n"
-        "  base     Ce que contient la base des tirages\n"
-        "  tirages  Les tirages de l'intervalle, en CSV\n"
-        "  stats    Statistiques des numéros ou des chances sur l'intervalle\n");
+        "  base       Ce que contient la base des tirages\n"
+        "  tirages    Les tirages de l'intervalle, en CSV\n"
+        "  stats      Statistiques des numéros ou des chances sur l'intervalle\n"
+        "  comb       Combinaisons de 2 à 10 numéros sur l'intervalle\n"
+        "  regles     Règles des mises et des gains, sans la base\n"
+        "  verifier   Les gains de grilles ou d'un reçu à un tirage\n"
+        "  bilan      Ce que des grilles auraient gagné et coûté sur l'intervalle\n"
+        "  aleatoire  Des grilles tirées au hasard, en liste de grilles (*.grl)\n");
     const Sortie chances = lancer("stats chances --help");
     EXPECT_EQ(chances.statut, StatutFait);
     EXPECT_EQ(Lignes(chances.out, 0, 2),
@@ -191,8 +235,34 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
 
     // The manual tells of everything that the help does.
     const std::string manuel = lire(NORVANE_DATA "/../packaging/norvane-cli.1");
-    for (const char* mot : {"-help", "-version", "-base", "-globale", "-de", "-a", "B tirages",
-                            "B stats numeros", "B stats chances"})
+    for (const char* mot : {"-help",
+                            "-version",
+                            "-base",
+                            "-globale",
+                            "-de",
+                            "-a",
+                            "B tirages",
+                            "B stats numeros",
+                            "B stats chances",
+                            "comb extremes",
+                            "comb bornes",
+                            "-series",
+                            "-stockage",
+                            "-max",
+                            "-compter",
+                            "-absolue",
+                            "-secondaire",
+                            "comb stats",
+                            "regles mise",
+                            "-2nd",
+                            "regles rangs",
+                            "regles rangs2",
+                            "regles joker",
+                            "aleatoire",
+                            "-graine",
+                            "verifier",
+                            "-tirage",
+                            "bilan"})
         EXPECT_NE(manuel.find(mot), std::string::npos) << mot;
 }
 

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include "Contenu.h"
+#include <algorithm>
+
 #include "tickets/FichiersGrilles.h"
+#include "tickets/GrillesHasard.h"
 
 namespace norvane {
 namespace {
@@ -29,26 +31,58 @@ TEST(TableMises, TheTicketsSold) {
         EXPECT_EQ(TableMises(n, c), MiseInjouable) << n << " + " << c;
 }
 
-TEST(Grille, PricedAndWritten) {
-    const int cinq[] = {3, 14, 25, 44, 31}, six[] = {1, 2, 3, 4, 5, 6}, une[] = {7},
-              deux[] = {4, 9};
-    const std::vector<Grille> grilles = {
-        FaireGrille(cinq, une, false), FaireGrille(six, deux, true), FaireGrille(cinq, une, true)};
-    EXPECT_EQ(grilles[1], (Grille{31.2, 6, 1, 2, 3, 4, 5, 6, 2, 4, 9}));
-    const std::string texte =
-        "3\n2.2 5 3 14 25 44 31 1 7\n31.2 6 1 2 3 4 5 6 2 4 9\n3 5 3 14 25 44 31 1 7\n";
+TEST(TableMises, WithTheOption) {
+    EXPECT_EQ(MiseGrille(5, 1, true), 3.0);
+    EXPECT_EQ(MiseGrille(6, 2, false), 26.4);
+    EXPECT_EQ(MiseGrille(9, 1, true), 378.0);
+    EXPECT_EQ(MiseGrille(4, 1, true), MiseIncomplete);
+    EXPECT_EQ(MiseGrille(10, 1, true), MiseInjouable);
+    const int six[] = {6, 2, 3, 4, 5, 1}, deux[] = {9, 4};
+    EXPECT_EQ(FaireGrille(six, deux, true), (Grille{31.2, 6, 6, 2, 3, 4, 5, 1, 2, 9, 4}));
+}
 
-    const Dossier dossier;
-    ASSERT_TRUE(SauverGrillesSecours({}, dossier.chemin()));
-    EXPECT_EQ(lire(dossier.chemin() / "Grilles&Reçus/Grlbak.grl"), "0\n");
-    ASSERT_TRUE(SauverGrillesSecours(grilles, dossier.chemin()));
-    EXPECT_EQ(lire(dossier.chemin() / "Grilles&Reçus/Grlbak.grl"), texte);
+TEST(TypeGrille, Labels) {
+    EXPECT_EQ(TypesVendus.size(), 32U);
+    for (const TypeGrille type : TypesVendus) EXPECT_EQ(LireTypeGrille(LibelleType(type)), type);
+    EXPECT_EQ(LireTypeGrille("07 + 08C"), (TypeGrille{7, 8}));
+    for (const char* faux : {"07 + 09C", "7 + 8C", "05 + 00C", "", "05 + 01C "})
+        EXPECT_FALSE(LireTypeGrille(faux)) << faux;
+}
 
-    const Dossier occupe;
-    poser(occupe / DossierGrilles, "un fichier");
-    const auto fait = SauverGrillesSecours(grilles, occupe.chemin());
-    ASSERT_FALSE(fait);
-    EXPECT_NE(fait.erreur().find(DossierGrilles), std::string::npos) << fait.erreur();
+/// The generator on 64 bits, and one drawing after the other without a repeat.
+struct Oracle {
+    std::uint64_t etat;
+
+    std::vector<int> tirer(int combien, int max) {
+        std::vector<int> valeurs;
+        while (std::ssize(valeurs) < combien) {
+            etat = (etat * 22695477 + 1) % (1ULL << 32);
+            const int v = static_cast<int>(etat / 65536 % 32768) % max + 1;
+            if (std::count(valeurs.begin(), valeurs.end(), v) == 0) valeurs.push_back(v);
+        }
+        return valeurs;
+    }
+};
+
+TEST(Hasard, BothPathsForEveryTicketSold) {
+    for (const TypeGrille type : TypesVendus) {
+        const auto graine = 4294967000U + static_cast<std::uint32_t>(10 * type.n + type.c);
+        Oracle oracle{graine};
+        GenerateurHasard seul(graine), lot(graine);
+        std::vector<Grille> grilles = {{0, 0, 0}};
+        AjouterGrillesHasard(grilles, lot, type, 20);
+        ASSERT_EQ(grilles.size(), 21U);
+        for (std::size_t i = 1; i <= 20; ++i) {
+            auto numeros = oracle.tirer(type.n, 49), chances = oracle.tirer(type.c, 10);
+            const TirageHasard tirage = TirerGrille(seul, type);
+            EXPECT_EQ(tirage.numeros, numeros);
+            EXPECT_EQ(tirage.chances, chances);
+            std::sort(numeros.begin(), numeros.end());
+            std::sort(chances.begin(), chances.end());
+            EXPECT_EQ(grilles[i], FaireGrille(numeros, chances, false));
+        }
+        EXPECT_EQ(*LireGrilles(TexteGrilles(grilles)), grilles);
+    }
 }
 
 }  // namespace

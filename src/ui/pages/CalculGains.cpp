@@ -142,8 +142,11 @@ void CalculGains::lancerBilan() {
 void CalculGains::finirBilan(const std::optional<std::string>& texte, const QString& echec) {
     fil_.join();
     poser(Action::Bilan);
-    // The count falls before any dialog: nothing runs any more.
-    Q_EMIT traitementFini();
+    --contexte_.atelier.TraitementsEnCours;
+    // A window that waits for the end of the work closes now, without a word on it.
+    const bool ferme = contexte_.atelier.QuitterEnAttente;
+    Q_EMIT traitementTermine();
+    if (ferme) return;
     if (!echec.isEmpty()) {
         contexte_.services.messages->MessageErreur(echec, u"Erreur"_s);
     } else if (texte) {

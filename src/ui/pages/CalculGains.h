@@ -37,7 +37,8 @@ class CalculGains final : public QObject {
  Q_SIGNALS:
     /// The work began or is over: commands follow.
     void actionChange();
-    void traitementFini();
+    /// The worker is through and no longer counts.
+    void traitementTermine();
     void texteEtat(const QString& texte);
 
  private:

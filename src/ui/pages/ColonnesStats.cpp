@@ -9,6 +9,7 @@
 
 #include "base/Dates.h"
 #include "base/Textes.h"
+#include "widgets/VueTableau.h"
 
 namespace norvane::ui {
 
@@ -43,6 +44,14 @@ ColonneTableau date() {
     c.alignement = Qt::AlignLeft;
     c.adaptable = false;
     return c;
+}
+
+/// A rank that never came out stands before every date.
+int ComparerDatesRang(std::string_view a, std::string_view b) {
+    const auto lisible = [](std::string_view texte) {
+        return Rogner(texte) == "Jamais sorti" ? PasEncoreSorti : texte;
+    };
+    return ComparerDatesFrancaises(lisible(a), lisible(b));
 }
 
 }  // namespace
@@ -92,6 +101,44 @@ std::vector<ColonneTableau> ColonnesCouples() {
             chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"000  (00 0000)"_s),
             chiffres(u"Suite"_s, u"Suite"_s, 36, u"00"_s),
             chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s)};
+}
+
+std::vector<ColonneTableau> ColonnesCombinaison() {
+    ColonneTableau sortis = chiffres(u"Sortis"_s, u"Nombre de bons numéros"_s, 40, u"0"_s);
+    sortis.gras = true;
+    ColonneTableau quand = date();
+    quand.largeur = 100;
+    quand.comparer = ComparerDatesRang;
+    quand.adaptable = true;
+    quand.etalon = u"mercredi 30 septembre 2026"_s;
+    return {sortis,
+            chiffres(u"Nbfois"_s, u"Nombre de tirages"_s, 44, u"0000"_s),
+            chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s),
+            quand,
+            chiffres(u"Ecart"_s, u"Écart"_s, 40, u"0000"_s),
+            chiffres(u"Ecartmax"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
+            chiffres(u"Suite"_s, u"Suite"_s, 36, u"0000"_s),
+            chiffres(u"Suitemax"_s, u"Suite Max"_s, 70, u"0000  (00 0000)"_s)};
+}
+
+CelluleTableau CelluleRatio(const std::string& precis, int graphique, bool barre) {
+    CelluleTableau cellule;
+    cellule.brut = graphique;
+    cellule.barre = barre;
+    cellule.texte = barre ? std::to_string(graphique) : precis;
+    cellule.accessible = QString::fromStdString(precis);
+    return cellule;
+}
+
+ContenuBulle BulleRatio(const VueTableau& table, const QModelIndex& index, int colonneRatio) {
+    if (index.column() != colonneRatio || !table.modele().cellule(index).barre) return {};
+    const int valeur = table.modele().cellule(index).brut.toInt();
+    return {u"Ratio Précis"_s, QString::fromStdString(FormaterDecimal(valeur * 0.01, 1)) + u"% "_s};
+}
+
+int TirageMaximum(std::string_view cellule, int inf) {
+    const MaximumLu lu = LireCelluleMaximum(cellule);
+    return lu.nombre != 0 && lu.position != inf - 1 ? lu.position : 0;
 }
 
 std::vector<DegradeCellule> DegradesStats(GenreStats genre) {

@@ -280,7 +280,7 @@ void PageResultats::relierBillets() {
         majCommandes();
     });
     connect(gains_, &CalculGains::actionChange, this, &PageResultats::majCommandes);
-    connect(gains_, &CalculGains::traitementFini, this, &Page::traitementFini);
+    connect(gains_, &CalculGains::traitementTermine, this, &Page::traitementTermine);
     connect(gains_, &CalculGains::texteEtat, this, &Page::texteEtat);
 }
 

@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "base/Textes.h"
 #include "pages/ColonnesStats.h"
 #include "shell/Theme.h"
 #include "widgets/PaireIntervalle.h"
@@ -89,7 +88,7 @@ PageStats::PageStats(Contexte& ctx, GenreStats genre, QWidget* parent)
     table_->setObjectName(textes_.table);
     table_->setAccessibleName(u"Statistiques sur "_s + textes_.objet);
     table_->modele().poserDegrades(DegradesStats(genre));
-    table_->poserBulle([this](const QModelIndex& i) { return bulleRatio(i); });
+    table_->poserBulle([this](const QModelIndex& i) { return BulleRatio(*table_, i, Ratio); });
     connect(table_, &VueTableau::celluleActivee, this, &PageStats::surActivation);
 
     auto* corps = new QHBoxLayout(this);
@@ -335,7 +334,8 @@ void PageStats::poserLignes(std::vector<LigneStats> lignes, int dernier, int pre
             if (c <= static_cast<std::size_t>(Num)) rangee[c].degrade = ligne.present ? 1 : 0;
         }
         rangee[static_cast<std::size_t>(Num)].indice = textes_.indiceElement;
-        rangee[static_cast<std::size_t>(Ratio)] = celluleRatio(ligne);
+        rangee[static_cast<std::size_t>(Ratio)] = CelluleRatio(
+            ligne.cellules[static_cast<std::size_t>(Ratio)], ligne.ratioGraphique, graphique());
         rangees.push_back(std::move(rangee));
     }
     table_->remplir(std::move(rangees));
@@ -343,22 +343,6 @@ void PageStats::poserLignes(std::vector<LigneStats> lignes, int dernier, int pre
 
 bool PageStats::graphique() const {
     return ratio_->checkedId() == Graphique;
-}
-
-CelluleTableau PageStats::celluleRatio(const LigneStats& ligne) const {
-    CelluleTableau cellule;
-    const std::string& precis = ligne.cellules[static_cast<std::size_t>(Ratio)];
-    cellule.brut = ligne.ratioGraphique;
-    cellule.barre = graphique();
-    cellule.texte = cellule.barre ? std::to_string(ligne.ratioGraphique) : precis;
-    cellule.accessible = versQt(precis);
-    return cellule;
-}
-
-ContenuBulle PageStats::bulleRatio(const QModelIndex& index) const {
-    if (!graphique() || index.column() != Ratio) return {};
-    const int valeur = table_->modele().cellule(index).brut.toInt();
-    return {u"Ratio Précis"_s, versQt(FormaterDecimal(valeur * 0.01, 1)) + u"% "_s};
 }
 
 // ---------------------------------------------------------------------------------------- commands
@@ -377,13 +361,9 @@ void PageStats::surActivation(const QModelIndex& index) {
             }
             break;
         case EMax:
-        case SMax: {
-            const MaximumLu lu = LireCelluleMaximum(table_->modele().texte(index));
-            if (lu.nombre != 0 && lu.position != intervalle_->inf() - 1) {
-                demanderTirage(lu.position, ligne);
-            }
+        case SMax:
+            demanderTirage(TirageMaximum(table_->modele().texte(index), intervalle_->inf()), ligne);
             break;
-        }
         default:
             break;
     }

@@ -22,8 +22,6 @@ namespace norvane::ui {
 
 class PaireIntervalle;
 class VueTableau;
-struct CelluleTableau;
-struct ContenuBulle;
 
 class PageStats final : public Page {
     Q_OBJECT
@@ -59,9 +57,7 @@ class PageStats final : public Page {
     void remplirParControles();
     void remplir(int dernier, int premier);
     void poserLignes(std::vector<LigneStats> lignes, int dernier, int premier);
-    CelluleTableau celluleRatio(const LigneStats& ligne) const;
     bool graphique() const;
-    ContenuBulle bulleRatio(const QModelIndex& index) const;
 
     void surActivation(const QModelIndex& index);
     void ouvrirHistorique(const LigneStats& ligne);

@@ -41,6 +41,9 @@ inline QString versQt(const std::string& texte) {
 /// (the whole text serves as both when there is no bar).
 void poserIndice(QWidget* cible, const QString& indice);
 
+/// In place of a number or a Chance: none of them.
+inline constexpr int AucunElement = 0;
+
 /// One of the ten pages. Pages do not know each other: they ask the form through these signals.
 class Page : public QWidget {
     Q_OBJECT
@@ -55,14 +58,14 @@ class Page : public QWidget {
 
  Q_SIGNALS:
     /// Leave consultation and free choice, open "Résultats" on draw `numero` (one-based) and
-    /// press the button of `element` if it is up.
+    /// press the button of `element` if it is up (AucunElement: none).
     void tirageDemande(int numero, norvane::GenreStats genre, int element);
     /// Open "Historiques" on an item that came out, over draws inf..sup (one-based).
     void historiqueDemande(norvane::GenreStats genre, int element, int inf, int sup);
     /// A mode flag changed: the form rewrites the label and lets it blink.
     void modeChange();
-    /// A worker ended: its busy count goes back to the form.
-    void traitementFini();
+    /// A worker of the page is through and no longer counts: the form goes back to rest.
+    void traitementTermine();
     /// Text of long work for the first panel of the status bar.
     void texteEtat(const QString& texte);
 

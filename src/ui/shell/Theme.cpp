@@ -113,6 +113,10 @@ QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid %discret;
   background: %carte; }
 QRadioButton::indicator:hover { border-color: %accent; }
 QRadioButton::indicator:checked { width: 5px; height: 5px; border: 5px solid %accent; border-radius: 7px; }
+QCheckBox::indicator, QListView::indicator { width: 14px; height: 14px; border: 1px solid %discret; border-radius: 3px;
+  background: %carte; }
+QCheckBox::indicator:hover, QListView::indicator:hover { border-color: %accent; }
+QCheckBox::indicator:checked, QListView::indicator:checked { border-color: %accent; background: %accent; image: url(:/norvane/coche.svg); }
 QFrame#Carte { background: %carte; border: 1px solid %bordure; border-radius: 8px; }
 QHeaderView::section { background: %alternance; color: %texte; border: 0; border-right: 1px solid %bordure;
   border-bottom: 1px solid %bordure; padding: 4px 6px; font-weight: 600; }
@@ -174,6 +178,9 @@ Teintes teintes(const QPalette& palette) {
     t.alerte = sombre ? QColor(0xFF, 0xB4, 0x54) : QColor(0xC2, 0x41, 0x0C);
     t.numeroCommun = sombre ? QColor(0xFF, 0x8A, 0x8A) : QColor(CouleurNumeroCommun);
     t.chanceCommune = sombre ? QColor(0x8F, 0xAE, 0xFF) : QColor(CouleurChanceCommune);
+    t.ligneSup = sombre ? QColor(0x8F, 0xAE, 0xFF) : QColor(CouleurLigneSup);
+    t.ligneInf = sombre ? QColor(0x6F, 0xD9, 0x8B) : QColor(CouleurLigneInf);
+    t.fondFerme = g.fenetre;
     t.barreBasse = sombre ? QColor(0x3E, 0x7B, 0xD6) : QColor(0x7F, 0xB2, 0xF5);
     t.barreMoyenne = sombre ? QColor(0xD1, 0x9A, 0x2E) : QColor(0xF5, 0xC1, 0x55);
     t.barreHaute = sombre ? QColor(0xC8, 0x4B, 0x4B) : QColor(0xEE, 0x7B, 0x6B);

@@ -38,6 +38,10 @@ inline constexpr QRgb CouleurTexteAllume = qRgb(0xFF, 0xFF, 0x00);    ///< font 
 inline constexpr QRgb CouleurBoutonNeutre = qRgb(0xDF, 0xDF, 0xDF);   ///< fill of a button not lit
 inline constexpr QRgb CouleurNumeroCommun = qRgb(0x80, 0x00, 0x00);
 inline constexpr QRgb CouleurChanceCommune = qRgb(0x00, 0x00, 0xFF);
+inline constexpr QRgb CouleurLigneSup = qRgb(0x00, 0x00, 0xFF);  ///< a line at the upper bound
+inline constexpr QRgb CouleurLigneInf = qRgb(0x00, 0x80, 0x00);  ///< a line at the lower bound
+inline constexpr QRgb CouleurLigneChoisie =
+    qRgb(0x00, 0xFF, 0xFF);  ///< ground of the line selected
 
 /// Colours that follow the palette on show.
 struct Teintes {
@@ -48,6 +52,9 @@ struct Teintes {
     QColor alerte;        ///< colour of the blinking mode label
     QColor numeroCommun;  ///< CouleurNumeroCommun, lightened on dark so that it can be read
     QColor chanceCommune;
+    QColor ligneSup;  ///< CouleurLigneSup, lightened on dark
+    QColor ligneInf;
+    QColor fondFerme;                             ///< ground of an edit that cannot be written in
     QColor barreBasse, barreMoyenne, barreHaute;  ///< levels of a bar in a cell
     QColor barreBord;                             ///< its border: navy, lightened on dark
 };

@@ -20,6 +20,7 @@
 
 #include "dialogs/AboutBox.h"
 #include "pages/PageAVenir.h"
+#include "pages/PageCombinaisons.h"
 #include "pages/PageResultats.h"
 #include "pages/PageStats.h"
 #include "shell/Aide.h"
@@ -39,10 +40,6 @@ struct Promesse {
     const char16_t* texte;
 };
 
-constexpr Promesse Combinaisons{
-    u"Varo3", u"Combinaisons N",
-    u"Cette page donnera les combinaisons de 2 à 10 numéros les plus et les moins sorties, les "
-    u"listes entre deux bornes, leurs rangs et leurs tris."};
 constexpr Promesse CombinaisonsChances{
     u"Varo9", u"Combinaisons N + C",
     u"Cette page donnera les combinaisons de numéros et de chances, leurs sorties par catégorie de "
@@ -87,6 +84,8 @@ TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* ins
     connect(aide_, &Aide::gardeLevee, this, [this] {
         if (auto* page = qobject_cast<Page*>(pages_->currentWidget())) page->surDepart();
     });
+    connect(this, &TVaroMainForm::arretDemande, combinaisons_,
+            &PageCombinaisons::arreterTraitement);
     fermeture_.arreterTraitement = [this] { Q_EMIT arretDemande(); };
     fermeture_.rangerGrilleEnMain = [this] { resultats_->rangerGrilleEnMain(); };
 
@@ -95,7 +94,6 @@ TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* ins
         numeros_->remplirDemarrage();
         chances_->remplirDemarrage();
     }
-    montrerBornes();
 }
 
 TVaroMainForm::~TVaroMainForm() = default;
@@ -112,13 +110,13 @@ void TVaroMainForm::creerPages() {
     resultats_ = new PageResultats(contexte_, pages_);
     numeros_ = new PageStats(contexte_, GenreStats::Numeros, pages_);
     chances_ = new PageStats(contexte_, GenreStats::Chances, pages_);
-    combinaisons_ = aVenir(Combinaisons);
+    combinaisons_ = new PageCombinaisons(contexte_, pages_);
     historiques_ = aVenir(Historiques);
     const std::array<std::pair<Page*, QString>, 10> ordre = {{
         {resultats_, u"Résultats"_s},
         {numeros_, u"Numéros"_s},
         {chances_, u"Chances"_s},
-        {combinaisons_, texte(Combinaisons.titre)},
+        {combinaisons_, u"Combinaisons N"_s},
         {aVenir(CombinaisonsChances), texte(CombinaisonsChances.titre)},
         {aVenir(Analyses), texte(Analyses.titre)},
         {aVenir(Graphes), texte(Graphes.titre)},
@@ -139,7 +137,7 @@ void TVaroMainForm::relier(Page* page) {
     connect(page, &Page::tirageDemande, this, &TVaroMainForm::montrerTirage);
     connect(page, &Page::historiqueDemande, this, &TVaroMainForm::ouvrirHistorique);
     connect(page, &Page::modeChange, this, &TVaroMainForm::changerMode);
-    connect(page, &Page::traitementFini, this, &TVaroMainForm::finTraitement);
+    connect(page, &Page::traitementTermine, this, &TVaroMainForm::reprendreRepos);
     connect(page, &Page::texteEtat, this, [this](const QString& t) {
         texteTravail_ = !t.isEmpty();
         dire(t);
@@ -196,6 +194,7 @@ void TVaroMainForm::showEvent(QShowEvent* evenement) {
 
 void TVaroMainForm::premierAffichage() {
     resultats_->premierAffichage();
+    combinaisons_->premierAffichage();
     changerMode();
     montrerIntervalle();
     exempleHistorique();
@@ -215,17 +214,6 @@ void TVaroMainForm::exempleHistorique() {
     historiques_->montrerDetail(
         u"Exemple sur tout l'intervalle des tirages pour le numéro "
         u"aléatoire suivant: %1"_s.arg(numero));
-}
-
-void TVaroMainForm::montrerBornes() {
-    const Atelier& a = contexte_.atelier;
-    const int taille = a.occurrences.IntervalleSup - a.occurrences.IntervalleInf + 1;
-    QStringList lignes;
-    for (int n = TailleCombMin; n <= TailleCombMax; ++n) {
-        const LibellesBornes bornes = LibellesBornesTaille(a.combinaisons, n, taille);
-        lignes << u"%1 numéros : %2, %3"_s.arg(n).arg(versQt(bornes.inf), versQt(bornes.sup));
-    }
-    combinaisons_->montrerDetail(lignes.join(u'\n'));
 }
 
 void TVaroMainForm::montrerIntervalle() {
@@ -249,7 +237,7 @@ void TVaroMainForm::montrerTirage(int numero, GenreStats genre, int element) {
     resultats_->quitterChoixEtConsultation();
     pages_->setCurrentWidget(resultats_);
     resultats_->montrerTirage(numero);
-    resultats_->appuyer(genre, element);
+    if (element != AucunElement) resultats_->appuyer(genre, element);
 }
 
 void TVaroMainForm::ouvrirHistorique(GenreStats genre, int element, int inf, int sup) {
@@ -264,6 +252,11 @@ void TVaroMainForm::ouvrirHistorique(GenreStats genre, int element, int inf, int
 void TVaroMainForm::finTraitement() {
     Atelier& atelier = contexte_.atelier;
     atelier.TraitementsEnCours = std::max(0, atelier.TraitementsEnCours - 1);
+    reprendreRepos();
+}
+
+void TVaroMainForm::reprendreRepos() {
+    const Atelier& atelier = contexte_.atelier;
     if (atelier.occupe()) return;
     texteTravail_ = false;
     dire({});
@@ -276,7 +269,6 @@ void TVaroMainForm::RecalculBase() {
         if (auto* page = qobject_cast<Page*>(pages_->widget(i))) page->surBaseChangee();
     }
     montrerIntervalle();
-    montrerBornes();
 }
 
 void TVaroMainForm::dire(const QString& texte) {

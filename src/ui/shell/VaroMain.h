@@ -22,6 +22,7 @@ namespace norvane::ui {
 class Aide;
 class EtiquetteMode;
 class PageAVenir;
+class PageCombinaisons;
 class PageResultats;
 class PageStats;
 class TAboutBox;
@@ -65,13 +66,13 @@ class TVaroMainForm final : public QMainWindow {
     void creerEtat();
     void relier(Page* page);
     void premierAffichage();
+    void reprendreRepos();
     void changerPage(int place);
     void changerMode();
     void changerApparence(const QString& cle);
     void montrerTirage(int numero, GenreStats genre, int element);
     void ouvrirHistorique(GenreStats genre, int element, int inf, int sup);
     void exempleHistorique();
-    void montrerBornes();
     void montrerIntervalle();
     void dire(const QString& texte);
     void direAvertissements();
@@ -83,7 +84,7 @@ class TVaroMainForm final : public QMainWindow {
     PageResultats* resultats_ = nullptr;
     PageStats* numeros_ = nullptr;
     PageStats* chances_ = nullptr;
-    PageAVenir* combinaisons_ = nullptr;
+    PageCombinaisons* combinaisons_ = nullptr;
     PageAVenir* historiques_ = nullptr;
     int pagePrecedente_ = 0;
     EtiquetteMode* mode_ = nullptr;

@@ -111,7 +111,7 @@ BandeTirage::BandeTirage(double echelle, QWidget* parent) : QWidget(parent), ech
     image_ = new ImageChance(this);
     image_->setObjectName(u"ImageChance"_s);
     image_->setToolTip(u"Numéro Chance"_s);
-    const auto px = [echelle](int longueur) { return static_cast<int>(longueur * echelle + 0.5); };
+    const auto px = [echelle](int longueur) { return qRound(longueur * echelle); };
     setFixedSize(px(LargeurBande), px(Hauteur));
     image_->setGeometry(px(GaucheImage), px((Hauteur - CoteImage) / 2), px(CoteImage),
                         px(CoteImage));
@@ -120,7 +120,7 @@ BandeTirage::BandeTirage(double echelle, QWidget* parent) : QWidget(parent), ech
 
 void BandeTirage::disposer(bool avecChance) {
     avecChance_ = avecChance;
-    const auto px = [this](int longueur) { return static_cast<int>(longueur * echelle_ + 0.5); };
+    const auto px = [this](int longueur) { return qRound(longueur * echelle_); };
     const auto& gauches = avecChance ? GauchesEtroites : GauchesLarges;
     const int largeur = px(avecChance ? LargeurEtroite : LargeurLarge);
     for (std::size_t i = 0; i < NbBoules; ++i) {

@@ -36,7 +36,7 @@ QLabel* legende(const QString& texte, QWidget* parent) {
 
 void grossir(QWidget* cible, double facteur) {
     QFont fonte = cible->font();
-    fonte.setPixelSize(static_cast<int>(QFontInfo(fonte).pixelSize() * facteur + 0.5));
+    fonte.setPixelSize(qRound(QFontInfo(fonte).pixelSize() * facteur));
     fonte.setBold(true);
     cible->setFont(fonte);
 }

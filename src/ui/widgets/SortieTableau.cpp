@@ -26,7 +26,7 @@ namespace {
 constexpr double MargePage = 12.0;  // millimetres
 constexpr double PolicePied = 8.0;  // points
 constexpr double PoliceTitre = 13.0;
-constexpr double EchelleMin = 0.78;  // 9-point figures are still read with ease at that scale
+constexpr int CentiemesMin = 78;  // 9-point figures are still read with ease at that scale
 
 /// Draws page `numero` (from 1) of the document, and its foot.
 void dessinerPage(QPainter& p, const QTextDocument& document, int numero, const QRectF& feuille,
@@ -84,7 +84,8 @@ void mettreEnForme(QTextDocument& document) {
 double mettreEnPages(QTextDocument& document, const QSizeF& page) {
     document.setPageSize(page);
     if (document.pageCount() == 1) return 1.0;
-    for (double echelle = 0.98; echelle >= EchelleMin; echelle -= 0.02) {
+    for (int centiemes = 98; centiemes >= CentiemesMin; centiemes -= 2) {
+        const double echelle = centiemes / 100.0;
         document.setPageSize(page / echelle);
         if (document.pageCount() == 1) return echelle;
     }
@@ -150,7 +151,7 @@ void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& ta
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                      const QString& titre) {
     QPrinter imprimante(QPrinter::HighResolution);
-    imprimante.setDocName(titre);
+    imprimante.setDocName(tableau.titre.empty() ? titre : versQt(tableau.titre.front()));
     imprimante.setPageSize(QPageSize(QPageSize::A4));
     imprimante.setPageMargins(QMarginsF(MargePage, MargePage, MargePage, MargePage),
                               QPageLayout::Millimeter);

@@ -63,7 +63,7 @@ TableRapports::TableRapports(const QString& nom, int rangs, double echelle, QWid
     setItemDelegate(new DelegueMarge(this));
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(0);
-    verticalHeader()->setDefaultSectionSize(static_cast<int>(HauteurLigne * echelle + 0.5));
+    verticalHeader()->setDefaultSectionSize(qRound(HauteurLigne * echelle));
     QHeaderView* tete = horizontalHeader();
     tete->setHighlightSections(false);
     tete->setSectionsClickable(false);

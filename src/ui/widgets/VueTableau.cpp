@@ -121,8 +121,15 @@ int VueTableau::largeurEntiere() const {
     return horizontalHeader()->length() + 2 * frameWidth() + barre;
 }
 
+void VueTableau::reserverLignes(int nombre) {
+    reservees_ = nombre;
+    ajusterTaille();
+}
+
 int VueTableau::hauteurEntiere() const {
-    return verticalHeader()->length() + horizontalHeader()->sizeHint().height() + 2 * frameWidth();
+    const int reserve = reservees_ * verticalHeader()->defaultSectionSize();
+    return std::max(verticalHeader()->length(), reserve) + horizontalHeader()->sizeHint().height() +
+           2 * frameWidth();
 }
 
 void VueTableau::ajusterTaille() {

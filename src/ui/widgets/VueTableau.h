@@ -41,6 +41,9 @@ class VueTableau final : public QTableView {
     void cacherBulle();
     const Bulle& bulle() const { return *bulle_; }
 
+    /// Keeps the height that this many rows need, however many there are.
+    void reserverLignes(int nombre);
+
     /// The width that shows all columns.
     int largeurEntiere() const;
     QSize sizeHint() const override;
@@ -70,6 +73,7 @@ class VueTableau final : public QTableView {
     int hauteurEntiere() const;
 
     double echelle_;
+    int reservees_ = 0;  // rows that the height is made for, at least
     ModeleTableau* modele_;
     Bulle* bulle_;
     ColonnesFigees* figees_ = nullptr;

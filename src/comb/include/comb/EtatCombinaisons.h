@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "base/Resultat.h"
@@ -23,6 +24,9 @@ struct EtatCombinaisons {
     std::array<std::int32_t, TailleCombMax + 1> NbTiragesComb{};  ///< 0: never computed
     std::array<std::int32_t, TailleCombMax + 1> BorneInf{};
     std::array<std::int32_t, TailleCombMax + 1> BorneSup{};
+    /// Sizes 6 to 10, which are read as current: the draw count that the file told where it was
+    /// another one. It is written back so that the list stays known as out of date.
+    std::array<std::optional<std::int32_t>, TailleCombMax + 1> NbTiragesPerime{};
 };
 
 /// Reads `repertoire`/COMBCALC.INI. A missing file is "never computed" for all sizes; a file cut
@@ -32,6 +36,7 @@ struct EtatCombinaisons {
 Resultat<EtatCombinaisons> LireCombCalc(const std::filesystem::path& repertoire, int nbTirages);
 
 /// Writes the nine lines; a negative draw count, the mark of a stale size, is written as 0.
+/// NbTiragesPerime is written in the place of NbTiragesComb where it is set.
 Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat,
                               const std::filesystem::path& repertoire);
 

@@ -37,13 +37,15 @@ ExtremesGrandeTaille ChercherExtremesGrandeTaille(std::span<const Tirage> tirage
 
 /// How many combinations of `taille` (6..10) numbers hold between `inf` and `sup` draws
 /// (inclusive); exact where it ends early, else any value above `plafond` (the caller refuses those
-/// anyway).
+/// anyway). Uses all cores. Void when stopped.
 std::uint64_t CompterBornesGrandeTaille(std::span<const Tirage> tirages, int taille, int inf,
                                         int sup, std::uint64_t plafond, std::stop_token arret);
 
 /// Gives each of them in lexicographic order with the ascending zero-based places (in `tirages`) of
-/// the draws it holds. `recevoir` is called from one thread; it answers false to stop early.
-/// False when stopped.
+/// the draws it holds. `recevoir` is called from the calling thread; it answers false to stop
+/// early. From inf = 1 on, all of them are found first (the first half of `avance`), eight bytes
+/// each, and freed as they are given; with inf = 0 nothing is kept. False when stopped in either
+/// way.
 bool ListerBornesGrandeTaille(
     std::span<const Tirage> tirages, int taille, int inf, int sup, unsigned threads,
     std::stop_token arret, const std::function<void(int)>& avance,

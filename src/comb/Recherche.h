@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The searches for extremes as plain functions, for the workers and for whoever is on one already.
+#pragma once
+
+#include <memory>
+#include <mutex>
+#include <stop_token>
+#include <vector>
+
+#include "comb/GrandesTailles.h"
+#include "comb/VaroFonc2.h"
+
+namespace norvane {
+
+/// Runs the search for the extremes of `taille` over the interval of the context into `puits`.
+/// `lignes`: text lines and the maximum alone; otherwise records, and the minimum as well for sizes
+/// 2 and 3.
+Extremes ChercherExtremes(const ContexteComb& contexte, int taille, bool lignes, Puits& puits,
+                          const std::stop_token& arret);
+
+/// The records of the interval.
+inline std::span<const Tirage> TiragesIntervalle(const ContexteComb& c) {
+    return c.base.enUsage().subspan(static_cast<std::size_t>(c.IntervalleInf - 1),
+                                    static_cast<std::size_t>(c.taille()));
+}
+
+inline Masque MasqueNumero(int n) {
+    return Masque{1} << (n - 1);
+}
+
+/// The numbers of each record of the interval as a set.
+std::vector<Masque> MasquesIntervalle(const ContexteComb& contexte);
+
+/// Tells whether a draw counts for a combination: it holds all of its numbers, or lies in it from
+/// size 6 on.
+inline bool Compte(Masque tirage, Masque combinaison, int taille) {
+    return taille <= NbBoules ? (tirage & combinaison) == combinaison
+                              : (tirage & combinaison) == tirage;
+}
+
+/// The numbers of a set, ascending.
+std::vector<Mot> NumerosMasque(Masque masque);
+
+/// The gauge told from several threads: to the sink one call at a time, never backwards. Copies
+/// share one state.
+class JaugePartagee {
+ public:
+    explicit JaugePartagee(Puits& puits) : etat_(std::make_shared<Etat>(puits)) {}
+    void operator()(int valeur) const {
+        const std::lock_guard garde(etat_->verrou);
+        if (valeur <= etat_->derniere) return;
+        etat_->derniere = valeur;
+        etat_->puits.SetProgress(valeur);
+    }
+
+ private:
+    struct Etat {
+        explicit Etat(Puits& p) : puits(p) {}
+        Puits& puits;
+        std::mutex verrou;
+        int derniere = -1;
+    };
+    std::shared_ptr<Etat> etat_;
+};
+
+unsigned NombreFils(const ContexteComb& contexte);
+
+}  // namespace norvane

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "comb/StatsCombinaison.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/Dates.h"
+#include "base/Textes.h"
+#include "stats/TableauStats.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr const char* JamaisSorti = "Jamais sorti ";
+
+using ListesParRang = std::array<ListeOccurrences, NbBoules + 1>;
+
+/// The draws of the interval by how many numbers of the combination they hold: one cursor in the
+/// list of each number, all moved along with the draws.
+ListesParRang TrierParRang(const Occurrences& occ, std::span<const Mot> numeros, int inf, int sup) {
+    struct Curseur {
+        ListeOccurrences::const_iterator ici, fin;
+    };
+    std::vector<Curseur> curseurs;
+    for (const Mot n : numeros) {
+        const auto& liste = occ.ListeNumeros[n - std::size_t{1}];
+        curseurs.push_back({std::lower_bound(liste.begin(), liste.end(), inf - 1), liste.end()});
+    }
+    ListesParRang listes;
+    for (int d = inf - 1; d < sup; ++d) {
+        std::size_t bons = 0;
+        for (Curseur& c : curseurs)
+            if (c.ici != c.fin && *c.ici == d) {
+                ++bons;
+                ++c.ici;
+            }
+        listes[bons].push_back(static_cast<Occurrence>(d));
+    }
+    return listes;
+}
+
+LigneStatsCombinaison FaireLigne(const Base& base, const ListeOccurrences& liste, int bons, int inf,
+                                 int sup) {
+    const ResultatStats r = StatsIntervalle(liste, inf - 1, sup - 1);
+    const auto nbFois = static_cast<int>(liste.size());
+    const double pourcentage = 100.0 * nbFois / (sup - inf + 1);
+    const int date = liste.empty() ? 0 : base.Tirages[liste.back()].DateTirage;
+    return {.bons = bons,
+            .NbFois = nbFois,
+            .date = date,
+            .resultat = r,
+            .ratioGraphique = static_cast<int>(std::floor(100 * pourcentage + 0.5)),
+            .cellules = {fmt::to_string(bons), fmt::to_string(nbFois),
+                         FormaterDecimal(pourcentage, 2) + "% ",
+                         date == 0 ? JamaisSorti : DateLongue(date), fmt::to_string(r.Ecart),
+                         CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, sup),
+                         fmt::to_string(r.Suite),
+                         CelluleMaximum(r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, sup)}};
+}
+
+}  // namespace
+
+std::vector<LigneStatsCombinaison> StatsCombinaison(const Base& base, const Occurrences& occ,
+                                                    std::span<const Mot> numeros, int inf,
+                                                    int sup) {
+    const ListesParRang listes = TrierParRang(occ, numeros, inf, sup);
+    std::vector<LigneStatsCombinaison> lignes;
+    for (int bons = BonsPremierRang(static_cast<int>(numeros.size())); bons >= 0; --bons)
+        lignes.push_back(FaireLigne(base, listes[static_cast<std::size_t>(bons)], bons, inf, sup));
+    return lignes;
+}
+
+std::string LibelleCombinaison(std::span<const Mot> numeros) {
+    std::string libelle = fmt::format("Combinaison à {} numéros:", numeros.size());
+    for (const Mot n : numeros) libelle += fmt::format(" {:02}", n);
+    return libelle;
+}
+
+}  // namespace norvane

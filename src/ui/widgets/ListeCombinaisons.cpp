@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/ListeCombinaisons.h"
+
+#include <algorithm>
+#include <QPainter>
+#include <QScrollBar>
+
+#include "shell/Theme.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int Marge = 2 * Unite;  // left and right of the text of a line
+constexpr int Cadre = 3;          // pen of the selected line, in pixels
+}  // namespace
+
+// ------------------------------------------------------------------------------------------ model
+
+ModeleCombinaisons::ModeleCombinaisons(const EtatCombinaisons& etat, QObject* parent)
+    : QAbstractListModel(parent), etat_(etat) {}
+
+void ModeleCombinaisons::montrer(const std::vector<std::string>* lignes, const Arene* liste) {
+    beginResetModel();
+    lignes_ = lignes;
+    liste_ = liste;
+    const std::size_t nombre =
+        lignes != nullptr ? lignes->size() : (liste != nullptr ? liste->nombre() : 0);
+    nombre_ = static_cast<int>(std::min(nombre, CapaciteListe));
+    endResetModel();
+}
+
+void ModeleCombinaisons::montrerRien() {
+    montrer(nullptr, nullptr);
+}
+
+void ModeleCombinaisons::montrerLignes(const std::vector<std::string>& lignes) {
+    montrer(&lignes, nullptr);
+}
+
+void ModeleCombinaisons::montrerListe(const Arene& liste) {
+    montrer(nullptr, &liste);
+}
+
+void ModeleCombinaisons::poserCouleurs(bool couleurs) {
+    couleurs_ = couleurs;
+    if (nombre_ > 0) Q_EMIT dataChanged(index(0), index(nombre_ - 1), {RoleBorne});
+}
+
+std::string ModeleCombinaisons::texte(int ligne) const {
+    // The owner may have changed its list since the last showing.
+    const auto i = static_cast<std::size_t>(ligne);
+    if (lignes_ != nullptr) return i < lignes_->size() ? (*lignes_)[i] : std::string();
+    if (liste_ == nullptr || i >= liste_->nombre()) return {};
+    return LigneEnregistrement((*liste_)[i], liste_->disposition);
+}
+
+int ModeleCombinaisons::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : nombre_;
+}
+
+QVariant ModeleCombinaisons::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    switch (role) {
+        case Qt::DisplayRole:
+            return QString::fromStdString(texte(index.row()));
+        case RoleBorne:
+            return static_cast<int>(couleurs_ ? borne(texte(index.row())) : BorneLigne::Aucune);
+        default:
+            return {};
+    }
+}
+
+BorneLigne ModeleCombinaisons::borne(const std::string& ligne) const {
+    const auto lue = LireLigneCombinaison(ligne);
+    if (!lue || lue->marque) return BorneLigne::Aucune;
+    const std::size_t n = lue->numeros.size();
+    if (lue->nbFois == etat_.BorneSup[n]) return BorneLigne::Sup;
+    return lue->nbFois == etat_.BorneInf[n] ? BorneLigne::Inf : BorneLigne::Aucune;
+}
+
+// --------------------------------------------------------------------------------------- delegate
+
+QColor DelegueCombinaisons::encre(BorneLigne borne, bool choisie, const QPalette& palette) {
+    const Teintes t = teintes(palette);
+    switch (borne) {
+        case BorneLigne::Sup:
+            return choisie ? QColor(CouleurLigneSup) : t.ligneSup;
+        case BorneLigne::Inf:
+            return choisie ? QColor(CouleurLigneInf) : t.ligneInf;
+        case BorneLigne::Aucune:
+            break;
+    }
+    return choisie ? QColor(Qt::black) : palette.color(QPalette::Text);
+}
+
+void DelegueCombinaisons::paint(QPainter* peintre, const QStyleOptionViewItem& option,
+                                const QModelIndex& index) const {
+    QPainter& p = *peintre;
+    const bool choisie = option.state.testFlag(QStyle::State_Selected);
+    p.save();
+    if (choisie) {
+        p.fillRect(option.rect, Qt::black);
+        p.fillRect(option.rect.adjusted(Cadre, Cadre, -Cadre, -Cadre), QColor(CouleurLigneChoisie));
+    } else {
+        p.fillRect(option.rect, option.palette.color(QPalette::Base));
+    }
+    const auto borne = static_cast<BorneLigne>(index.data(ModeleCombinaisons::RoleBorne).toInt());
+    p.setFont(option.font);
+    p.setPen(encre(borne, choisie, option.palette));
+    p.drawText(option.rect.adjusted(Marge, 0, -Marge, 0),
+               int{Qt::AlignVCenter} | int{Qt::AlignLeft} | int{Qt::TextSingleLine},
+               index.data(Qt::DisplayRole).toString());
+    p.restore();
+}
+
+QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return {0, option.fontMetrics.height() + 2 * Cadre};
+}
+
+// ------------------------------------------------------------------------------------------- view
+
+ListeCombinaisons::ListeCombinaisons(const QString& nom, const EtatCombinaisons& etat,
+                                     QWidget* parent)
+    : QListView(parent), modele_(new ModeleCombinaisons(etat, this)) {
+    setObjectName(nom);
+    setModel(modele_);
+    setItemDelegate(new DelegueCombinaisons(this));
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+int ListeCombinaisons::largeurLigne() const {
+    return fontMetrics().horizontalAdvance(u"00 00 00 00 00 00 00 00 00 00  (0000) N"_s) +
+           2 * Marge + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+}
+
+void ListeCombinaisons::poserInvite(const QString& invite) {
+    invite_ = invite;
+    viewport()->update();
+}
+
+void ListeCombinaisons::paintEvent(QPaintEvent* evenement) {
+    QListView::paintEvent(evenement);
+    if (modele_->rowCount() > 0 || invite_.isEmpty()) return;
+    QPainter p(viewport());
+    p.setPen(teintes(palette()).discret);
+    p.drawText(viewport()->rect().adjusted(3 * Unite, 3 * Unite, -3 * Unite, -3 * Unite),
+               int{Qt::AlignCenter} | int{Qt::TextWordWrap}, invite_);
+}
+
+void ListeCombinaisons::currentChanged(const QModelIndex& actuel, const QModelIndex& ancien) {
+    QListView::currentChanged(actuel, ancien);
+    if (actuel.isValid()) Q_EMIT ligneChoisie(actuel.row());
+}
+
+}  // namespace norvane::ui

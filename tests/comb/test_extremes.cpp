@@ -1,0 +1,225 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "base/BaseIntegree.h"
+#include "comb/LigneCombinaison.h"
+#include "comb/Reduction.h"
+#include "OracleComb.h"
+
+namespace norvane {
+namespace {
+
+struct Resultat2 {
+    Extremes extremes;
+    Collecte brut;
+    std::vector<std::string> lignes;
+};
+
+Resultat2 Chercher(const Etabli& e, int taille, bool series = false) {
+    Resultat2 r;
+    const auto fil =
+        CreerRechercheExtremes(e.contexte(ModeStockage::PremierRang, series), r.brut, taille);
+    Mener(fil);
+    EXPECT_EQ(fil->erreur(), "");
+    r.extremes = fil->resultat();
+    EXPECT_TRUE(r.extremes.complet);
+    Collecte copie = r.brut;
+    r.lignes = ReduireExtremes(copie, taille, r.extremes);
+    return r;
+}
+
+std::string Ligne(const Numeros& c, int n) {
+    const std::vector<Mot> mots(c.begin(), c.end());
+    return LigneCombinaison(mots, n);
+}
+
+/// What the definition asks for: the largest count, the smallest where `minimum`, and the lines.
+struct Attendu {
+    int inf = 0, sup = 0;
+    std::vector<std::string> lignes;
+};
+template <typename Comptes>  // (numbers, count), in order
+Attendu Attendre(const Comptes& comptes, bool minimum) {
+    Attendu a;
+    if (minimum) a.inf = comptes.begin()->second;
+    for (const auto& [c, n] : comptes) {
+        a.sup = std::max(a.sup, n);
+        if (minimum) a.inf = std::min(a.inf, n);
+    }
+    for (const auto& [c, n] : comptes)
+        if (n == a.sup || (minimum && n == a.inf)) a.lignes.push_back(Ligne(c, n));
+    return a;
+}
+
+std::vector<std::pair<Numeros, int>> Comptes(const Etabli& e, const std::set<Numeros>& choix) {
+    std::vector<std::pair<Numeros, int>> comptes;
+    for (const auto& c : choix)
+        comptes.emplace_back(c,
+                             CompterSorties(e.base, c, e.occ.IntervalleInf, e.occ.IntervalleSup));
+    return comptes;
+}
+
+void Comparer(const Resultat2& r, const Attendu& a) {
+    EXPECT_EQ(r.extremes.BorneInf, a.inf);
+    EXPECT_EQ(r.extremes.BorneSup, a.sup);
+    EXPECT_EQ(r.extremes.nombre, a.lignes.size());
+    EXPECT_EQ(r.lignes, a.lignes);
+}
+
+TEST(Extremes, SmallBasesBySizeAndInterval) {
+    std::mt19937 hasard(11);
+    Etabli e(BaseAleatoire(hasard, 420, 17));
+    for (const auto& [inf, sup] : {std::pair{1, 250}, {100, 350}, {5, 5}, {170, 420}})
+        for (int taille = 2; taille <= 3; ++taille) {
+            SCOPED_TRACE(testing::Message() << taille << ": " << inf << ".." << sup);
+            e.intervalle(inf, sup);
+            const bool minimum = taille == 2 && sup - inf + 1 > 250;
+            const auto r = Chercher(e, taille);
+            EXPECT_EQ(r.brut.mots.empty(), !minimum);
+            EXPECT_EQ(r.brut.lignes.empty(), minimum);
+            Comparer(r, Attendre(Comptes(e, Choix({}, TousLesNumeros(), taille)), minimum));
+        }
+    for (int taille = 4; taille <= 5; ++taille) {
+        e.intervalle(1, 90);
+        Comparer(Chercher(e, taille),
+                 Attendre(Comptes(e, Choix({}, TousLesNumeros(17), taille)), false));
+    }
+}
+
+TEST(Extremes, SeriesOfEverySize) {
+    std::mt19937 hasard(12);
+    Etabli e(BaseAleatoire(hasard, 300, 12));
+    for (const int sup : {250, 251, 300})
+        for (int taille = 2; taille <= 10; ++taille) {
+            SCOPED_TRACE(testing::Message() << taille << ": 1.." << sup);
+            e.intervalle(1, sup);
+            const bool minimum = taille == 2 && sup > 250;
+            Comparer(Chercher(e, taille, true), Attendre(Comptes(e, Series(taille)), minimum));
+        }
+}
+
+/// The candidates in the order and number that the two running extremes ask for.
+std::vector<Mot> Emission(const Etabli& e, int depart) {
+    std::vector<Mot> mots;
+    int max = depart, min = 1000;
+    for (const auto& [c, n] : Comptes(e, Choix({}, TousLesNumeros(), 2))) {
+        const auto emettre = [&mots, &c = c, n = n] {
+            for (const int mot : {n, c[0], c[1]}) mots.push_back(static_cast<Mot>(mot));
+        };
+        if (n >= max) max = n, emettre();
+        if (n <= min) min = n, emettre();
+    }
+    return mots;
+}
+
+TEST(Extremes, CandidatesGoOutOnEveryTieAndTwiceWhenBoth) {
+    std::mt19937 hasard(13);
+    Etabli e(BaseAleatoire(hasard, 300, 49));
+    EXPECT_EQ(Chercher(e, 2).brut.mots, Emission(e, 0));
+    e.etat.BorneSup[2] = Chercher(e, 2).extremes.BorneSup;
+    EXPECT_EQ(Chercher(e, 2).brut.mots, Emission(e, e.etat.BorneSup[2]));
+
+    const Etabli pareils(
+        FaireBase(std::vector<Tirage>(251, {{1, 2, 3, 4, 5}, 1, 0, 2023001, 20230101, 1, 0})));
+    const auto r = Chercher(pareils, 2);
+    const std::vector<Mot> deuxFois = {251, 1, 2, 251, 1, 2};
+    EXPECT_EQ(std::vector<Mot>(r.brut.mots.begin(), r.brut.mots.begin() + 6), deuxFois);
+    EXPECT_EQ(r.lignes[0], "01 02  (251)");
+    EXPECT_EQ(r.lignes[1], "01 03  (251)");
+    EXPECT_EQ(r.extremes.nombre, 1176U);  // 10 at the top, all others at 0
+}
+
+TEST(Extremes, BoundLeftByAnotherBase) {
+    std::mt19937 hasard(14);
+    for (const int n : {200, 300}) {
+        Etabli e(BaseAleatoire(hasard, n, 30));
+        for (int taille = 2; taille <= 5; ++taille)
+            for (const bool series : {false, true}) {
+                e.etat = {};
+                const auto juste = Chercher(e, taille, series);
+                for (const int borne :
+                     {juste.extremes.BorneSup, juste.extremes.BorneSup + 1, 5000}) {
+                    e.etat.BorneSup[static_cast<std::size_t>(taille)] = borne;
+                    const auto r = Chercher(e, taille, series);
+                    EXPECT_EQ(r.lignes, juste.lignes);
+                    EXPECT_EQ(r.extremes.BorneInf, juste.extremes.BorneInf);
+                    EXPECT_EQ(r.extremes.BorneSup, juste.extremes.BorneSup);
+                }
+            }
+    }
+}
+
+/// Sorted lines at the extremes, from the table of all combinations that came out.
+Attendu ParTable(const Base& base, int taille, int sup, bool minimum) {
+    const auto table = TableDesComptes(base, taille, 1, sup);
+    std::map<Numeros, int> comptes;
+    if (minimum)
+        for (const auto& c : Choix({}, TousLesNumeros(), taille)) comptes[c] = 0;
+    for (const auto& [cle, n] : table) {
+        Numeros c;
+        for (auto reste = cle; reste != 0; reste /= 64)
+            c.insert(c.begin(), static_cast<int>(reste % 64));
+        comptes[c] = n;
+    }
+    return Attendre(comptes, minimum);
+}
+
+TEST(Extremes, FullBasesAgainstATable) {
+    Etabli e(BaseIntegree(true));
+    struct {
+        int taille, sup;
+    } const cas[] = {{2, 8072}, {3, 3000}, {3, 3001}, {3, 8072}, {4, 8072}, {5, 8072}, {5, 2000}};
+    for (const auto& c : cas) {
+        SCOPED_TRACE(testing::Message() << c.taille << " over " << c.sup);
+        e.intervalle(1, c.sup);
+        const auto r = Chercher(e, c.taille);
+        Comparer(r, ParTable(e.base, c.taille, c.sup, SuitMinimum(c.taille, c.sup)));
+        EXPECT_EQ(r.brut.mots.empty(), c.sup <= SeuilExtremes(c.taille));
+    }
+}
+
+TEST(Extremes, RecordsOfSizeFourAboveTenThousandDraws) {
+    std::mt19937 hasard(15);
+    Etabli e(BaseAleatoire(hasard, 10001, 49));
+    for (const int sup : {10000, 10001}) {
+        e.intervalle(1, sup);
+        const auto r = Chercher(e, 4);
+        Comparer(r, ParTable(e.base, 4, sup, false));
+        EXPECT_EQ(r.brut.mots.empty(), sup == 10000);
+    }
+}
+
+TEST(Fils, SuspendedStoppedAndFailing) {
+    struct Lent : TCombThread {
+        using TCombThread::TCombThread;
+        void Execute() override {
+            while (!Terminated()) std::this_thread::yield();
+            if (jeter) throw std::runtime_error("panne");
+        }
+        bool jeter = false;
+    };
+    PuitsMuet muet;
+    for (const bool jeter : {false, true}) {
+        PtrFil<Lent> fil(new Lent(muet));
+        std::atomic<int> fins = 0;
+        fil->jeter = jeter;
+        fil->OnTerminate = [&] { ++fins; };
+        fil->WaitFor();
+        EXPECT_EQ(fins, 0);
+        fil->Resume();
+        fil->Resume();
+        fil->Terminate();
+        fil->WaitFor();
+        EXPECT_EQ(fins, 1);
+        EXPECT_EQ(fil->erreur(),
+                  jeter ? "Le calcul s'est arrêté sur une erreur interne : panne." : "");
+    }
+    PtrFil<Lent> jete(new Lent(muet));
+    jete->Resume();  // stopped and waited for by its pointer
+}
+
+}  // namespace
+}  // namespace norvane

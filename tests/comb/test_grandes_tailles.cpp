@@ -1,0 +1,319 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <map>
+#include <thread>
+
+#include "base/BaseIntegree.h"
+#include "BasesEssai.h"
+#include "MarcheDeTirages.h"
+
+namespace norvane {
+namespace {
+
+using Tirages = std::span<const Tirage>;
+using Places = std::span<const std::uint16_t>;
+using Histogramme = std::map<int, std::uint64_t>;  // draws held -> combinations
+
+const Base& Integree() {
+    static const Base base = BaseIntegree(false);
+    return base;
+}
+
+std::uint64_t Combinaisons(int n, int k) {
+    return k == 0 ? 1
+                  : Combinaisons(n - 1, k - 1) * static_cast<std::uint64_t>(n) /
+                        static_cast<std::uint64_t>(k);
+}
+
+std::vector<Masque> Masques(Tirages tirages) {
+    std::vector<Masque> masques;
+    for (const Tirage& t : tirages) masques.push_back(MasqueTirage(t));
+    return masques;
+}
+
+std::vector<int> Numeros(Masque m) {
+    std::vector<int> numeros;
+    for (int n = 1; n <= NumeroMax; ++n)
+        if ((m >> (n - 1) & 1) != 0) numeros.push_back(n);
+    return numeros;
+}
+
+bool Avant(Masque a, Masque b) {
+    return Numeros(a) < Numeros(b);
+}
+
+ExtremesGrandeTaille Extremes(Tirages tirages, int taille, std::size_t capacite = 100000,
+                              unsigned threads = 2) {
+    return ChercherExtremesGrandeTaille(tirages, taille, capacite, threads, {}, {});
+}
+
+/// A list whose every line was looked at: the right size, after the one before, and its draws
+/// ascending, as many as allowed, each of them inside.
+struct Liste {
+    Histogramme histogramme;
+    std::vector<Masque> premiers;  // the lines with the most draws
+    std::vector<Masque> toutes;    // filled on request
+};
+
+Liste Lister(Tirages tirages, int taille, int inf, int sup, std::size_t garder = 0) {
+    const std::vector<Masque> masques = Masques(tirages);
+    Liste liste;
+    Masque precedent = 0;
+    int dernier = -1, maximum = 0, fautes = 0;
+    const auto recevoir = [&](Masque m, Places places) {
+        const auto compte = static_cast<int>(places.size());
+        fautes += std::popcount(m) != taille || m >> NumeroMax != 0 || compte < inf || compte > sup;
+        const Masque difference = m ^ precedent;
+        fautes += precedent != 0 && (difference & (~difference + 1) & precedent) == 0;
+        for (std::size_t i = 0; i < places.size(); ++i)
+            fautes += (masques.at(places[i]) & ~m) != 0 || (i > 0 && places[i] <= places[i - 1]);
+        precedent = m;
+        ++liste.histogramme[compte];
+        if (compte > maximum) liste.premiers.clear();
+        maximum = std::max(maximum, compte);
+        if (compte == maximum) liste.premiers.push_back(m);
+        if (liste.toutes.size() < garder) liste.toutes.push_back(m);
+        return garder == 0 || liste.toutes.size() < garder;
+    };
+    const auto avance = [&](int pourcent) {
+        fautes += pourcent < 0 || pourcent > 100;
+        dernier = pourcent;
+    };
+    const bool entiere =
+        ListerBornesGrandeTaille(tirages, taille, inf, sup, 1, {}, avance, recevoir);
+    EXPECT_EQ(fautes, 0) << taille << " [" << inf << ", " << sup << "]";
+    EXPECT_EQ(entiere, garder == 0 || liste.toutes.size() < garder);
+    if (entiere && !liste.histogramme.empty() && inf > 0) {
+        EXPECT_EQ(dernier, 100);
+    }
+    return liste;
+}
+
+/// Every combination of a base that uses the numbers 1 to `utiles` only: each choice among those,
+/// as often as the other numbers can fill it up.
+Histogramme ForceBrute(Tirages tirages, int taille, int utiles) {
+    const std::vector<Masque> masques = Masques(tirages);
+    Histogramme histogramme;
+    for (Masque m = 0; m < Masque{1} << utiles; ++m) {
+        const int reste = taille - std::popcount(m);
+        if (reste < 0) continue;
+        int compte = 0;
+        for (const Masque t : masques) compte += (t & ~m) == 0;
+        histogramme[compte] += Combinaisons(NumeroMax - utiles, reste);
+    }
+    return histogramme;
+}
+
+std::uint64_t Total(const Histogramme& h, int inf, int sup) {
+    std::uint64_t total = 0;
+    for (const auto& [compte, nombre] : h)
+        if (compte >= inf && compte <= sup) total += nombre;
+    return total;
+}
+
+/// Both functions and the count against the histogram of a base, for all bounds that give a list
+/// of bearable length.
+void Comparer(Tirages tirages, int taille, const Histogramme& h) {
+    SCOPED_TRACE(std::to_string(tirages.size()) + " draws, size " + std::to_string(taille));
+    const int maximum = h.rbegin()->first;
+    const ExtremesGrandeTaille e = Extremes(tirages, taille, 20000);
+    EXPECT_EQ(e.maximum, maximum);
+    EXPECT_EQ(e.nombre, h.rbegin()->second);
+    EXPECT_EQ(e.combinaisons.size(), std::min<std::uint64_t>(e.nombre, 20000));
+    for (const int inf : {0, 1, 2, maximum / 2, maximum - 1, maximum, maximum + 1})
+        for (const int sup : {inf, inf + 2, maximum}) {
+            const std::uint64_t total = Total(h, inf, sup);
+            if (Total(h, std::max(inf, 1), maximum) > 300000) continue;
+            EXPECT_EQ(CompterBornesGrandeTaille(tirages, taille, inf, sup, ~0ULL, {}), total);
+            if (total > 0) {
+                EXPECT_GT(CompterBornesGrandeTaille(tirages, taille, inf, sup, total - 1, {}),
+                          total - 1);
+            }
+            if (inf == 0 || total > 30000) continue;
+            const Liste liste = Lister(tirages, taille, inf, sup);
+            EXPECT_EQ(Total(liste.histogramme, inf, sup), total);
+            if (inf == maximum && e.combinaisons.size() == total) {
+                EXPECT_EQ(liste.premiers, e.combinaisons);
+            }
+        }
+}
+
+TEST(GrandesTailles, BasesConstruitesContreForceBrute) {
+    std::mt19937 hasard(7);
+    struct Cas {
+        int tirages, utiles;
+    };
+    for (const Cas cas : {Cas{1, 9}, Cas{2, 12}, Cas{3, 13}, Cas{9, 12}, Cas{25, 13}, Cas{60, 10},
+                          Cas{150, 12}, Cas{400, 11}}) {
+        const Base base = BaseAleatoire(hasard, cas.tirages, cas.utiles);
+        for (int taille = 6; taille <= 10; ++taille) {
+            const Histogramme h = ForceBrute(base.enUsage(), taille, cas.utiles);
+            Comparer(base.enUsage(), taille, h);
+        }
+    }
+}
+
+TEST(GrandesTailles, TiragesIdentiques) {
+    std::mt19937 hasard(3);
+    std::vector<Tirage> tirages = BaseAleatoire(hasard, 12, 11).Tirages;
+    for (int copie = 0; copie < 5; ++copie) tirages.push_back(tirages[4]);
+    for (int copie = 0; copie < 3; ++copie) tirages.insert(tirages.begin(), tirages.back());
+    for (const int taille : {6, 8, 10}) Comparer(tirages, taille, ForceBrute(tirages, taille, 11));
+}
+
+TEST(GrandesTailles, SansTirageEtUnSeul) {
+    const Tirages unSeul = Integree().enUsage().first(1);
+    for (int taille = 6; taille <= 10; ++taille) {
+        for (const Tirages tirages : {Tirages(), unSeul}) {
+            const auto e = Extremes(tirages, taille, 500);
+            const bool un = !tirages.empty();
+            EXPECT_EQ(e.maximum, un ? 1 : 0);
+            EXPECT_EQ(e.nombre, un ? Combinaisons(44, taille - 5) : Combinaisons(49, taille));
+            // The first lines of the list by bounds are the same ones.
+            const auto garder = std::min<std::uint64_t>(e.nombre, 500);
+            EXPECT_EQ(e.combinaisons, Lister(tirages, taille, e.maximum, e.maximum, garder).toutes);
+        }
+        EXPECT_TRUE(Extremes(unSeul, taille, 0).combinaisons.empty());
+        EXPECT_TRUE(Lister(unSeul, taille, 2, 9).histogramme.empty());
+        EXPECT_TRUE(Lister(unSeul, taille, 3, 2).histogramme.empty());
+        EXPECT_EQ(CompterBornesGrandeTaille(unSeul, taille, INT_MAX, INT_MAX, 9, {}), 0);
+        EXPECT_EQ(CompterBornesGrandeTaille(unSeul, taille, 0, 0, ~0ULL, {}),
+                  Combinaisons(49, taille) - Combinaisons(44, taille - 5));
+    }
+}
+
+TEST(GrandesTailles, BorneNulleDansLOrdre) {
+    std::mt19937 hasard(5);
+    const Base base = BaseAleatoire(hasard, 90, 12);
+    const std::vector<Masque> masques = Masques(base.enUsage());
+    for (const auto& [taille, sup] : {std::pair{6, 0}, {6, 1}, {7, 2}, {8, 9}, {10, 0}}) {
+        std::vector<Masque> attendues;
+        const auto chercher = [&](const auto& self, Masque m, int premier, int reste) -> void {
+            int compte = 0;
+            for (const Masque t : masques) compte += (t & ~m) == 0;
+            if (compte > sup || attendues.size() == 5000) return;
+            if (reste == 0) return attendues.push_back(m);
+            for (int y = premier; y < NumeroMax; ++y)
+                self(self, m | Masque{1} << y, y + 1, reste - 1);
+        };
+        chercher(chercher, 0, 0, taille);
+        EXPECT_EQ(Lister(base.enUsage(), taille, 0, sup, 5000).toutes, attendues);
+    }
+}
+
+TEST(GrandesTailles, BaseEntiereContreFormules) {
+    // Each pair of draws lies in as many combinations as its union leaves room for. All pairs of
+    // the draws of all lines are pairs inside: equal sums mean that no line and no draw is missing.
+    struct Cas {
+        int taille, tirages;
+    };
+    for (const auto& [taille, tirages] :
+         {Cas{6, 3214}, Cas{7, 3214}, Cas{8, 1500}, Cas{9, 250}, Cas{10, 90}}) {
+        SCOPED_TRACE(taille);
+        const Tirages fin = Integree().enUsage().last(static_cast<std::size_t>(tirages));
+        const std::vector<Masque> masques = Masques(fin);
+        std::uint64_t paires = 0, trouvees = 0;
+        for (std::size_t i = 0; i < masques.size(); ++i)
+            for (std::size_t j = 0; j < i; ++j) {
+                const int reunis = std::popcount(masques[i] | masques[j]);
+                if (reunis <= taille) paires += Combinaisons(49 - reunis, taille - reunis);
+            }
+        const Liste liste = Lister(fin, taille, 2, tirages);
+        for (const auto& [compte, nombre] : liste.histogramme)
+            trouvees += nombre * Combinaisons(compte, 2);
+        EXPECT_EQ(trouvees, paires);
+        const auto e = Extremes(fin, taille);
+        EXPECT_EQ(e.maximum, liste.histogramme.rbegin()->first);
+        EXPECT_EQ(e.combinaisons, liste.premiers);
+    }
+    const Liste une = Lister(Integree().enUsage(), 6, 1, 99);
+    std::uint64_t tirages = 0;
+    for (const auto& [compte, nombre] : une.histogramme)
+        tirages += nombre * static_cast<std::uint64_t>(compte);
+    EXPECT_EQ(tirages, Combinaisons(44, 1) * 3214);
+}
+
+TEST(GrandesTailles, ExtremesContreMarcheDeTirages) {
+    std::mt19937 hasard(11);
+    const Tirages tous = Integree().enUsage();
+    const auto comparer = [&](Tirages tirages, int taille) {
+        const MarcheDeTirages marche(tirages, taille);
+        std::vector<Masque> attendues = marche.combinaisons();
+        std::sort(attendues.begin(), attendues.end(), Avant);
+        const auto e = Extremes(tirages, taille);
+        EXPECT_EQ(e.maximum, marche.maximum()) << taille << ", " << tirages.size() << " draws";
+        EXPECT_EQ(e.nombre, attendues.size());
+        EXPECT_EQ(e.combinaisons, attendues);
+    };
+    for (int taille = 6; taille <= 8; ++taille) comparer(tous, taille);
+    comparer(tous.last(600), 9);
+    comparer(tous.last(300), 10);
+    for (int essai = 0; essai < 30; ++essai) {
+        const std::size_t debut = hasard() % tous.size();
+        const std::size_t longueur = std::min<std::size_t>(1 + hasard() % 200, tous.size() - debut);
+        comparer(tous.subspan(debut, longueur), essai % 2 == 0 ? 6 : 7 + essai % 4);
+    }
+}
+
+TEST(GrandesTailles, MemeResultatQuelQueSoitLeNombreDeThreads) {
+    const Tirages tirages = Integree().enUsage().last(700);
+    for (int taille = 6; taille <= 10; ++taille) {
+        const auto seul = Extremes(tirages, taille, 20, 1);
+        ASSERT_TRUE(std::is_sorted(seul.combinaisons.begin(), seul.combinaisons.end(), Avant));
+        const auto lister = [&](unsigned threads) {
+            std::vector<std::uint64_t> suite;
+            ListerBornesGrandeTaille(tirages, taille, seul.maximum - 1, 99, threads, {}, {},
+                                     [&](Masque m, Places places) {
+                                         suite.push_back(m);
+                                         suite.insert(suite.end(), places.begin(), places.end());
+                                         return true;
+                                     });
+            return suite;
+        };
+        const auto suite = taille < 9 ? lister(1) : std::vector<std::uint64_t>();
+        for (const unsigned threads : {2U, 3U, 8U}) {
+            const auto e = Extremes(tirages, taille, 20, threads);
+            EXPECT_EQ(e.maximum, seul.maximum);
+            EXPECT_EQ(e.nombre, seul.nombre);
+            EXPECT_EQ(e.combinaisons, seul.combinaisons);
+            if (taille < 9) {
+                EXPECT_EQ(lister(threads), suite);
+            }
+        }
+    }
+}
+
+TEST(GrandesTailles, Arret) {
+    const Tirages tirages = Integree().enUsage();
+    // One draw in ten numbers: three thousand million lines that nobody waits for.
+    for (const auto& [taille, inf, pourcent] :
+         {std::tuple{10, 1, -1}, {10, 1, 0}, {8, 4, 17}, {8, 4, 40}, {7, 2, 75}}) {
+        SCOPED_TRACE(pourcent);
+        std::stop_source source;
+        int recus = 0;
+        const auto avance = [&, limite = pourcent](int p) {
+            if (p >= limite) source.request_stop();
+        };
+        if (pourcent < 0) source.request_stop();
+        EXPECT_FALSE(ListerBornesGrandeTaille(tirages, taille, inf, 99, 2, source.get_token(),
+                                              avance, [&](Masque, Places) { return ++recus > 0; }));
+        EXPECT_EQ(recus > 0, pourcent > 50);
+        source = {};
+        if (pourcent < 0) source.request_stop();
+        EXPECT_TRUE(ChercherExtremesGrandeTaille(tirages, taille, 10, 2, source.get_token(), avance)
+                        .interrompu);
+    }
+    std::stop_source source;
+    const std::jthread plusTard([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        source.request_stop();
+    });
+    // All lines would take minutes to count.
+    EXPECT_LT(CompterBornesGrandeTaille(tirages, 10, 1, 99, ~0ULL, source.get_token()), 1000000000);
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <numeric>
+#include <random>
+
+#include "base/BaseIntegree.h"
+#include "SeptTirages.h"
+#include "tickets/Bilan.h"
+
+namespace norvane {
+namespace {
+
+/// `nombre` tickets of random types, every third with the option.
+std::vector<Grille> GrillesAleatoires(std::size_t nombre) {
+    std::mt19937 hasard(20240724);
+    std::vector<int> numeros(NumeroMax), chances(ChanceMax);
+    std::iota(numeros.begin(), numeros.end(), 1);
+    std::iota(chances.begin(), chances.end(), 1);
+    std::vector<Grille> grilles;
+    while (grilles.size() < nombre) {
+        const TypeGrille type = TypesVendus[hasard() % TypesVendus.size()];
+        std::shuffle(numeros.begin(), numeros.end(), hasard);
+        std::shuffle(chances.begin(), chances.end(), hasard);
+        grilles.push_back(FaireGrille({numeros.data(), static_cast<std::size_t>(type.n)},
+                                      {chances.data(), static_cast<std::size_t>(type.c)},
+                                      grilles.size() % 3 == 0));
+    }
+    return grilles;
+}
+
+/// The definition: record by record, the wins that the prize rules tell.
+BilanGrille BilanLent(const Base& base, int premier, int dernier, const Grille& grille) {
+    BilanGrille bilan;
+    const auto ajouter = [](const auto& comptes, const RapportsTirage& rapports, auto& cumuls) {
+        for (std::size_t rang = 0; rang < comptes.size(); ++rang) {
+            cumuls[rang].fois += comptes[rang];
+            cumuls[rang].gain += comptes[rang] * rapports[rang].Gain;
+        }
+    };
+    for (auto i = static_cast<std::size_t>(premier - 1); i < static_cast<std::size_t>(dernier);
+         ++i) {
+        const Tirage& tirage = base.Tirages[i];
+        if (tirage.DateTirage >= 20191104 && tirage.SousTirage == 2) {
+            ajouter(Rangs2ndGagnes(grille, tirage), base.Rapports[i], bilan.Bilan2nd);
+        } else {
+            ajouter(RangsGagnes(grille, tirage), base.Rapports[i], bilan.BilanRangs);
+        }
+    }
+    return bilan;
+}
+
+const Grille NeufNumeros = {378, 9, 1, 7, 12, 23, 40, 2, 3, 4, 6, 1, 9};  // with the option
+const Grille Gagnante = {2.2, 5, 7, 12, 23, 34, 45, 1, 5};
+
+// The reports were written by hand from the rules, record by record of SeptTirages.
+TEST(Bilan, WholeReports) {
+    const Base base = SeptTirages();
+    struct {
+        const char* rapport;
+        int premier, dernier;
+        std::vector<Grille> grilles;
+        Monnaie monnaie;
+    } const cas[] = {
+        // Every era; a ticket of many numbers with the option, a simple one without; sums at the
+        // end, which has no line end.
+        {"bilan", 1, 7, {NeufNumeros, Gagnante}, {}},
+        // Before any 2nd Tirage: no word of it, although the ticket has the option.
+        {"bilan-avant-2019", 1, 3, {NeufNumeros}, {}},
+        // One record, a 2nd Tirage: no nine ranks. One ticket: no sums. A symbol for the word.
+        {"bilan-second-dollar", 5, 5, {NeufNumeros}, {"$", 6.55957}},
+    };
+    for (const auto& c : cas)
+        EXPECT_EQ(RedigerBilan(base, c.premier, c.dernier, c.grilles, c.monnaie),
+                  Attendu(c.rapport))
+            << c.rapport;
+    EXPECT_EQ(RedigerBilan(base, 6, 6, {}, {}),
+              "Statistiques sur 1 tirage\nle mercredi 24 juillet 2024\n\n\n\n"
+              "BILAN DES GAINS (pour toutes les combinaisons et tous les rangs de gain) :\n\n");
+}
+
+TEST(Bilan, EveryTicketAgainstTheDefinition) {
+    const Base base = BaseIntegree(true);
+    std::vector<Grille> grilles = GrillesAleatoires(300);
+    // No tickets that are sold, but a list made by hand may hold them.
+    grilles.push_back({1, 4, 7, 12, 23, 34, 0});
+    grilles.push_back({5, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 2, 1, 2});
+    grilles.push_back({2.2, 5, 7, 7, 12, 12, 30, 1, 5});
+    grilles.push_back({4.4, 5, 7, 8, 12, 13, 30, 2, 5, 5});
+    grilles.push_back({0, 0, 0});
+    // Whole base, the two changes of the rules, around a word of sixty-four records, one record.
+    for (const auto& [premier, dernier] :
+         {std::pair{1, 8072}, {6000, 7000}, {7000, 7063}, {7000, 7064}, {8072, 8072}}) {
+        const auto bilans = CumulerGains(base, premier, dernier, grilles);
+        ASSERT_TRUE(bilans);
+        ASSERT_EQ(bilans->size(), grilles.size());
+        for (std::size_t k = 0; k < grilles.size(); ++k)
+            ASSERT_EQ((*bilans)[k], BilanLent(base, premier, dernier, grilles[k]))
+                << "ticket " << k << ", " << premier << ".." << dernier;
+    }
+}
+
+TEST(Bilan, SameTextForAnyNumberOfThreads) {
+    const Base base = BaseIntegree(false);
+    const auto grilles = GrillesAleatoires(333);
+    const auto rediger = [&](unsigned fils) {
+        return RedigerBilan(base, 1, base.NbTirages, grilles, {}, {{}, {}, fils});
+    };
+    const auto seul = rediger(1);
+    ASSERT_TRUE(seul);
+    for (const unsigned fils : {0U, 2U, 7U, 64U}) EXPECT_TRUE(rediger(fils) == seul) << fils;
+}
+
+TEST(Bilan, ProgressAndStop) {
+    const Base base = BaseIntegree(false);
+    const auto grilles = GrillesAleatoires(1000);
+    for (const unsigned fils : {1U, 3U}) {
+        std::vector<int> dits;
+        const auto noter = [&](int pourcent) { dits.push_back(pourcent); };
+        ASSERT_TRUE(RedigerBilan(base, 1, 3000, grilles, {}, {noter, {}, fils}));
+        EXPECT_TRUE(std::is_sorted(dits.begin(), dits.end()));
+        EXPECT_EQ(dits.back(), 100);
+        EXPECT_EQ(std::count(dits.begin(), dits.end(), 100), 1);
+        EXPECT_EQ(dits.front(), 0);
+
+        // Stopped from within: by a thread at work alone, before they start when there are more.
+        const int seuil = fils == 1 ? 30 : 0;
+        std::stop_source source;
+        dits.clear();
+        const auto arreter = [&](int pourcent) {
+            dits.push_back(pourcent);
+            if (pourcent >= seuil) source.request_stop();
+        };
+        EXPECT_FALSE(RedigerBilan(base, 1, 3000, grilles, {}, {arreter, source.get_token(), fils}));
+        EXPECT_LE(dits.back(), seuil + 1);
+        EXPECT_FALSE(CumulerGains(base, 1, 3000, grilles, {{}, source.get_token(), fils}));
+    }
+}
+
+}  // namespace
+}  // namespace norvane

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <map>
+#include <numeric>
+
+#include "base/BaseIntegree.h"
+#include "tickets/Rangs.h"
+
+namespace norvane {
+namespace {
+
+/// Calls `fait` with the good numbers of each simple grid of n numbers, the first g of them good.
+template <typename Fait>
+void ParGrilleSimple(int n, int g, Fait fait) {
+    for (unsigned choix = 0; choix < 1U << n; ++choix)
+        if (std::popcount(choix) == 5)
+            fait(static_cast<std::size_t>(std::popcount(choix & ((1U << g) - 1))));
+}
+
+ComptesRangs Enumerer(int n, int g, int c, int gc, bool depuis2017) {
+    constexpr std::array<std::size_t, 6> sansChance = {9, 9, 7, 5, 3, 1},
+                                         avecChance = {8, 8, 6, 4, 2, 0};
+    std::array<int, 10> comptes{};  // the last one for what wins nothing
+    ParGrilleSimple(n, g, [&](std::size_t k) {
+        for (int chance = 0; chance < c; ++chance) {
+            const bool bonne = chance < gc;
+            ++comptes[(bonne && (depuis2017 || k == 5) ? avecChance : sansChance)[k]];
+            if (bonne && !depuis2017 && k < 5) ++comptes[8];
+        }
+    });
+    ComptesRangs rangs;
+    std::copy_n(comptes.begin(), rangs.size(), rangs.begin());
+    return rangs;
+}
+
+TEST(Rangs, EveryRowAgainstTheSimpleGridsOfATicket) {
+    std::map<int, std::array<ComptesRangs, 2>> attendues;
+    for (const auto [n, c] : TypesVendus)
+        for (int g = 0; g <= 5; ++g)
+            for (int gc = c == 10 ? 1 : 0; gc <= 1; ++gc) {
+                const int cle = std::stoi(std::to_string(n) + std::to_string(g) +
+                                          std::to_string(c) + std::to_string(gc));
+                EXPECT_EQ(CleRang(n, g, c, gc), cle);
+                const auto ligne = Enumerer(n, g, c, gc, true);
+                if (ligne != ComptesRangs{}) attendues[cle] = {ligne, Enumerer(n, g, c, gc, false)};
+            }
+    ASSERT_EQ(attendues.size(), 312U);
+    ASSERT_EQ(TableRangs2017().size(), 312U);
+    ASSERT_EQ(TableRangsAvant2017().size(), 312U);
+    std::size_t i = 0, differentes = 0;
+    for (const auto& [cle, lignes] : attendues) {
+        EXPECT_EQ(TableRangs2017()[i].cle, cle);
+        EXPECT_EQ(TableRangsAvant2017()[i++].cle, cle);
+        EXPECT_EQ(ChercherRangs(cle, 20170306), lignes[0]) << cle;
+        EXPECT_EQ(ChercherRangs(cle, 20170305), lignes[1]) << cle;
+        differentes += lignes[0] != lignes[1];
+    }
+    EXPECT_EQ(differentes, 118U);
+    for (const int cle : {0, 5010, 5110, 6601, 51100, 7291, 99999, -1})
+        EXPECT_FALSE(ChercherRangs(cle, 20240101)) << cle;
+}
+
+TEST(Rangs, EveryRowOfThe2ndTirage) {
+    EXPECT_EQ(TableRangs2nd().size(), 20U);
+    for (int n = 4; n <= 10; ++n)
+        for (int g = 0; g <= 5; ++g) {
+            ComptesRangs2nd comptes{};
+            ParGrilleSimple(n, g, [&](std::size_t k) {
+                if (k >= 2 && n < 10) ++comptes[5 - k];
+            });
+            EXPECT_EQ(ChercherRangs2nd(n, g).value_or(ComptesRangs2nd{}), comptes) << n << g;
+        }
+}
+
+TEST(Rangs, TicketsOnDraws) {
+    struct {
+        Grille grille;
+        int date;
+        ComptesRangs gagne;
+    } const cas[] = {
+        {{2.2, 5, 9, 10, 11, 12, 1, 1, 7}, 20200101, {0, 0, 0, 0, 0, 0, 0, 0, 1}},
+        {{2.2, 5, 9, 10, 11, 2, 1, 1, 6}, 20200101, {0, 0, 0, 0, 0, 0, 0, 1, 0}},
+        {{2.2, 5, 9, 10, 11, 12, 1, 1, 6}, 20200101, {}},
+        {{4.4, 5, 3, 10, 11, 2, 1, 2, 6, 7}, 20170306, {0, 0, 0, 0, 1, 1, 0, 0, 0}},
+        {{4.4, 5, 3, 10, 11, 2, 1, 2, 6, 7}, 20170305, {0, 0, 0, 0, 0, 2, 0, 0, 1}},
+        {{13.2, 6, 1, 2, 30, 31, 32, 33, 1, 7}, 20170306, {0, 0, 0, 0, 0, 0, 4, 0, 2}},
+        {{277.2, 9, 1, 2, 3, 4, 5, 6, 7, 8, 9, 1, 7}, 20200101, {1, 0, 20, 0, 60, 0, 40, 0, 5}},
+        // Written by hand: four numbers without a chance, or what no table knows.
+        {{1, 4, 4, 3, 2, 1, 0}, 20200101, {0, 0, 0, 1, 0, 0, 0, 0, 0}},
+        {{1, 4, 30, 31, 32, 1, 0}, 20200101, {}},
+        {{1, 4, 4, 3, 2, 1, 1, 7}, 20200101, {}},
+        {{0, 0, 0}, 20200101, {}},
+    };
+    for (const auto& c : cas)
+        EXPECT_EQ(RangsGagnes(c.grille, {{1, 2, 3, 4, 5}, 7, 0, 0, c.date, 1, JokerAbsent}),
+                  c.gagne)
+            << testing::PrintToString(c.grille) << c.date;
+
+    const Tirage second = {{1, 2, 3, 4, 5}, 0, 0, 0, 20200101, 2, JokerAbsent};
+    Grille grille = {31.2, 6, 1, 2, 3, 4, 5, 6, 2, 4, 9};
+    EXPECT_EQ(Rangs2ndGagnes(grille, second), (ComptesRangs2nd{1, 5, 0, 0}));
+    grille[0] = 26.4;
+    EXPECT_EQ(Rangs2ndGagnes(grille, second), ComptesRangs2nd{});
+}
+
+/// Euros that a ticket wins on record i.
+double Gain(const Base& base, std::size_t i, const Grille& grille) {
+    const auto somme = [&](const auto& comptes) {
+        return std::inner_product(comptes.begin(), comptes.end(), base.Rapports[i].begin(), 0.0,
+                                  std::plus<>(), [](int n, Rapport r) { return n * r.Gain; });
+    };
+    return EstSecondTirage(base.Tirages[i]) ? somme(Rangs2ndGagnes(grille, base.Tirages[i]))
+                                            : somme(RangsGagnes(grille, base.Tirages[i]));
+}
+
+// A ticket with a draw's own numbers, then with two of them replaced, on every published draw.
+TEST(Rangs, TheDrawsOwnNumbersWinThePublishedPrizes) {
+    const Base base = BaseIntegree(false);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(base.NbTirages); ++i) {
+        const Tirage& tirage = base.Tirages[i];
+        const bool second = EstSecondTirage(tirage);
+        const auto publie = [&](std::size_t rang) { return base.Rapports[i][rang].Gain; };
+        const int bonne[] = {second ? 1 : tirage.Chance}, fausse[] = {bonne[0] % 10 + 1};
+        std::vector<int> numeros(std::begin(tirage.Numeros), std::end(tirage.Numeros));
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, bonne, true)), publie(0)) << i;
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, fausse, true)), publie(second ? 0 : 1)) << i;
+
+        for (int n = 1; numeros.size() < 7; ++n)
+            if (std::ranges::count(numeros, n) == 0) numeros.push_back(n);
+        numeros.erase(numeros.begin(), numeros.begin() + 2);
+        const double trois = publie(second ? 2 : 5);
+        const double troisEtChance = second                         ? trois
+                                     : tirage.DateTirage < 20170306 ? trois + publie(8)
+                                                                    : publie(4);
+        EXPECT_GT(trois, 0) << i;
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, fausse, true)), trois) << i;
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, bonne, true)), troisEtChance) << i;
+    }
+}
+
+TEST(Rangs, NominalPrizes) {
+    const std::array<double, 6> g = {0, 0, 5, 20, 500, 100000};
+    for (int taille = 2; taille <= 10; ++taille)
+        for (std::size_t k = 0; k <= static_cast<std::size_t>(taille); ++k) {
+            double attendu = taille <= 5 ? g[k] : 0;
+            if (taille > 5 && k <= 5)
+                ParGrilleSimple(taille, static_cast<int>(k), [&](auto j) { attendu += g[j]; });
+            EXPECT_EQ(GainNominal(taille, static_cast<int>(k), {5, 20, 500, 100000}), attendu);
+        }
+}
+
+}  // namespace
+}  // namespace norvane

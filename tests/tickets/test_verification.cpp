@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "SeptTirages.h"
+#include "tickets/Verification.h"
+
+namespace norvane {
+namespace {
+
+const Monnaie Dollar = {"$", 6.55957};
+
+LigneJoker Joker(const char* chiffres, int code) {
+    LigneJoker ligne{{}, code};
+    for (std::size_t i = 0; i < ligne.chiffres.size(); ++i) ligne.chiffres[i] = chiffres[i] - '0';
+    return ligne;
+}
+
+const Grille DixChances = {132, 6, 7, 12, 23, 34, 45, 49, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+const Grille NeufNumeros = {378, 9, 1, 7, 12, 23, 40, 2, 3, 4, 6, 1, 9};  // with the option
+
+// The reports were written by hand from the rules, draw by draw of SeptTirages.
+struct Cas {
+    const char* rapport;
+    std::vector<int> numeros;  ///< draw numbers that must all give this report
+    std::vector<Grille> grilles;
+    std::vector<LigneJoker> jokers;
+    Monnaie monnaie;
+};
+
+std::vector<Cas> TousLesCas() {
+    // 3 good of 5 + the Chance of 2; 5 of 6 + the Chance of 10; one number alone, with an option
+    // that this draw does not know; four numbers without a chance; 4 of 9 + the Chance.
+    const std::vector<Grille> avant2019 = {{4.4, 5, 7, 12, 23, 1, 2, 2, 5, 6},
+                                           DixChances,
+                                           {3, 5, 45, 1, 2, 3, 4, 1, 9},
+                                           {1, 4, 7, 12, 23, 34, 0},
+                                           {277.2, 9, 7, 12, 23, 34, 1, 2, 3, 4, 5, 1, 5}};
+    return {
+        // No Chance and no prizes then: five good numbers win rank 2, of nothing. Numbers in the
+        // order of the ticket. Four numbers without a chance win a rank of nothing and are lost.
+        {"avant-2008",
+         {1},
+         {{3, 5, 44, 3, 25, 14, 31, 1, 7}, {2.2, 5, 1, 2, 4, 5, 6, 1, 7}, {1, 4, 3, 14, 25, 1, 0}},
+         {},
+         {}},
+        // The Chance pays the stake back beside the rank of the numbers.
+        {"2008-2017", {2}, avant2019, {}, {}},
+        // The Chance lifts the rank. A symbol in place of the word. Joker+: +OU-1 from the left
+        // with the right side given up, both ends without it, one digit.
+        {"2017-2019-dollar",
+         {3},
+         avant2019,
+         {Joker("0000000", 3), Joker("9000501", 1), Joker("9333333", 1)},
+         Dollar},
+        // Both draws, whichever of them was chosen: all nine ranks over the first two tickets, all
+        // four of the 2nd Tirage on the third, which counts its stake twice like the fourth. Every
+        // sentence of the Joker+, 1.5 told as 2, and a number that wins nothing.
+        {"deux-tirages",
+         {4, 5},
+         {DixChances,
+          {92.4, 7, 34, 7, 23, 46, 47, 48, 49, 2, 5, 9},
+          NeufNumeros,
+          {3, 5, 44, 46, 47, 48, 49, 1, 10}},
+         {Joker("1234567", 1), Joker("1234568", 3), Joker("1900000", 1), Joker("1900007", 2),
+          Joker("2900000", 3), Joker("1234500", 1), Joker("1334900", 4), Joker("0000007", 1),
+          Joker("9900008", 3), Joker("0000567", 2), Joker("9900077", 3), Joker("1234067", 1),
+          Joker("2934467", 3), Joker("5000000", 1)},
+         {}},
+        // Neither neighbour is of the date. Three times 2.2 as doubles is a little more than 6.6:
+        // a gain equal to the stake is told as a gain of 0,00.
+        {"premier-seul",
+         {6},
+         {{2.2, 5, 2, 3, 4, 5, 6, 1, 8},
+          {2.2, 5, 1, 3, 4, 5, 13, 1, 8},
+          {2.2, 5, 24, 25, 26, 27, 28, 1, 8}},
+         {},
+         {}},
+        // A single ticket; a Joker+ that wins its price back shows no figure.
+        {"second-seul", {7}, {{3, 5, 16, 5, 1, 2, 3, 1, 1}}, {Joker("7000000", 1)}, {}},
+    };
+}
+
+TEST(Verification, WholeReports) {
+    const Base base = SeptTirages();
+    for (const Cas& cas : TousLesCas())
+        for (const int numero : cas.numeros)
+            EXPECT_EQ(RedigerVerification(base, numero, cas.grilles, cas.jokers, cas.monnaie),
+                      Attendu(cas.rapport))
+                << cas.rapport << ", draw " << numero;
+}
+
+TEST(Verification, TotalsOfTheWriters) {
+    const Base base = SeptTirages();
+    const std::vector<Grille> grilles = {NeufNumeros};
+    std::ostringstream flux;
+    const auto un = VerifierTirage(base, grilles, 3, "", {}, flux);
+    EXPECT_DOUBLE_EQ(un.gain, 15 * 21.2 + 60 * 5.5);
+    EXPECT_EQ(un.mise, 378);
+    const auto deux = VerifierDeuxTirages(base, grilles, 4, "", {}, flux);
+    EXPECT_DOUBLE_EQ(deux.gain, 600 + 121320);
+    EXPECT_EQ(deux.mise, 756);
+}
+
+TEST(Verification, JokerLostOrNeverPublished) {
+    const auto verifier = [](const LigneJoker& ligne, std::int32_t joker, const Monnaie& monnaie) {
+        std::ostringstream flux;
+        EXPECT_EQ(VerifierJoker({&ligne, 1}, ChiffresJoker(joker), monnaie, flux), 0);
+        return flux.str();
+    };
+    EXPECT_EQ(verifier(Joker("7777777", 4), 1234560, {}),
+              "JOKER+ DU JOUR : 1 2 3 4 5 6 0 \nPerdu...\n"
+              "Gain= 0 Euros , Mise totale=4 Euros donc Perte=4 Euros (26,24 F)\n\n");
+    // A digit of 0 is no neighbour of one that was never drawn.
+    EXPECT_EQ(verifier(Joker("0000000", 3), JokerAbsent, Dollar),
+              "JOKER+ DU JOUR : \nPerdu...\n"
+              "Gain= 0 $ , Mise totale=2 $ donc Perte=2 $ (13,12 F)\n\n");
+}
+
+TEST(Verification, StakesInTheList) {
+    const std::vector<Grille> grilles = {{1.2, 5, 9, 10, 11, 12, 13, 1, 10},
+                                         {2, 5, 9, 10, 11, 12, 13, 1, 1}};
+    std::ostringstream euros, symboles;
+    EcrireListeGrilles(grilles, {"€uro", 6.55957}, euros);
+    EcrireListeGrilles(grilles, Dollar, symboles);
+    EXPECT_EQ(euros.str(),
+              "Combinaison 1 (5N + 1C) N: 9  10 11 12 13  C: 10  (Mise: 1.2 Euro)\n"
+              "Combinaison 2 (5N + 1C) N: 9  10 11 12 13  C: 1  (Mise: 2 Euros)\n");
+    EXPECT_EQ(symboles.str(),
+              "Combinaison 1 (5N + 1C) N: 9  10 11 12 13  C: 10  (Mise: 1.2 $)\n"
+              "Combinaison 2 (5N + 1C) N: 9  10 11 12 13  C: 1  (Mise: 2 $)\n");
+}
+
+TEST(Verification, OneTicketForThePage) {
+    const Base base = SeptTirages();
+    const auto verifier = [&](const Grille& grille, std::size_t numero) {
+        return VerifierGrille(grille, base.Tirages[numero - 1], base.Rapports[numero - 1]);
+    };
+    const ResultatGrille premier = verifier(NeufNumeros, 4);
+    EXPECT_EQ(premier.bons.numeros, 3);
+    EXPECT_EQ(premier.bons.chances, 0);
+    EXPECT_FALSE(premier.second);
+    EXPECT_EQ(premier.comptes, (ComptesRangs{0, 0, 0, 0, 0, 15, 0, 60, 0}));
+    EXPECT_DOUBLE_EQ(premier.gain, 600);
+
+    const ResultatGrille second = verifier(NeufNumeros, 5);
+    EXPECT_TRUE(second.second);
+    EXPECT_EQ(second.comptes, (ComptesRangs{1, 20, 60, 40}));
+    EXPECT_DOUBLE_EQ(second.gain, 121320);
+
+    Grille sansOption = NeufNumeros;
+    sansOption[0] = TableMises(9, 1);
+    const ResultatGrille absente = verifier(sansOption, 5);
+    EXPECT_EQ(absente.bons.numeros, 5);
+    EXPECT_EQ(absente.comptes, ComptesRangs{});
+    EXPECT_EQ(absente.gain, 0);
+}
+
+}  // namespace
+}  // namespace norvane
