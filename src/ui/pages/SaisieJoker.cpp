@@ -157,6 +157,7 @@ QWidget* SaisieJoker::creerMise() {
         auto* ligne = new QListWidgetItem(texte, RxCheckListBox7);
         ligne->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         ligne->setCheckState(Qt::Unchecked);
+        ligne->setSizeHint(QSize(0, cadre->fontMetrics().height() + Unite));
     }
     RxCheckListBox7->item(0)->setCheckState(Qt::Checked);
     RxCheckListBox7->setFixedSize(
