@@ -3,6 +3,7 @@
 #include "tickets/Rangs.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "Contenu.h"
 #include "tickets/Binomial.h"
@@ -104,12 +105,24 @@ constexpr auto Table2nd = [] {
     return table;
 }();
 
+/// Binary search. A result is as good as drawn by lot, so the steps are written for the processor
+/// to choose without guessing.
 template <typename Ligne, std::size_t Taille>
 auto Chercher(const std::array<Ligne, Taille>& table, int cle)
     -> std::optional<decltype(Ligne::comptes)> {
-    const auto ligne = std::ranges::lower_bound(table, cle, {}, &Ligne::cle);
-    if (ligne == table.end() || ligne->cle != cle) return std::nullopt;
+    const Ligne* ligne = table.data();
+    for (std::size_t reste = Taille; reste > 1;) {
+        const std::size_t moitie = reste / 2;
+        ligne = ligne[moitie].cle <= cle ? ligne + moitie : ligne;
+        reste -= moitie;
+    }
+    if (ligne->cle != cle) return std::nullopt;
     return ligne->comptes;
+}
+
+template <typename Nombre>
+std::uint64_t Bit(Nombre numero) {
+    return std::uint64_t{1} << (static_cast<unsigned>(static_cast<int>(numero)) & 63U);
 }
 
 }  // namespace
@@ -121,9 +134,10 @@ bool ParticipeAu2ndTirage(const Grille& grille) {
 
 Bons CompterBons(const Grille& grille, const Tirage& tirage) {
     const Contenu contenu = Ouvrir(grille);
+    std::uint64_t tires = 0;  // bit n: the number n was drawn
+    for (const std::int32_t boule : tirage.Numeros) tires |= Bit(boule);
     Bons bons{0, 0};
-    for (const double numero : contenu.numeros)
-        for (const std::int32_t boule : tirage.Numeros) bons.numeros += numero == boule;
+    for (const double numero : contenu.numeros) bons.numeros += (tires & Bit(numero)) != 0;
     for (const double chance : contenu.chances) bons.chances += chance == tirage.Chance;
     return bons;
 }

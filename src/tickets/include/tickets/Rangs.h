@@ -31,6 +31,7 @@ struct Bons {
     int numeros;  ///< of the ticket among the five drawn
     int chances;  ///< 0 or 1
 };
+/// The numbers of the ticket are whole, 1..49: what a ticket file or a board can bring.
 Bons CompterBons(const Grille& grille, const Tirage& tirage);
 
 /// Key of one result of a multiple ticket: n x 1000 + g x 100 + c x 10 + gc for c below 10,
