@@ -61,7 +61,7 @@ bool TCombNewSearch::coherente() const {
     bool moins = !minimum;
     for (const auto& ligne : lignes) {
         const auto lue = LireLigneCombinaison(ligne);
-        if (!lue || lue->nbFois != compter(lue->numeros)) return false;
+        if (Terminated() || !lue || lue->nbFois != compter(lue->numeros)) return false;
         const bool enHaut = lue->nbFois == BorneSup;
         const bool enBas = minimum && lue->nbFois == BorneInf;
         if (!enHaut && !enBas) return false;
