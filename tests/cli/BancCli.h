@@ -43,6 +43,16 @@ class Cli : public testing::Test {
         return {statut, out.str(), err.str()};
     }
 
+    /// Refused with one line that says `dit`, and nothing printed.
+    template <typename Commande>
+    void refuse(const Commande& commande, const char* dit) const {
+        const Sortie sortie = lancer(commande);
+        EXPECT_EQ(sortie.statut, StatutRefus) << dit;
+        EXPECT_EQ(sortie.out, "");
+        EXPECT_NE(sortie.err.find(dit), std::string::npos) << sortie.err;
+        EXPECT_EQ(std::count(sortie.err.begin(), sortie.err.end(), '\n'), 1) << sortie.err;
+    }
+
     Dossier dossier;
 };
 

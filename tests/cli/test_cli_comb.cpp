@@ -66,43 +66,15 @@ TEST_F(Cli, CombinationsRefused) {
         {{"comb", "stats", "7"}, "compte 1 numéros : il en faut de 2 à 10"},
         {{"comb", "stats", "7 x"}, "« x » n'est pas un numéro de 1 à 49"},
     };
-    for (const auto& [args, dit] : cas) {
-        const Sortie sortie = lancer(args);
-        EXPECT_EQ(sortie.statut, StatutRefus) << dit;
-        EXPECT_EQ(sortie.out, "");
-        EXPECT_NE(sortie.err.find(dit), std::string::npos) << sortie.err;
-        EXPECT_EQ(std::count(sortie.err.begin(), sortie.err.end(), '\n'), 1) << sortie.err;
-    }
-    const std::pair<const char*, const char*> usages[] = {
-        {"comb", "il manque la commande"},
-        {"comb extremes", "il manque l'argument N"},
-        {"comb bornes 3 1", "il manque l'argument SUP"},
-        {"comb extremes deux", "argument N : « deux » n'est pas un nombre entier"},
-        {"comb extremes 2 3", "argument inattendu « 3 »"},
-        {"comb stats", "il manque l'argument NUMEROS"},
-        {"comb bornes 2 0 1 --max deux", "option --max : « deux » n'est pas un nombre entier"},
-    };
-    for (const auto& [ligne, dit] : usages) {
-        const Sortie sortie = lancer(std::string(ligne));
-        EXPECT_EQ(sortie.statut, StatutUsage) << ligne;
-        EXPECT_EQ(Lignes(sortie.err, 0, 0), std::string("norvane-cli : ") + dit + '\n');
-    }
+    for (const auto& [args, dit] : cas) refuse(args, dit);
 }
 
 TEST_F(Cli, ExtremesOfTheShippedBase) {
-    const std::pair<const char*, const char*> cas[] = {
-        {"comb extremes 2", "2\t12\t51\t2\n03 13  (51)\n05 31  (12)\n"},
-        {"--globale comb extremes 4", "4\t0\t5\t2\n01 08 33 39  (05)\n18 30 45 46  (05)\n"},
-        {"--de 3200 comb extremes 5 --series", nullptr},
-    };
-    for (const auto& [ligne, out] : cas) {
-        const Sortie sortie = lancer(std::string(ligne));
-        EXPECT_EQ(sortie.statut, StatutFait);
-        if (out != nullptr)
-            EXPECT_EQ(sortie.out, out);
-        else
-            EXPECT_EQ(std::count(sortie.out.begin(), sortie.out.end(), '\n'), 46);
-    }
+    EXPECT_EQ(lancer("comb extremes 2").out, "2\t12\t51\t2\n03 13  (51)\n05 31  (12)\n");
+    EXPECT_EQ(lancer("--globale comb extremes 4").out,
+              "4\t0\t5\t2\n01 08 33 39  (05)\n18 30 45 46  (05)\n");
+    const std::string series = lancer("--de 3200 comb extremes 5 --series").out;
+    EXPECT_EQ(std::count(series.begin(), series.end(), '\n'), 46);
 }
 
 }  // namespace

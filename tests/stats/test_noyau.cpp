@@ -2,21 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <random>
-#include <string>
-
-#include "base/BaseIntegree.h"
 #include "OracleStats.h"
 #include "stats/Noyau.h"
-#include "stats/Occurrences.h"
 
 namespace norvane {
 
 static void PrintTo(const ResultatStats& r, std::ostream* os) {
-    for (const int n : {int{r.Sorties}, int{r.Ecart}, int{r.EcartMax}, int{r.NbEcartMax},
-                        int{r.PosEcartMax}, int{r.Suite}, int{r.SuiteMax}, int{r.NbSuiteMax},
-                        int{r.PosSuiteMax}, int{r.EcartPrec}, int{r.SuitePrec}, r.SommeEcarts})
-        *os << n << ' ';
+    *os << testing::PrintToString(Valeurs(r));
 }
 
 namespace {
@@ -55,36 +47,6 @@ TEST(Noyau, EveryPatternOfPresencesOnEveryInterval) {
                 }
         }
 }
-
-class NoyauBaseIntegree : public testing::TestWithParam<bool> {};
-
-TEST_P(NoyauBaseIntegree, AllItemsOnRandomIntervals) {
-    const Base base = BaseIntegree(GetParam());
-    Occurrences occ;
-    ConstruireOccurrences(base, occ);
-    std::mt19937 hasard(20240724);
-    const auto parcourir = [&](const auto& listes, auto presencesDe) {
-        for (std::size_t k = 0; k < listes.size(); ++k) {
-            const Presences presences = presencesDe(base, static_cast<int>(k) + 1);
-            SCOPED_TRACE(k + 1);
-            Comparer(listes[k], presences, 0, base.NbTirages - 1);
-            for (int essai = 0; essai < 40; ++essai) {
-                int f = std::uniform_int_distribution(0, base.NbTirages - 1)(hasard);
-                // Half of the intervals are short, where the item is absent or everywhere.
-                const int portee = essai % 2 == 0 ? 12 : base.NbTirages;
-                const int l = std::uniform_int_distribution(
-                    f, std::min(f + portee, base.NbTirages) - 1)(hasard);
-                SCOPED_TRACE(testing::Message() << f << ".." << l);
-                Comparer(listes[k], presences, f, l);
-                if (testing::Test::HasFatalFailure()) return;
-            }
-        }
-    };
-    parcourir(occ.ListeNumeros, PresencesNumero);
-    parcourir(occ.ListeChances, PresencesChance);
-}
-
-INSTANTIATE_TEST_SUITE_P(Bases, NoyauBaseIntegree, testing::Bool());
 
 // Worked by hand, so that the oracle itself stands on something.
 TEST(Noyau, KnownResults) {
