@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,6 +55,13 @@ inline std::string lire(const std::filesystem::path& fichier) {
 inline void poser(const std::filesystem::path& fichier, std::string_view contenu) {
     std::ofstream(fichier, std::ios::binary)
         .write(contenu.data(), static_cast<std::streamsize>(contenu.size()));
+}
+
+/// Every file of a test's folder: its name and what it holds.
+inline std::map<std::string, std::string> Contenu(const Dossier& dossier) {
+    std::map<std::string, std::string> fichiers;
+    for (const auto& nom : dossier.noms()) fichiers[nom] = lire(dossier.chemin() / nom);
+    return fichiers;
 }
 
 }  // namespace norvane

@@ -7,7 +7,7 @@
 #include "base/BaseIntegree.h"
 #include "comb/Moteur.h"
 #include "comb/Reduction.h"
-#include "Contenu.h"
+#include "Dossier.h"
 #include "OracleComb.h"
 
 namespace norvane {

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "comb/StatsCombinaison.h"
-#include "Contenu.h"
+#include "Dossier.h"
 #include "OracleComb.h"
 
 namespace norvane {
