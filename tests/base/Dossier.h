@@ -36,9 +36,8 @@ class Dossier {
     /// Names of all that the folder holds, in order.
     std::vector<std::string> noms() const {
         std::vector<std::string> trouves;
-        for (const auto& entree : std::filesystem::directory_iterator(chemin_)) {
+        for (const auto& entree : std::filesystem::directory_iterator(chemin_))
             trouves.push_back(entree.path().filename().string());
-        }
         std::sort(trouves.begin(), trouves.end());
         return trouves;
     }

@@ -28,9 +28,8 @@ TEST(Dates, TousLesJoursDe1976A2030) {
     int valides = 0;
     for (int date = 19760000; date < 20310000; ++date) valides += DateValide(date);
     EXPECT_EQ(valides, connus);
-    for (const int date : {0, -20220101, 20220230, 20230229, 20221301, 20220100, 100000101}) {
+    for (const int date : {0, -20220101, 20220230, 20230229, 20221301, 20220100, 100000101})
         EXPECT_FALSE(DateValide(date)) << date;
-    }
 }
 
 TEST(Dates, TextesFrancais) {

@@ -80,9 +80,8 @@ TEST(Tirages, InsertionDeplaceSixPaires) {
         const RapportsTirage venu = marques(static_cast<int>(i) - 1);
         // What stood here before: nothing at the place that the insertion made.
         const RapportsTirage reste = i < 4 ? marques(static_cast<int>(i)) : Aucun;
-        for (std::size_t r = 0; r < 9; ++r) {
+        for (std::size_t r = 0; r < 9; ++r)
             EXPECT_EQ(base.Rapports[i][r], r < 6 ? venu[r] : reste[r]) << i << ' ' << r;
-        }
     }
     InsererTirage(base, 5, tirage(20221009, 1), marques(7));
     EXPECT_EQ(base.Tirages[5], tirage(20221009, 1));

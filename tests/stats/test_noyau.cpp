@@ -127,21 +127,5 @@ TEST(Occurrences, ChancesOfTheOldRecordsFollowTheFlag) {
     }
 }
 
-TEST(Occurrences, PresenceTables) {
-    Occurrences occ;
-    ConstruireOccurrences(QuatreTirages(), occ);
-    ASSERT_EQ(occ.PositionNumero.size(), 4U);
-    const auto& position = occ.PositionNumero[3];  // 1 7 20 33 41
-    const std::pair<std::size_t, int> places[] = {{1, 0}, {7, 1}, {20, 2}, {33, 3}, {41, 4}};
-    for (const auto& [numero, place] : places) EXPECT_EQ(position[numero - 1], place);
-    EXPECT_EQ(std::count(position.begin(), position.end(), -1), 44);
-
-    const std::size_t marquees[] = {1, 1, 3, 1};  // chance 1 where there is none
-    for (std::size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(occ.PositionChance[i][marquees[i] - 1], 5);
-        EXPECT_EQ(std::count(occ.PositionChance[i].begin(), occ.PositionChance[i].end(), -1), 9);
-    }
-}
-
 }  // namespace
 }  // namespace norvane
