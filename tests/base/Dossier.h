@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,9 +36,8 @@ class Dossier {
     /// Names of all that the folder holds, in order.
     std::vector<std::string> noms() const {
         std::vector<std::string> trouves;
-        for (const auto& entree : std::filesystem::directory_iterator(chemin_)) {
+        for (const auto& entree : std::filesystem::directory_iterator(chemin_))
             trouves.push_back(entree.path().filename().string());
-        }
         std::sort(trouves.begin(), trouves.end());
         return trouves;
     }
@@ -54,6 +54,13 @@ inline std::string lire(const std::filesystem::path& fichier) {
 inline void poser(const std::filesystem::path& fichier, std::string_view contenu) {
     std::ofstream(fichier, std::ios::binary)
         .write(contenu.data(), static_cast<std::streamsize>(contenu.size()));
+}
+
+/// Every file of a test's folder: its name and what it holds.
+inline std::map<std::string, std::string> Contenu(const Dossier& dossier) {
+    std::map<std::string, std::string> fichiers;
+    for (const auto& nom : dossier.noms()) fichiers[nom] = lire(dossier.chemin() / nom);
+    return fichiers;
 }
 
 }  // namespace norvane

