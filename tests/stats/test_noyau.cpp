@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "base/BaseIntegree.h"
 #include "BasesEssai.h"
 #include "OracleStats.h"
 #include "stats/Noyau.h"
@@ -51,6 +52,36 @@ TEST(Noyau, EveryPatternOfPresencesOnEveryInterval) {
                 }
         }
 }
+
+class NoyauBaseIntegree : public testing::TestWithParam<bool> {};
+
+TEST_P(NoyauBaseIntegree, AllItemsOnRandomIntervals) {
+    const Base base = BaseIntegree(GetParam());
+    Occurrences occ;
+    ConstruireOccurrences(base, occ);
+    std::mt19937 hasard(20240724);
+    const auto parcourir = [&](const auto& listes, auto presencesDe) {
+        for (std::size_t k = 0; k < listes.size(); ++k) {
+            const Presences presences = presencesDe(base, static_cast<int>(k) + 1);
+            SCOPED_TRACE(k + 1);
+            Comparer(listes[k], presences, 0, base.NbTirages - 1);
+            for (int essai = 0; essai < 40; ++essai) {
+                int f = std::uniform_int_distribution(0, base.NbTirages - 1)(hasard);
+                // Half of the intervals are short, where the item is absent or everywhere.
+                const int portee = essai % 2 == 0 ? 12 : base.NbTirages;
+                const int l = std::uniform_int_distribution(
+                    f, std::min(f + portee, base.NbTirages) - 1)(hasard);
+                SCOPED_TRACE(testing::Message() << f << ".." << l);
+                Comparer(listes[k], presences, f, l);
+                if (testing::Test::HasFatalFailure()) return;
+            }
+        }
+    };
+    parcourir(occ.ListeNumeros, PresencesNumero);
+    parcourir(occ.ListeChances, PresencesChance);
+}
+
+INSTANTIATE_TEST_SUITE_P(Bases, NoyauBaseIntegree, testing::Bool());
 
 // Worked by hand, so that the oracle itself stands on something.
 TEST(Noyau, KnownResults) {

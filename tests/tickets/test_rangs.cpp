@@ -9,6 +9,7 @@
 #include <numeric>
 #include <random>
 
+#include "base/BaseIntegree.h"
 #include "tickets/Rangs.h"
 
 namespace norvane {
@@ -102,6 +103,41 @@ TEST(Rangs, TicketsOnDraws) {
     EXPECT_EQ(Rangs2ndGagnes(grille, second), (ComptesRangs2nd{1, 5, 0, 0}));
     grille[0] = 26.4;
     EXPECT_EQ(Rangs2ndGagnes(grille, second), ComptesRangs2nd{});
+}
+
+/// Euros that a ticket wins on record i.
+double Gain(const Base& base, std::size_t i, const Grille& grille) {
+    const auto somme = [&](const auto& comptes) {
+        return std::inner_product(comptes.begin(), comptes.end(), base.Rapports[i].begin(), 0.0,
+                                  std::plus<>(), [](int n, Rapport r) { return n * r.Gain; });
+    };
+    return EstSecondTirage(base.Tirages[i]) ? somme(Rangs2ndGagnes(grille, base.Tirages[i]))
+                                            : somme(RangsGagnes(grille, base.Tirages[i]));
+}
+
+// A ticket with a draw's own numbers, then with two of them replaced, on every published draw.
+TEST(Rangs, TheDrawsOwnNumbersWinThePublishedPrizes) {
+    const Base base = BaseIntegree(false);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(base.NbTirages); ++i) {
+        const Tirage& tirage = base.Tirages[i];
+        const bool second = EstSecondTirage(tirage);
+        const auto publie = [&](std::size_t rang) { return base.Rapports[i][rang].Gain; };
+        const int bonne[] = {second ? 1 : tirage.Chance}, fausse[] = {bonne[0] % 10 + 1};
+        std::vector<int> numeros(std::begin(tirage.Numeros), std::end(tirage.Numeros));
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, bonne, true)), publie(0)) << i;
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, fausse, true)), publie(second ? 0 : 1)) << i;
+
+        for (int n = 1; numeros.size() < 7; ++n)
+            if (std::ranges::count(numeros, n) == 0) numeros.push_back(n);
+        numeros.erase(numeros.begin(), numeros.begin() + 2);
+        const double trois = publie(second ? 2 : 5);
+        const double troisEtChance = second                         ? trois
+                                     : tirage.DateTirage < 20170306 ? trois + publie(8)
+                                                                    : publie(4);
+        EXPECT_GT(trois, 0) << i;
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, fausse, true)), trois) << i;
+        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, bonne, true)), troisEtChance) << i;
+    }
 }
 
 TEST(Rangs, NominalPrizes) {
