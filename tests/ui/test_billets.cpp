@@ -3,21 +3,16 @@
 //
 // The tickets of the page "Résultats": entry, Joker+, files, consultation, reports, random grids.
 
-#include <fstream>
 #include <functional>
 #include <QListWidget>
 #include <QTest>
 
-#include "shell/VaroMain.h"
 #include "soutien/EssaiResultats.h"
 #include "tickets/Bilan.h"
 #include "tickets/FichiersGrilles.h"
 #include "tickets/GrillesHasard.h"
 
-using namespace norvane;
-using namespace norvane::ui;
 using namespace norvane::ui::essais;
-using namespace Qt::StringLiterals;
 using namespace std::string_literals;
 
 namespace {
@@ -34,11 +29,6 @@ Grilles lot(int nombre) {
     Grilles grilles;
     AjouterGrillesHasard(grilles, hasard, {5, 1}, nombre);
     return grilles;
-}
-
-std::string lire(const std::filesystem::path& chemin) {
-    std::ifstream f(chemin);
-    return {std::istreambuf_iterator<char>(f), {}};
 }
 
 void completer(const Essai& e) {
@@ -63,9 +53,8 @@ void saisirRecu(const Essai& e, const QString& joker) {
 /// Opens a file of this content; both lists and a Joker+ line are in memory.
 Geste ouvrir(const QString& nom, const std::string& contenu) {
     return [=](Essai& e) {
-        const QString fichier = e.banc.dossier.path() + u'/' + nom;
-        if (!contenu.empty()) std::ofstream(fichier.toStdString()) << contenu;
-        e.banc.scripts.fichiers->reponse = fichier;
+        if (!contenu.empty()) e.banc.ecrire(nom.toStdString(), contenu);
+        e.banc.scripts.fichiers->reponse = e.banc.dossier.filePath(nom);
         e.banc.atelier.ListeChoix = e.banc.atelier.ListeRecu = {Simple};
         e.banc.atelier.ListeJoker = {{{7, 6, 5, 4, 3, 2, 1}, 2}};
     };
@@ -109,7 +98,7 @@ class TestBillets final : public QObject {
         QVERIFY(e.banc.modes.ModeSelection);
         dater(e, {2030, 1, 2});  // a Wednesday far ahead
         QVERIFY(e.demandes().isEmpty() && e.banc.modes.ModeNormal);
-        QCOMPARE(lire(e.banc.atelier.Repertoire / "Grilles&Reçus/20300102.rdj"),
+        QCOMPARE(e.banc.lire("Grilles&Reçus/20300102.rdj"),
                  std::string("1\n3 5 14 25 31 44 12 1 7\n2\n0 0 1 2 3 4 5 1 \n9 8 7 6 5 4 3 4 \n"));
         QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());  // the draw is back, its Joker+
 
@@ -118,18 +107,18 @@ class TestBillets final : public QObject {
         e.cliquer({u"NormalMode", u"RadioJoker0", u"Button66"});
         QCOMPARE(e.demandes().value(1), u"Joker+ non participant..."_s);
         dater(e, {2024, 8, 5});
-        QCOMPARE(lire(FichierRecu(e.banc.atelier.Repertoire, 20240805)),
+        QCOMPARE(e.banc.lire("Grilles&Reçus/20240805.rdj"),
                  std::string("1\n3 5 14 3 25 31 44 1 7\n0\n"));  // the option stays ticked
     }
 
     void fusionOuRemplacement() {
         Essai e(false);
-        const auto fichier = FichierRecu(e.banc.atelier.Repertoire, 20240807);
+        const std::string fichier = "Grilles&Reçus/20240807.rdj";
         const std::string un = "2.2 5 14 3 25 31 44 1 7\n";
         for (const auto& [reponse, attendu] :
              {std::pair{CodeBouton1, "2\n" + un + un + "2\n1 1 1 1 1 1 1 1 \n2 2 2 2 2 2 2 1 \n"},
               std::pair{CodeBouton2, "1\n" + un + "1\n2 2 2 2 2 2 2 1 \n"}}) {
-            std::filesystem::remove(fichier);
+            std::filesystem::remove(e.banc.chemin(fichier));
             saisirRecu(e, u"1111111"_s);
             dater(e, {2024, 8, 7});
             saisirRecu(e, u"2222222"_s);
@@ -137,7 +126,7 @@ class TestBillets final : public QObject {
             dater(e, {2024, 8, 7});  // closed without an answer: still to be settled
             QVERIFY(e.banc.modes.ModeSelection);
             dater(e, {2024, 8, 7});
-            QCOMPARE(lire(fichier), attendu);
+            QCOMPARE(e.banc.lire(fichier), attendu);
             QCOMPARE(TexteRecu({e.banc.atelier.ListeRecu, e.banc.atelier.ListeJoker}), attendu);
         }
     }
@@ -148,20 +137,17 @@ class TestBillets final : public QObject {
         QTest::addColumn<QString>("instruction");  // empty: any, but one
         const Geste entame = [](Essai& e) { e.selectionner(false), e.presser({1, 2, 3}); };
         const Geste occupe = [](Essai& e) { completer(e), e.banc.atelier.TraitementsEnCours = 1; };
-        const Geste rien = [](Essai&) {};
         const Geste jourSansTirage = [](Essai& e) { e.date()->setDate({2024, 7, 23}); };
         const char* grille = "2.2 5 1 2 3 4 5 1 7\n";
-        const QString recu = u"20230125.rdj"_s, charger = u"ChargerGrilles"_s,
-                      vide = u"Aucune grille sélectionnée..."_s;
+        const QString recu = u"20230125.rdj"_s, charger = u"ChargerGrilles"_s;
         QTest::newRow("add") << entame << u"AddGrille"_s << Incomplete;
         QTest::newRow("delete all") << entame << u"SupprAllGrilles"_s << Incomplete;
-        QTest::newRow("none to read") << rien << u"Consultation"_s << vide;
-        QTest::newRow("none to verify") << rien << u"VerifGains"_s << vide;
+        QTest::newRow("none to verify")
+            << Geste([](Essai&) {}) << u"VerifGains"_s << u"Aucune grille sélectionnée..."_s;
         QTest::newRow("no draw") << jourSansTirage << u"VerifGains"_s
                                  << u"Il faut d'abord sélectionner un tirage en mémoire..."_s;
         QTest::newRow("busy") << occupe << u"ChargerGrilles"_s
                               << u"Attendez la fin du traitement en cours..."_s;
-        QTest::newRow("words") << ouvrir(u"a.grl"_s, "deux") << charger << QString();
         QTest::newRow("cut") << ouvrir(u"a.grl"_s, "2\n"s + grille) << charger << QString();
         QTest::newRow("huge") << ouvrir(u"a.grl"_s, "1\n2 4000000000") << charger << QString();
         QTest::newRow("Joker+") << ouvrir(recu, "1\n"s + grille) << charger << QString();
@@ -254,8 +240,7 @@ class TestBillets final : public QObject {
         e.cliquer({u"VerifGains"});
         QCOMPARE(e.demandes(),
                  QStringList{u"Impossible de lancer le Bloc-notes depuis l'Application"_s});
-        QVERIFY(lire(a.fichier("Lotoveri.dat")).find("JOKER+ non participant\n") !=
-                std::string::npos);
+        QVERIFY(versQt(e.banc.lire("Lotoveri.dat")).contains(u"JOKER+ non participant\n"_s));
         e.cliquer({u"Consultation"});
         QCOMPARE(ecartAvec(e, dernier), QString());
     }
@@ -288,27 +273,25 @@ class TestBillets final : public QObject {
     }
 
     void bilanEtArret() {
-        Banc banc;
-        TVaroMainForm forme(banc.atelier, banc.services);
-        forme.montrer();
-        Atelier& a = banc.atelier;
+        FormeOuverte f;
+        Atelier& a = f.banc.atelier;
         a.ListeChoix = lot(NbGrillesMax);
-        forme.findChild<QAbstractButton*>(u"Consultation"_s)->click();
-        auto* gains = forme.findChild<QAbstractButton*>(u"VerifGains"_s);
+        f.de("Consultation")->click();
+        auto* gains = f.de("VerifGains");
         gains->click();
         QVERIFY(gains->text() == u"STOP"_s && a.TraitementsEnCours == 1);
         gains->click();
         QTRY_COMPARE(a.TraitementsEnCours, 0);
-        QVERIFY(!std::filesystem::exists(a.fichier(NomBilan)));
-        forme.contexte().StatsInf = 3000;
-        forme.contexte().StatsSup = 3010;
+        QVERIFY(!f.banc.existe(NomBilan));
+        f.forme->contexte().StatsInf = 3000;
+        f.forme->contexte().StatsSup = 3010;
         gains->click();
-        QTRY_COMPARE(banc.scripts.lanceur->documents.size(), 1);
-        QCOMPARE(lire(a.fichier(NomBilan)), *RedigerBilan(a.base, 3000, 3010, a.ListeGrilles, {}));
+        QTRY_COMPARE(f.banc.scripts.lanceur->documents.size(), 1);
+        QCOMPARE(f.banc.lire(NomBilan), *RedigerBilan(a.base, 3000, 3010, a.ListeGrilles, {}));
         gains->click();
-        forme.close();  // no question before the end of the work
-        QVERIFY(a.QuitterEnAttente && banc.scripts.messages->posees.isEmpty());
-        QTRY_COMPARE(banc.scripts.messages->posees.size(), 1);
+        f.forme->close();  // no question before the end of the work
+        QVERIFY(a.QuitterEnAttente && f.posees.isEmpty());
+        QTRY_COMPARE(f.posees.size(), 1);
     }
 
     void grillesAleatoires() {

@@ -11,12 +11,17 @@
 #include "widgets/BandeTirage.h"
 #include "widgets/TableRapports.h"
 
-using namespace norvane;
-using namespace norvane::ui;
 using namespace norvane::ui::essais;
-using namespace Qt::StringLiterals;
 
 namespace {
+
+struct CasDate {
+    bool globale;
+    int selecteurAvant;
+    QDate date;
+    bool existe;
+    int selecteurApres;
+};
 
 /// Counts the paint events of each button of the board.
 class Peintures final : public QObject {
@@ -34,274 +39,224 @@ class TestResultats final : public QObject {
     Q_OBJECT
 
  private Q_SLOTS:
-    void parcoursDeToutLaBase();
-    void dates_data();
-    void dates();
-    void selecteur();
-    void numero();
-    void communs();
-    void eclairageIncremental();
-    void indices();
-    void rapports();
-    void autreBase();
-};
-
-void TestResultats::parcoursDeToutLaBase() {
-    Essai e(true);
-    const int n = e.base().NbTirages;
-    QCOMPARE(ecartAvec(e, n - 1), QString());
-    for (int i = n - 2; i >= 0; --i) {  // backwards by the arrow button
+    void parcoursDeToutLaBase() {
+        Essai e(true);
+        const int n = e.base().NbTirages;
+        QCOMPARE(ecartAvec(e, n - 1), QString());
+        for (int i = n - 2; i >= 0; --i) {  // backwards by the arrow button
+            e.fleche(u"UpDown1"_s, 1);
+            QCOMPARE(ecartAvec(e, i), QString());
+        }
         e.fleche(u"UpDown1"_s, 1);
-        const QString ecart = ecartAvec(e, i);
-        if (!ecart.isEmpty()) QFAIL(qPrintable(ecart));
-    }
-    e.fleche(u"UpDown1"_s, 1);
-    QCOMPARE(e.numero()->text(), u"1"_s);
-    for (int i = 1; i < n; ++i) {  // forwards by the text
-        e.numero()->setText(QString::number(i + 1));
-        const QString ecart = ecartAvec(e, i);
-        if (!ecart.isEmpty()) QFAIL(qPrintable(ecart));
-    }
-}
-
-void TestResultats::dates_data() {
-    QTest::addColumn<bool>("globale");
-    QTest::addColumn<int>("selecteurAvant");
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<bool>("existe");
-    QTest::addColumn<int>("selecteurApres");
-    // What the selector becomes does not hang on what it was when the date has both records.
-    QTest::newRow("1er kept") << false << 0 << QDate(2024, 7, 22) << true << 0;
-    QTest::newRow("2nd kept") << false << 1 << QDate(2024, 7, 22) << true << 1;
-    QTest::newRow("first day with 2nd") << false << 1 << QDate(2019, 11, 4) << true << 1;
-    QTest::newRow("last day without") << false << 1 << QDate(2019, 11, 2) << true << 0;
-    QTest::newRow("first of the game") << false << 1 << QDate(2008, 10, 6) << true << 0;
-    QTest::newRow("old, carried") << true << 1 << QDate(1999, 11, 10) << true << 0;
-    QTest::newRow("oldest") << true << 0 << QDate(1976, 5, 19) << true << 0;
-    QTest::newRow("old, not carried") << false << 1 << QDate(1999, 11, 10) << false << 1;
-    QTest::newRow("old gap, carried") << true << 1 << QDate(1999, 11, 11) << false << 0;
-    QTest::newRow("between, 2nd") << false << 1 << QDate(2024, 7, 23) << false << 1;
-    QTest::newRow("between 2008 and 2019") << false << 1 << QDate(2016, 1, 19) << false << 0;
-    QTest::newRow("today") << false << 1 << QDate(2024, 8, 1) << false << 1;
-}
-
-void TestResultats::dates() {
-    QFETCH(bool, globale);
-    QFETCH(int, selecteurAvant);
-    QFETCH(QDate, date);
-    QFETCH(bool, existe);
-    QFETCH(int, selecteurApres);
-    Essai e(globale);
-    e.selecteur()->setCurrentIndex(selecteurAvant);
-    QCOMPARE(e.selecteur()->currentIndex(), selecteurAvant);
-    e.date()->setDate(date);
-    QCOMPARE(e.date()->date(), date);
-    QCOMPARE(e.selecteur()->currentIndex(), selecteurApres);
-    const int yyyymmdd = date.toString(u"yyyyMMdd"_s).toInt();
-    QCOMPARE(e.banc.modes.AucunTirageChoisi, !existe);
-    int avant = -1;  // the last record older than the date, or the one to be shown
-    for (int i = 0; i < e.base().NbTirages; ++i) {
-        if (e.record(i).DateTirage < yyyymmdd) avant = i;
-        if (e.record(i).DateTirage == yyyymmdd && e.record(i).SousTirage == selecteurApres + 1) {
-            avant = i;
-            break;
+        QCOMPARE(e.numero()->text(), u"1"_s);
+        for (int i = 1; i < n; ++i) {  // forwards by the text
+            e.numero()->setText(QString::number(i + 1));
+            QCOMPARE(ecartAvec(e, i), QString());
         }
     }
-    if (existe) {
-        QCOMPARE(ecartAvec(e, avant), QString());
-        return;
+
+    void dates_data() {
+        QTest::addColumn<CasDate>("cas");
+        // What the selector becomes does not hang on what it was when the date has both records.
+        QTest::newRow("1er kept") << CasDate{false, 0, QDate(2024, 7, 22), true, 0};
+        QTest::newRow("2nd kept") << CasDate{false, 1, QDate(2024, 7, 22), true, 1};
+        QTest::newRow("first day with 2nd") << CasDate{false, 1, QDate(2019, 11, 4), true, 1};
+        QTest::newRow("last day without") << CasDate{false, 1, QDate(2019, 11, 2), true, 0};
+        QTest::newRow("first of the game") << CasDate{false, 1, QDate(2008, 10, 6), true, 0};
+        QTest::newRow("old, carried") << CasDate{true, 1, QDate(1999, 11, 10), true, 0};
+        QTest::newRow("oldest") << CasDate{true, 0, QDate(1976, 5, 19), true, 0};
+        QTest::newRow("old, not carried") << CasDate{false, 1, QDate(1999, 11, 10), false, 1};
+        QTest::newRow("old gap, carried") << CasDate{true, 1, QDate(1999, 11, 11), false, 0};
+        QTest::newRow("between, 2nd") << CasDate{false, 1, QDate(2024, 7, 23), false, 1};
+        QTest::newRow("between 2008 and 2019") << CasDate{false, 1, QDate(2016, 1, 19), false, 0};
+        QTest::newRow("today") << CasDate{false, 1, QDate(2024, 8, 1), false, 1};
     }
-    QCOMPARE(absence(e), QString());
-    QCOMPARE(e.montre(u"AdvStringGrid8"_s), selecteurApres == 1 && yyyymmdd >= 20191104);
-    // Whatever is done with the number next leads to the draw before, or to the first.
-    e.fleche(u"UpDown1"_s, 0);
-    QCOMPARE(ecartAvec(e, std::max(avant, 0)), QString());
-    e.date()->setDate(date);
-    QTest::keyClicks(e.numero(), u"7"_s);
-    QCOMPARE(ecartAvec(e, std::max(avant, 0)), QString());
-}
 
-void TestResultats::selecteur() {
-    Essai e(true);
-    const auto premierDe = [&e](int date) {
-        return TirageParDate(e.base().Tirages, date, e.base().NbTirages).indice;
-    };
-    const int double1999 = premierDe(19991110);
-    QVERIFY(double1999 >= 0);
-    e.page->montrerTirage(double1999 + 1);
-    e.selecteur()->setCurrentIndex(1);  // the old game had 2nd draws too
-    QCOMPARE(ecartAvec(e, double1999 + 1), QString());
-    e.selecteur()->setCurrentIndex(0);
-    QCOMPARE(ecartAvec(e, double1999), QString());
-    const int simple = premierDe(20160120);  // a date with one draw only
-    e.page->montrerTirage(simple + 1);
-    e.selecteur()->setCurrentIndex(1);
-    QCOMPARE(ecartAvec(e, simple), QString());
-
-    // A filtered base may hold 2nd draws alone: the selector follows the record of the date.
-    std::erase_if(e.banc.atelier.base.Tirages,
-                  [](const Tirage& t) { return t.SousTirage == 1 || t.DateTirage < 20191104; });
-    e.banc.atelier.base.NbTirages = static_cast<int>(e.base().Tirages.size());
-    e.banc.atelier.recalculer();
-    e.page->surBaseChangee();
-    e.selecteur()->setCurrentIndex(0);
-    QCOMPARE(e.selecteur()->currentIndex(), 1);
-    e.date()->setDate(QDate(2024, 7, 23));
-    e.selecteur()->setCurrentIndex(0);
-    e.date()->setDate(QDate(2024, 7, 22));
-    QCOMPARE(ecartAvec(e, e.base().NbTirages - 2), QString());
-}
-
-void TestResultats::numero() {
-    Essai e(false);
-    const int n = e.base().NbTirages;
-    QLineEdit* edit = e.numero();
-    edit->setText(u"0"_s);
-    QCOMPARE(ecartAvec(e, 0), QString());
-    edit->setText(u"99999"_s);
-    QCOMPARE(ecartAvec(e, n - 1), QString());
-    edit->clear();  // an empty text does nothing
-    QCOMPARE(e.texte(u"LabelTirageFixeAn"_s), u"2024"_s);
-    QTest::keyClicks(edit, u"a1b2-"_s);
-    QCOMPARE(ecartAvec(e, 11), QString());
-    const struct {
-        Qt::Key touche;
-        int indice;
-    } touches[] = {{Qt::Key_Up, 12},       {Qt::Key_PageUp, 22}, {Qt::Key_Down, 21},
-                   {Qt::Key_PageDown, 11}, {Qt::Key_Home, 0},    {Qt::Key_Down, 0},
-                   {Qt::Key_PageDown, 0},  {Qt::Key_End, n - 1}, {Qt::Key_Up, n - 1}};
-    for (const auto& [touche, indice] : touches) {
-        QTest::keyClick(edit, touche);
-        QCOMPARE(ecartAvec(e, indice), QString());
-    }
-    edit->deselect();
-    QTest::mouseClick(edit, Qt::LeftButton);
-    QCOMPARE(edit->selectedText(), edit->text());
-}
-
-void TestResultats::communs() {
-    Essai e(true);
-    auto* communs = e.de(u"CommunsButton"_s);
-    communs->click();
-    QVERIFY(communs->font().bold());
-    int chances = 0;
-    for (int i = 0; i < e.base().NbTirages; i += i < 5400 ? 37 : 1) {
-        e.page->montrerTirage(i + 1);
-        std::set<int> avant;
-        if (i > 0) avant = boutonsDe(e.record(i - 1));
-        for (int k = 0; k < NbBoules; ++k) {
-            QCOMPARE(e.de<QLabel>(u"Label%1"_s.arg(k + 1))->accessibleDescription().isEmpty(),
-                     !avant.contains(e.record(i).Numeros[k]));
+    void dates() {
+        QFETCH(CasDate, cas);
+        const auto& [globale, selecteurAvant, date, existe, selecteurApres] = cas;
+        Essai e(globale);
+        e.selecteur()->setCurrentIndex(selecteurAvant);
+        QCOMPARE(e.selecteur()->currentIndex(), selecteurAvant);
+        e.date()->setDate(date);
+        QCOMPARE(e.date()->date(), date);
+        QCOMPARE(e.selecteur()->currentIndex(), selecteurApres);
+        const int yyyymmdd = date.toString(u"yyyyMMdd"_s).toInt();
+        QCOMPARE(e.banc.modes.AucunTirageChoisi, !existe);
+        int avant = -1;  // the last record older than the date, or the one to be shown
+        for (int i = 0; i < e.base().NbTirages; ++i) {
+            const Tirage& t = e.record(i);
+            if (t.DateTirage < yyyymmdd ||
+                (t.DateTirage == yyyymmdd && t.SousTirage == selecteurApres + 1))
+                avant = i;
         }
-        const int chance = e.record(i).Chance;
-        const bool commune = chance != 0 && avant.contains(NumeroMax + chance);
+        if (existe) QCOMPARE(ecartAvec(e, avant), QString());
+        if (existe) return;
+        QCOMPARE(absence(e), QString());
+        QCOMPARE(e.montre(u"AdvStringGrid8"_s), selecteurApres == 1 && yyyymmdd >= 20191104);
+        // Whatever is done with the number next leads to the draw before, or to the first.
+        e.fleche(u"UpDown1"_s, 0);
+        QCOMPARE(ecartAvec(e, std::max(avant, 0)), QString());
+        e.date()->setDate(date);
+        QTest::keyClicks(e.numero(), u"7"_s);
+        QCOMPARE(ecartAvec(e, std::max(avant, 0)), QString());
+    }
+
+    void selecteur() {
+        Essai e(true);
+        const auto premierDe = [&e](int date) {
+            return TirageParDate(e.base().Tirages, date, e.base().NbTirages).indice;
+        };
+        const int double1999 = premierDe(19991110);
+        QVERIFY(double1999 >= 0);
+        e.page->montrerTirage(double1999 + 1);
+        e.selecteur()->setCurrentIndex(1);  // the old game had 2nd draws too
+        QCOMPARE(ecartAvec(e, double1999 + 1), QString());
+        e.selecteur()->setCurrentIndex(0);
+        QCOMPARE(ecartAvec(e, double1999), QString());
+        const int simple = premierDe(20160120);  // a date with one draw only
+        e.page->montrerTirage(simple + 1);
+        e.selecteur()->setCurrentIndex(1);
+        QCOMPARE(ecartAvec(e, simple), QString());
+
+        // A filtered base may hold 2nd draws alone: the selector follows the record of the date.
+        std::erase_if(e.banc.atelier.base.Tirages,
+                      [](const Tirage& t) { return t.SousTirage == 1 || t.DateTirage < 20191104; });
+        e.banc.atelier.base.NbTirages = static_cast<int>(e.base().Tirages.size());
+        e.banc.atelier.recalculer();
+        e.page->surBaseChangee();
+        QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
+        e.numero()->setText(u"99999"_s);
+        QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
+        e.selecteur()->setCurrentIndex(0);
+        QCOMPARE(e.selecteur()->currentIndex(), 1);
+        e.date()->setDate(QDate(2024, 7, 23));
+        e.selecteur()->setCurrentIndex(0);
+        e.date()->setDate(QDate(2024, 7, 22));
+        QCOMPARE(ecartAvec(e, e.base().NbTirages - 2), QString());
+    }
+
+    void numero() {
+        Essai e(false);
+        const int n = e.base().NbTirages;
+        QLineEdit* edit = e.numero();
+        edit->setText(u"0"_s);
+        QCOMPARE(ecartAvec(e, 0), QString());
+        edit->setText(u"99999"_s);
+        QCOMPARE(ecartAvec(e, n - 1), QString());
+        edit->clear();  // an empty text does nothing
+        QCOMPARE(e.texte(u"LabelTirageFixeAn"_s), u"2024"_s);
+        QTest::keyClicks(edit, u"a1b2-"_s);
+        QCOMPARE(ecartAvec(e, 11), QString());
+        const struct {
+            Qt::Key touche;
+            int indice;
+        } touches[] = {{Qt::Key_Up, 12},       {Qt::Key_PageUp, 22}, {Qt::Key_Down, 21},
+                       {Qt::Key_PageDown, 11}, {Qt::Key_Home, 0},    {Qt::Key_Down, 0},
+                       {Qt::Key_PageDown, 0},  {Qt::Key_End, n - 1}, {Qt::Key_Up, n - 1}};
+        for (const auto& [touche, indice] : touches) {
+            QTest::keyClick(edit, touche);
+            QCOMPARE(ecartAvec(e, indice), QString());
+        }
+        edit->deselect();
+        QTest::mouseClick(edit, Qt::LeftButton);
+        QCOMPARE(edit->selectedText(), edit->text());
+    }
+
+    void communs() {
+        Essai e(true);
+        auto* communs = e.de(u"CommunsButton"_s);
         const auto* bande = e.page->findChild<BandeTirage*>();
-        QCOMPARE(bande->cellule(5)->commune(), commune);
-        if (commune) ++chances;
-    }
-    QVERIFY(chances > 0);
-    const auto* bande = e.page->findChild<BandeTirage*>();
-    e.page->montrerTirage(1);
-    for (int k = 0; k < NbBoules; ++k) {
-        QCOMPARE(bande->cellule(k)->teinteTexte(), e.page->palette().color(QPalette::WindowText));
-    }
-    communs->click();
-    QVERIFY(!communs->font().bold());
-}
-
-void TestResultats::eclairageIncremental() {
-    Essai e(true);
-    e.page->show();
-    QVERIFY(QTest::qWaitForWindowExposed(e.page.get()));
-    Peintures peintures;
-    for (int k = 0; k < NbBoutons; ++k) e.planche()->bouton(k)->installEventFilter(&peintures);
-    const int n = e.base().NbTirages;
-    for (const int indice : {n - 2, n - 3, n - 4, 5000, 4999, 10, 9}) {
-        QTest::qWait(1);
-        const std::set<int> avant = e.allumes();
-        peintures.comptes.clear();
-        e.page->montrerTirage(indice + 1);
-        QTest::qWait(20);
-        const std::set<int> apres = e.allumes();
-        std::set<int> attendus;
-        std::ranges::set_symmetric_difference(avant, apres,
-                                              std::inserter(attendus, attendus.end()));
-        std::set<int> peints;
-        for (const auto& [bouton, fois] : peintures.comptes) {
-            peints.insert(bouton->objectName().mid(6).toInt());
-            QCOMPARE(fois, 1);
+        communs->click();
+        QVERIFY(communs->font().bold());
+        int chances = 0;
+        for (int i = 0; i < e.base().NbTirages; i += i < 5400 ? 37 : 1) {
+            e.page->montrerTirage(i + 1);
+            std::set<int> avant;
+            if (i > 0) avant = boutonsDe(e.record(i - 1));
+            for (int k = 0; k < NbBoules; ++k)
+                QCOMPARE(e.de<QLabel>(u"Label%1"_s.arg(k + 1))->accessibleDescription().isEmpty(),
+                         !avant.contains(e.record(i).Numeros[k]));
+            const int chance = e.record(i).Chance;
+            const bool commune = chance != 0 && avant.contains(NumeroMax + chance);
+            QCOMPARE(bande->cellule(5)->commune(), commune);
+            if (commune) ++chances;
         }
-        QCOMPARE(peints, attendus);
+        QVERIFY(chances > 0);
+        e.page->montrerTirage(1);
+        for (int k = 0; k < NbBoules; ++k)
+            QCOMPARE(bande->cellule(k)->teinteTexte(),
+                     e.page->palette().color(QPalette::WindowText));
+        communs->click();
+        QVERIFY(!communs->font().bold());
     }
-}
 
-void TestResultats::indices() {
-    Essai e(true);
-    std::set<int> formes;
-    for (int numero = 2; numero <= e.base().NbTirages; numero += 331) {
-        e.page->montrerTirage(numero);
-        const std::set<int> lumieres = e.allumes();
-        for (int b = 1; b <= NbBoutons; ++b) {
-            const bool n = b <= NumeroMax;
-            const auto place = static_cast<std::size_t>(n ? b - 1 : b - 50);
-            const Occurrences& occ = e.banc.atelier.occurrences;
-            const ResultatStats r =
-                StatsJusqua(n ? occ.ListeNumeros[place] : occ.ListeChances[place], numero - 1);
-            const bool lit = lumieres.contains(b);
-            const int forme = lit ? (r.Suite == 1 ? 0 : 1) : 2;
-            formes.insert(forme);
-            const QString court =
-                forme == 0 ? u"Sorties: %1, Ecartprec: %2, Suiteprec: %3"_s.arg(r.Sorties)
-                                 .arg(r.EcartPrec)
-                                 .arg(r.SuitePrec)
-                : forme == 1
-                    ? u"Sorties: %1, Suite: %2, Ecartprec: %3"_s.arg(r.Sorties).arg(r.Suite).arg(
-                          r.EcartPrec)
-                    : u"Sorties: %1, Ecart: %2, Suiteprec: %3"_s.arg(r.Sorties).arg(r.Ecart).arg(
-                          r.SuitePrec);
-            const auto* bouton = e.de(u"Button%1"_s.arg(b));
-            QCOMPARE(bouton->toolTip(), court);
-            QCOMPARE(bouton->statusTip(),
-                     (n ? u"Numéro: "_s : u"Chance: "_s) + bouton->text() + u", "_s + court);
+    void eclairageIncremental() {
+        Essai e(true);
+        e.page->show();
+        QVERIFY(QTest::qWaitForWindowExposed(e.page.get()));
+        Peintures peintures;
+        for (int k = 0; k < NbBoutons; ++k) e.planche()->bouton(k)->installEventFilter(&peintures);
+        const int n = e.base().NbTirages;
+        for (const int indice : {n - 2, n - 3, n - 4, 5000, 4999, 10, 9}) {
+            QTest::qWait(1);
+            const std::set<int> avant = e.allumes();
+            peintures.comptes.clear();
+            e.page->montrerTirage(indice + 1);
+            QTest::qWait(20);
+            const std::set<int> apres = e.allumes();
+            std::set<int> attendus;
+            std::ranges::set_symmetric_difference(avant, apres,
+                                                  std::inserter(attendus, attendus.end()));
+            std::set<int> peints;
+            for (const auto& [bouton, fois] : peintures.comptes) {
+                peints.insert(bouton->objectName().mid(6).toInt());
+                QCOMPARE(fois, 1);
+            }
+            QCOMPARE(peints, attendus);
         }
     }
-    QCOMPARE(formes.size(), std::size_t{3});
-}
 
-void TestResultats::rapports() {
-    Essai e(false);
-    auto* table = e.de<TableRapports>(u"AdvStringGrid8"_s);
-    auto& r = e.banc.atelier.base.Rapports[static_cast<std::size_t>(e.base().NbTirages - 1)];
-    r[0] = {0, 0};
-    r[1] = {1234, 56789.5};
-    e.page->montrerTirage(e.base().NbTirages);
-    QCOMPARE(table->rowCount(), 4);
-    const QString fine(QChar(0xA0));
-    QCOMPARE(table->item(0, 1)->text(), u"0"_s);
-    QCOMPARE(table->item(0, 2)->text(), u"0,00 €"_s);
-    QCOMPARE(table->item(1, 1)->text(), u"1"_s + fine + u"234"_s);
-    QCOMPARE(table->item(1, 2)->text(), u"56"_s + fine + u"789,50 €"_s);
-    // 56789.5 x 6.55957 = 372514.700...
-    QCOMPARE(table->item(1, 2)->toolTip(), u"Montant en Francs : 372"_s + fine + u"514,70"_s);
-    QCOMPARE(table->item(1, 3)->text(), QString());
-    table->setFacteurs({0, 6});
-    QCOMPARE(table->item(0, 3)->text() + table->item(0, 0)->toolTip(), QString());
-    QCOMPARE(table->item(1, 3)->text(), u"6"_s);
-    QCOMPARE(table->item(1, 0)->toolTip(),
-             u"Facteur de multiplication des gains pour un rang donné"_s);
-    QCOMPARE(table->item(1, 3)->statusTip(), u"Vous gagnez 6 fois le montant du rang 2"_s);
-    QCOMPARE(e.de<QTableWidget>(u"AdvStringGrid6"_s)->rowCount(), 9);
-}
+    void indices() {
+        Essai e(true);
+        for (int numero = 2; numero <= e.base().NbTirages; numero += 331) {
+            e.page->montrerTirage(numero);
+            std::array<bool, NbBoutons> allumes{};
+            for (const int b : boutonsDe(e.record(numero - 1)))
+                allumes[static_cast<std::size_t>(b - 1)] = true;
+            const auto attendus = IndicesBoutons(e.banc.atelier.occurrences, numero - 1, allumes);
+            for (int b = 1; b <= NbBoutons; ++b) {
+                const auto* bouton = e.de(u"Button%1"_s.arg(b));
+                QCOMPARE(bouton->toolTip() + u'|' + bouton->statusTip(),
+                         versQt(attendus[static_cast<std::size_t>(b - 1)]));
+            }
+        }
+    }
 
-void TestResultats::autreBase() {
-    Essai e(false);
-    e.banc.atelier.base.NbTirages -= 101;
-    e.banc.atelier.recalculer();
-    e.page->surBaseChangee();
-    QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
-    e.numero()->setText(u"99999"_s);
-    QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
-}
+    void rapports() {
+        Essai e(false);
+        auto* table = e.de<TableRapports>(u"AdvStringGrid8"_s);
+        auto& r = e.banc.atelier.base.Rapports[static_cast<std::size_t>(e.base().NbTirages - 1)];
+        r[0] = {0, 0};
+        r[1] = {1234, 56789.5};
+        e.page->montrerTirage(e.base().NbTirages);
+        QCOMPARE(table->rowCount(), 4);
+        const QString fine(QChar(0xA0));
+        QCOMPARE(table->item(0, 1)->text(), u"0"_s);
+        QCOMPARE(table->item(0, 2)->text(), u"0,00 €"_s);
+        QCOMPARE(table->item(1, 1)->text(), u"1"_s + fine + u"234"_s);
+        QCOMPARE(table->item(1, 2)->text(), u"56"_s + fine + u"789,50 €"_s);
+        // 56789.5 x 6.55957 = 372514.700...
+        QCOMPARE(table->item(1, 2)->toolTip(), u"Montant en Francs : 372"_s + fine + u"514,70"_s);
+        table->setFacteurs({0, 6});
+        QCOMPARE(table->item(0, 3)->text() + table->item(0, 0)->toolTip(), QString());
+        QCOMPARE(table->item(1, 3)->text(), u"6"_s);
+        QCOMPARE(table->item(1, 0)->toolTip(),
+                 u"Facteur de multiplication des gains pour un rang donné"_s);
+        QCOMPARE(table->item(1, 3)->statusTip(), u"Vous gagnez 6 fois le montant du rang 2"_s);
+        QCOMPARE(e.de<QTableWidget>(u"AdvStringGrid6"_s)->rowCount(), 9);
+    }
+};
 
 QTEST_MAIN(TestResultats)
 #include "test_resultats.moc"

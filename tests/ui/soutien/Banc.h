@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// What every interface test stands on: an atelier in a folder of its own, and services that answer
-// by script and remember what they were asked.
+// What every interface test stands on: an atelier in a folder of its own, services that answer by
+// script and remember what they were asked, and the whole form on them.
 #pragma once
 
 #include <deque>
 #include <filesystem>
+#include <fstream>
+#include <QAbstractButton>
 #include <QDate>
 #include <QList>
 #include <QPrinter>
@@ -15,9 +17,13 @@
 #include "atelier/Atelier.h"
 #include "services/Services.h"
 #include "shell/Page.h"
+#include "shell/VaroMain.h"
 
 namespace norvane::ui::essais {
 
+// A test file opens all of them by this namespace.
+using namespace norvane;
+using namespace norvane::ui;
 using namespace Qt::StringLiterals;
 
 class MessagesScriptes final : public Messages {
@@ -114,7 +120,7 @@ struct Scripts {
     }
 };
 
-/// One page's surroundings.
+/// One page's surroundings, on a base of its own where one is given.
 struct Banc {
     QTemporaryDir dossier;
     Atelier atelier{std::filesystem::path(dossier.path().toStdString())};
@@ -122,6 +128,37 @@ struct Banc {
     Scripts scripts = Scripts::dans(services);
     Modes modes;
     Contexte contexte{atelier, services, modes, 1.28, 1.7075};
+
+    explicit Banc(const Base* base = nullptr) {
+        if (base == nullptr) return;
+        atelier.base = *base;
+        atelier.recalculer();
+    }
+    std::filesystem::path chemin(const std::string& nom) const { return atelier.Repertoire / nom; }
+    bool existe(const std::string& nom) const { return std::filesystem::exists(chemin(nom)); }
+    std::string lire(const std::string& nom) const {
+        std::ifstream f(chemin(nom));
+        return {std::istreambuf_iterator<char>(f), {}};
+    }
+    void ecrire(const std::string& nom, const std::string& contenu) const {
+        std::ofstream(chemin(nom)) << contenu;
+    }
+};
+
+/// The whole form on show, its controls by their names.
+struct FormeOuverte {
+    Banc banc;
+    std::unique_ptr<TVaroMainForm> forme =
+        std::make_unique<TVaroMainForm>(banc.atelier, banc.services);
+    const QList<DemandeMessage>& posees = banc.scripts.messages->posees;
+
+    explicit FormeOuverte(const Base* base = nullptr) : banc(base) { forme->montrer(); }
+    template <typename T = QAbstractButton>
+    T* de(const char* nom, int numero = 0) const {
+        T* trouve = forme->findChild<T*>(QString::asprintf(nom, numero));
+        if (trouve == nullptr) qFatal("%s", nom);
+        return trouve;
+    }
 };
 
 }  // namespace norvane::ui::essais

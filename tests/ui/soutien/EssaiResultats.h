@@ -6,8 +6,6 @@
 
 #include <cmath>
 #include <initializer_list>
-#include <memory>
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
@@ -22,8 +20,6 @@
 #include "widgets/PlancheNumeros.h"
 
 namespace norvane::ui::essais {
-
-using namespace Qt::StringLiterals;
 
 /// The page on the global base or on the present game's.
 struct Essai {
@@ -61,17 +57,14 @@ struct Essai {
     /// Numbers of the buttons (1..59) in a state.
     std::set<int> allumes() const {
         std::set<int> s;
-        for (int k = 0; k < NbBoutons; ++k) {
-            const QColor fond = planche()->bouton(k)->fond();
-            if (fond != QColor(0xDF, 0xDF, 0xDF)) s.insert(k + 1);
-        }
+        for (int k = 0; k < NbBoutons; ++k)
+            if (planche()->bouton(k)->fond() != QColor(0xDF, 0xDF, 0xDF)) s.insert(k + 1);
         return s;
     }
     std::set<int> tenus() const {
         std::set<int> s;
-        for (int k = 0; k < NbBoutons; ++k) {
+        for (int k = 0; k < NbBoutons; ++k)
             if (planche()->EtatBouton()[static_cast<std::size_t>(k)] != 0) s.insert(k + 1);
-        }
         return s;
     }
     bool montre(const QString& nom) const { return !de<QWidget>(nom)->isHidden(); }
@@ -144,11 +137,9 @@ inline QString absence(const Essai& e) {
     QString reste = e.numero()->text() + e.texte(u"LabelTirageFixeAn"_s) +
                     e.texte(u"LabelTirageFixeNum"_s) + e.de<QLineEdit>(u"MaskEdit1"_s)->text();
     for (int i = 1; i <= 6; ++i) reste += e.texte(u"Label%1"_s.arg(i));
-    for (const auto* table : e.page->findChildren<QTableWidget*>()) {
-        for (int r = 0; r < table->rowCount(); ++r) {
+    for (const auto* table : e.page->findChildren<QTableWidget*>())
+        for (int r = 0; r < table->rowCount(); ++r)
             for (int c = 1; c < 4; ++c) reste += table->item(r, c)->text();
-        }
-    }
     for (int k = 0; k < NbBoutons; ++k) reste += e.planche()->bouton(k)->toolTip();
     if (!e.allumes().empty()) reste += u" planche allumée"_s;
     return reste;
