@@ -129,8 +129,7 @@ QTableView { border: 1px solid %bordure; gridline-color: %bordure; }
         .replace("%accent"_L1, g.accent.name());
 }
 
-/// A family with figures of one width, and a size that a 768-line and a 1080-line screen both
-/// read with ease.
+/// A family with figures of one width, and a size that is read with ease from 768 lines to 2160.
 QFont police() {
     QFont fonte = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     const QStringList connues = QFontDatabase::families();
@@ -141,7 +140,7 @@ QFont police() {
         }
     }
     const int hauteur = QGuiApplication::primaryScreen()->size().height();
-    fonte.setPixelSize(std::clamp(hauteur / 66, 13, 22));
+    fonte.setPixelSize(std::clamp(hauteur / 66, 13, 33));
     return fonte;
 }
 

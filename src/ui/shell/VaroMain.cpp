@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QStatusTipEvent>
 #include <QTabBar>
@@ -130,7 +131,14 @@ void TVaroMainForm::creerPages() {
     }
     connect(pages_, &QTabWidget::currentChanged, this, &TVaroMainForm::changerPage);
     connect(this, &TVaroMainForm::arretDemande, resultats_, &PageResultats::arreterBilan);
-    setCentralWidget(pages_);
+    // A screen smaller than the pages need shows them through a window that scrolls.
+    auto* cadre = new QScrollArea(this);
+    cadre->setFrameShape(QFrame::NoFrame);
+    cadre->setWidgetResizable(true);
+    cadre->setFocusPolicy(Qt::NoFocus);
+    cadre->setWidget(pages_);
+    setCentralWidget(cadre);
+    setMinimumSize(640, 480);
 }
 
 void TVaroMainForm::relier(Page* page) {

@@ -103,7 +103,7 @@ void BoutonPlanche::paintEvent(QPaintEvent*) {
     }
 
     QFont fonte = font();
-    fonte.setPixelSize(std::clamp(static_cast<int>(cote * 0.42), 11, 30));
+    fonte.setPixelSize(std::clamp(static_cast<int>(cote * 0.42), 11, 72));
     fonte.setBold(allume_ || enfonce_);
     p.setFont(fonte);
     const QRectF texte = bas && !enfonce_ ? aire.translated(0, 1) : aire;
