@@ -24,13 +24,17 @@ trap finir EXIT
 # The server itself finds a free display number and writes it down.
 Xvfb -displayfd 3 -screen 0 "${taille}x24" -nolisten tcp 3>"$travail/ecran" 2>/dev/null &
 processus+=($!)
-for _ in $(seq 100); do [ -s "$travail/ecran" ] && break; sleep 0.1; done
-[ -s "$travail/ecran" ] || { echo "L'écran virtuel n'a pas démarré." >&2; exit 1; }
-DISPLAY=:$(cat "$travail/ecran")
+numero=
+for _ in $(seq 100); do
+  read -r numero 2>/dev/null <"$travail/ecran" && break # fails until the line is whole
+  sleep 0.1
+done
+[ -n "$numero" ] || { echo "L'écran virtuel n'a pas démarré." >&2; exit 1; }
+DISPLAY=:$numero
 export DISPLAY
 unset WAYLAND_DISPLAY
 echo "Pas d'écran ici : Norvane tourne sur l'écran virtuel $DISPLAY, images dans $dossier" >&2
-openbox 2>/dev/null &
+openbox >/dev/null 2>&1 &
 processus+=($!)
 
 # In a directory of its own: what the user keeps in his is not touched.

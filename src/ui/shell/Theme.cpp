@@ -106,7 +106,7 @@ QStatusBar::item { border: 0; }
 QMenuBar { background: %carte; border-bottom: 1px solid %bordure; }
 QMenuBar::item { padding: 5px 10px; background: transparent; }
 QMenuBar::item:selected { background: %alternance; color: %accent; }
-QGroupBox { border: 1px solid %bordure; border-radius: 6px; margin-top: 9px; padding: 8px 8px 6px 8px;
+QGroupBox { border: 1px solid %bordure; border-radius: 6px; margin-top: 0.7em; padding: 0.75em 8px 6px 8px;
   background: %carte; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: %discret; }
 QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid %discret; border-radius: 7px;
