@@ -76,7 +76,7 @@ std::vector<ColonneTableau> ColonnesStats(GenreStats genre) {
     if (!numeros) num.image = ImageChance();
 
     ColonneTableau ratio = chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s);
-    ColonneTableau ecartMax = chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"000  (00 0000)"_s);
+    ColonneTableau ecartMax = chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s);
     ColonneTableau suiteMax = chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s);
     return {pos,
             num,
@@ -84,7 +84,7 @@ std::vector<ColonneTableau> ColonnesStats(GenreStats genre) {
             ratio,
             date(),
             chiffres(u"E"_s, u"Écart"_s, 30, u"0000"_s),
-            chiffres(u"EM"_s, u"Écart Moyen"_s, 38, u"000,00"_s),
+            chiffres(u"EM"_s, u"Écart Moyen"_s, 38, u"0000,00"_s),
             ecartMax,
             chiffres(u"S"_s, u"Suite"_s, 24, u"00"_s),
             suiteMax};
@@ -98,7 +98,7 @@ std::vector<ColonneTableau> ColonnesCouples() {
             chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s),
             date(),
             chiffres(u"Ecart"_s, u"Écart"_s, 40, u"0000"_s),
-            chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"000  (00 0000)"_s),
+            chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
             chiffres(u"Suite"_s, u"Suite"_s, 36, u"00"_s),
             chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s)};
 }
