@@ -23,7 +23,7 @@ void AjouterFichier(CLI::App& app, std::string& fichier) {
 }
 
 /// Tickets of either kind of file; a list of grids has no Joker+ lines.
-Resultat<Recu> LireBillets(const fs::path& fichier) {
+Resultat<RecuDeJeu> LireBillets(const fs::path& fichier) {
     const bool recu = fichier.extension() == ".rdj";
     if (!recu && fichier.extension() != ".grl")
         return Erreur{
@@ -33,7 +33,7 @@ Resultat<Recu> LireBillets(const fs::path& fichier) {
     if (recu) return ChargerRecu(fichier);
     auto grilles = ChargerGrilles(fichier);
     if (!grilles) return Erreur{grilles.erreur()};
-    return Recu{*std::move(grilles), {}};
+    return RecuDeJeu{*std::move(grilles), {}};
 }
 
 /// The money of NORVANE.INI in the current directory, or the default one.

@@ -48,7 +48,7 @@ Resultat<Contenu> Charger(const fs::path& fichier, Resultat<Contenu> (*lire)(std
 }
 
 /// The receipt of the file, then `recu`.
-Resultat<Recu> Fusionner(const fs::path& fichier, const Recu& recu) {
+Resultat<RecuDeJeu> Fusionner(const fs::path& fichier, const RecuDeJeu& recu) {
     auto tout = ChargerRecu(fichier);
     if (!tout) return tout;
     const std::size_t nombre = tout->grilles.size() + recu.grilles.size();
@@ -72,7 +72,7 @@ std::string TexteGrilles(std::span<const Grille> grilles) {
     return texte;
 }
 
-std::string TexteRecu(const Recu& recu) {
+std::string TexteRecu(const RecuDeJeu& recu) {
     std::string texte = TexteGrilles(recu.grilles);
     texte += fmt::format("{}\n", recu.jokers.size());
     for (const LigneJoker& ligne : recu.jokers)
@@ -84,7 +84,7 @@ Resultat<std::vector<Grille>> ChargerGrilles(const fs::path& fichier) {
     return Charger(fichier, LireGrilles);
 }
 
-Resultat<Recu> ChargerRecu(const fs::path& fichier) {
+Resultat<RecuDeJeu> ChargerRecu(const fs::path& fichier) {
     return Charger(fichier, LireRecu);
 }
 
@@ -111,7 +111,7 @@ std::optional<int> DateRecu(const fs::path& fichier) {
     return date;
 }
 
-Resultat<Rien> EnregistrerRecu(const Recu& recu, const fs::path& repertoire, int date,
+Resultat<Rien> EnregistrerRecu(const RecuDeJeu& recu, const fs::path& repertoire, int date,
                                bool ajouter) {
     const fs::path fichier = FichierRecu(repertoire, date);
     std::error_code erreur;

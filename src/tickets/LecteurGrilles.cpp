@@ -196,9 +196,9 @@ Resultat<std::vector<Grille>> LireGrilles(std::string_view texte) {
     return grilles;
 }
 
-Resultat<Recu> LireRecu(std::string_view texte) {
+Resultat<RecuDeJeu> LireRecu(std::string_view texte) {
     Lecteur lecteur(texte);
-    Recu recu;
+    RecuDeJeu recu;
     if (!LireCorps(lecteur, recu.grilles) || !LireJokers(lecteur, recu.jokers) || !lecteur.fin())
         return lecteur.refus("Le reçu de jeu est refusé");
     return recu;

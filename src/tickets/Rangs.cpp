@@ -28,7 +28,7 @@ constexpr std::size_t RangChance = 8;  ///< RangLoto index of the Chance alone
 constexpr int PasDeRang = 9;           ///< RangSimple: from here on nothing is won
 
 /// RangLoto index by good numbers, without and with the right chance.
-constexpr std::array<std::array<int, 2>, NbBoules + 1> RangsSimples = {
+constexpr std::array<std::array<int, 2>, NbBoules + 1> TableRangSimple = {
     {{10, 8}, {9, 8}, {7, 6}, {5, 4}, {3, 2}, {1, 0}}};
 
 constexpr int Cle(int n, int g, int c, int gc) {
@@ -50,7 +50,7 @@ using Repartition = ComptesRangs (*)(int n, int g, int c, int gc);
 constexpr ComptesRangs Repartir2017(int n, int g, int c, int gc) {
     ComptesRangs comptes{};
     for (int k = 0; k <= NbBoules; ++k) {
-        const auto& rangs = RangsSimples[static_cast<std::size_t>(k)];
+        const auto& rangs = TableRangSimple[static_cast<std::size_t>(k)];
         comptes[static_cast<std::size_t>(rangs[1])] += Facons(n, g, k) * gc;
         if (rangs[0] < PasDeRang)
             comptes[static_cast<std::size_t>(rangs[0])] += Facons(n, g, k) * (c - gc);
@@ -63,7 +63,7 @@ constexpr ComptesRangs Repartir2017(int n, int g, int c, int gc) {
 constexpr ComptesRangs RepartirAvant2017(int n, int g, int c, int gc) {
     ComptesRangs comptes{};
     for (int k = 0; k < NbBoules; ++k) {
-        const int rang = RangsSimples[static_cast<std::size_t>(k)][0];
+        const int rang = TableRangSimple[static_cast<std::size_t>(k)][0];
         if (rang < PasDeRang) comptes[static_cast<std::size_t>(rang)] += Facons(n, g, k) * c;
         comptes[RangChance] += Facons(n, g, k) * gc;
     }
@@ -159,7 +159,7 @@ std::span<const LigneRangs2nd> TableRangs2nd() {
 }
 
 int RangSimple(int g, int gc) {
-    return RangsSimples[static_cast<std::size_t>(g)][static_cast<std::size_t>(gc)];
+    return TableRangSimple[static_cast<std::size_t>(g)][static_cast<std::size_t>(gc)];
 }
 
 std::optional<ComptesRangs> ChercherRangs(int cle, int date) {

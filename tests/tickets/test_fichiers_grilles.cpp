@@ -107,7 +107,7 @@ TEST(FichiersGrilles, ReceiptsAreKeptByDateReplacedOrMerged) {
     for (const char* nom : {"recu.rdj", "20230230.rdj", "2023012.rdj", "20230125b.rdj"})
         EXPECT_FALSE(DateRecu(nom)) << nom;
 
-    const Recu trois = {{3, DeuxGrilles[0]}, {Joker}};
+    const RecuDeJeu trois = {{3, DeuxGrilles[0]}, {Joker}};
     ASSERT_TRUE(EnregistrerRecu(trois, dossier.chemin(), 20230125, true));
     EXPECT_EQ(lire(fichier), TexteRecu(trois));
     ASSERT_TRUE(EnregistrerRecu({DeuxGrilles, {}}, dossier.chemin(), 20230125, false));
@@ -120,7 +120,7 @@ TEST(FichiersGrilles, ReceiptsAreKeptByDateReplacedOrMerged) {
     EXPECT_EQ(cinq->jokers, std::vector{Joker});
 
     // Refused: what stands there cannot be read, or has no room left; it stays as it is.
-    const Recu plein = {{NbGrillesMax, DeuxGrilles[0]}, {}};
+    const RecuDeJeu plein = {{NbGrillesMax, DeuxGrilles[0]}, {}};
     for (const std::string& ancien : {std::string("1\n2.2 5 3 14"), TexteRecu(plein)}) {
         poser(fichier, ancien);
         const auto fait = EnregistrerRecu(trois, dossier.chemin(), 20230125, true);

@@ -259,7 +259,7 @@ class TestBillets final : public QObject {
         reponse += u".grl"_s;
         e.cliquer({u"ChargerGrilles"});
         QVERIFY((a.ListeChoix == Grilles{Simple, Multiple}) && e.demandes().isEmpty());
-        const Recu recu{{Multiple}, {{{1, 2, 3, 4, 5, 6, 7}, 3}}};
+        const RecuDeJeu recu{{Multiple}, {{{1, 2, 3, 4, 5, 6, 7}, 3}}};
         for (const QString& nom : {u"/20230125.rdj"_s, u"/recu.rdj"_s}) {
             reponse = dossier + nom;
             std::ofstream(reponse.toStdString()) << TexteRecu(recu);

@@ -63,7 +63,10 @@ struct PageOuverte {
     QString texte(int ligne, int colonne) const {
         return table->model()->index(ligne, colonne).data().toString();
     }
-    QString libelle() { return trouver<QLabel>("LibelleIntervalle")->text(); }
+    QString libelle() {
+        const bool numeros = page->objectName() == u"Varo2"_s;
+        return trouver<QLabel>(numeros ? "RxLabelStats1" : "RxLabelStats1E")->text();
+    }
     /// Types over what stands in the control, as after a click into it.
     static void taper(SpinTirage* spin, const QString& texte) {
         spin->setFocus();

@@ -42,9 +42,9 @@ const QString IndiceIntervalle = u"Choisissez le nombre de tirages pour les stat
 
 /// What differs between the two pages.
 struct PageStats::Textes {
-    QString page, table, inf, sup, ratio, sauver, imprimer;  // object names
-    QString objet;                                           // "les numéros"
-    QString indiceElement;                                   // hint of a number cell
+    QString page, table, inf, sup, libelle, ratio, sauver, imprimer;  // object names
+    QString objet;                                                    // "les numéros"
+    QString indiceElement;                                            // hint of a number cell
     QString nonSorti;
     QString present, absent;  // key to the colours
 };
@@ -55,6 +55,7 @@ const PageStats::Textes& PageStats::textesDe(GenreStats genre) {
         u"AdvStringGrid1"_s,
         u"RxSpinEditStats"_s,
         u"RxSpinEditStats2"_s,
+        u"RxLabelStats1"_s,
         u"RatioNumeros"_s,
         u"BitBtnWithColor7"_s,
         u"BitBtnWithColor6"_s,
@@ -68,6 +69,7 @@ const PageStats::Textes& PageStats::textesDe(GenreStats genre) {
         u"AdvStringGrid4"_s,
         u"RxSpinEditStatsE"_s,
         u"RxSpinEditStats2E"_s,
+        u"RxLabelStats1E"_s,
         u"RatioEtoiles"_s,
         u"BitBtnWithColor17"_s,
         u"BitBtnWithColor19"_s,
@@ -117,7 +119,7 @@ QLayout* PageStats::construireReglages() {
     intervalle_ = new PaireIntervalle(textes_.inf, textes_.sup, IndiceIntervalle, cadre);
     intervalle_->poserAttenteSaisie(genre_ == GenreStats::Chances);
     libelle_ = new QLabel(cadre);
-    libelle_->setObjectName(u"LibelleIntervalle"_s);
+    libelle_->setObjectName(textes_.libelle);
     libelle_->setTextFormat(Qt::PlainText);
     libelle_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* dedans = new QVBoxLayout(cadre);

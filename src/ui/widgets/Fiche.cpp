@@ -21,11 +21,15 @@ Fiche::Fiche(QWidget* parent) : QFrame(parent), pile(new QVBoxLayout(this)) {
 
 void Fiche::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    peindreFiche(p, *this);
+}
+
+void peindreFiche(QPainter& p, const QWidget& fiche) {
     p.setRenderHint(QPainter::Antialiasing);
-    const Teintes t = teintes(palette());
+    const Teintes t = teintes(fiche.palette());
     p.setPen(t.bordure);
     p.setBrush(t.carte);
-    p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    p.drawRoundedRect(QRectF(fiche.rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 }
 
 QLabel* legende(const QString& texte, QWidget* parent) {

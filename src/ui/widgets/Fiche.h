@@ -10,6 +10,7 @@
 class QHBoxLayout;
 class QLabel;
 class QLayout;
+class QPainter;
 class QPushButton;
 class QVBoxLayout;
 
@@ -26,6 +27,9 @@ class Fiche final : public QFrame {
  protected:
     void paintEvent(QPaintEvent* evenement) override;
 };
+
+/// The surface and the border of such a panel, for a widget that paints itself.
+void peindreFiche(QPainter& p, const QWidget& fiche);
 
 /// Secondary text, in a colour that follows the palette.
 QLabel* legende(const QString& texte, QWidget* parent);

@@ -9,6 +9,7 @@
 
 #include "shell/Page.h"
 #include "shell/Theme.h"
+#include "widgets/Fiche.h"
 
 namespace norvane::ui {
 
@@ -166,12 +167,8 @@ void PlancheNumeros::resizeEvent(QResizeEvent* evenement) {
 
 void PlancheNumeros::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.setRenderHint(QPainter::Antialiasing);
-    const Teintes t = teintes(palette());
-    p.setPen(t.bordure);
-    p.setBrush(t.carte);
-    p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
-    p.setPen(t.discret);
+    peindreFiche(p, *this);
+    p.setPen(teintes(palette()).discret);
     const int alignement = Qt::AlignLeft | Qt::AlignTop;
     p.drawText(titreNumeros_, alignement, u"Numéros"_s);
     p.drawText(titreChances_, alignement, u"Chances"_s);

@@ -22,7 +22,7 @@ namespace norvane {
 inline constexpr const char* DossierGrilles = "Grilles&Reçus";
 inline constexpr const char* NomGrillesSecours = "Grlbak.grl";
 
-struct Recu {
+struct RecuDeJeu {
     std::vector<Grille> grilles;
     std::vector<LigneJoker> jokers;
 };
@@ -32,7 +32,7 @@ struct Recu {
 std::string TexteGrilles(std::span<const Grille> grilles);
 /// The text of a receipt: its grids, the count of Joker+ lines, then one line each, a blank behind
 /// every field.
-std::string TexteRecu(const Recu& recu);
+std::string TexteRecu(const RecuDeJeu& recu);
 
 /// Reads the two forms. Refused with one sentence that says what and where: words for numbers, a
 /// text cut short, counts above NbGrillesMax or that do not fit the text, numbers or chances out of
@@ -40,11 +40,11 @@ std::string TexteRecu(const Recu& recu);
 /// end. A grid that is not sold (four numbers, no chance, ...) is taken: it is for the prize rules
 /// to say that it wins nothing. Nothing is allocated on the word of a count alone.
 Resultat<std::vector<Grille>> LireGrilles(std::string_view texte);
-Resultat<Recu> LireRecu(std::string_view texte);
+Resultat<RecuDeJeu> LireRecu(std::string_view texte);
 
 /// The same from a file; the sentence names it.
 Resultat<std::vector<Grille>> ChargerGrilles(const std::filesystem::path& fichier);
-Resultat<Recu> ChargerRecu(const std::filesystem::path& fichier);
+Resultat<RecuDeJeu> ChargerRecu(const std::filesystem::path& fichier);
 
 Resultat<Rien> EnregistrerGrilles(std::span<const Grille> grilles,
                                   const std::filesystem::path& fichier);
@@ -59,7 +59,7 @@ std::optional<int> DateRecu(const std::filesystem::path& fichier);
 /// Writes a receipt to FichierRecu, folder made if missing. With `ajouter` the receipt that stands
 /// there comes first and this one behind it; refused, and nothing written, when it cannot be read
 /// or when both hold more than NbGrillesMax grids.
-Resultat<Rien> EnregistrerRecu(const Recu& recu, const std::filesystem::path& repertoire, int date,
-                               bool ajouter);
+Resultat<Rien> EnregistrerRecu(const RecuDeJeu& recu, const std::filesystem::path& repertoire,
+                               int date, bool ajouter);
 
 }  // namespace norvane
