@@ -23,7 +23,7 @@ std::size_t Indice(int n) {
 
 TCombNewSearch::TCombNewSearch(const ContexteComb& contexte, Puits& puits, int taille,
                                std::vector<std::string> stockees)
-    : TCombThread(puits),
+    : TCombThread(puits, {GenreTravail::Extremes, taille, QuelleListe::Extremes}),
       BorneInf(contexte.etat.BorneInf[Indice(taille)]),
       BorneSup(contexte.etat.BorneSup[Indice(taille)]),
       lignes(std::move(stockees)),

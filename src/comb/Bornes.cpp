@@ -37,7 +37,7 @@ std::string PhraseTropLongue(std::uint64_t nombre, bool exact, std::uint64_t mot
 
 TRechercheBornes::TRechercheBornes(const ContexteComb& contexte, Puits& puits, int taille, int inf,
                                    int sup)
-    : TCombThread(puits),
+    : TCombThread(puits, {GenreTravail::Bornes, taille, QuelleListe::Memoire}),
       contexte_(contexte),
       disposition_{taille, contexte.mode},
       inf_(inf),

@@ -5,7 +5,7 @@
 
 #include "comb/GrandesTailles.h"
 #include "Croissance.h"
-#include "Repartition.h"
+#include "base/Repartition.h"
 
 namespace norvane {
 

@@ -9,7 +9,7 @@
 #include <mutex>
 #include <stop_token>
 
-#include "Repartition.h"
+#include "base/Repartition.h"
 
 namespace norvane {
 

@@ -185,7 +185,10 @@ Extremes ChercherExtremes(const ContexteComb& contexte, int taille, bool lignes,
 
 TRechercheExtremes::TRechercheExtremes(const ContexteComb& contexte, Puits& puits, int taille,
                                        Sortie sortie, bool series)
-    : TCombThread(puits), contexte_(contexte), taille_(taille), sortie_(sortie) {
+    : TCombThread(puits, {GenreTravail::Extremes, taille, QuelleListe::Extremes}),
+      contexte_(contexte),
+      taille_(taille),
+      sortie_(sortie) {
     contexte_.series = series;
 }
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "Croissance.h"
-#include "Repartition.h"
+#include "base/Repartition.h"
 
 namespace norvane {
 

@@ -88,7 +88,7 @@ ReponseClic Moteur::arreter() {
 }
 
 ReponseClic Moteur::lancer(int taille, PtrComb fil, int jauge) {
-    fil->OnTerminate = surFin;
+    fil->surFin = surFin;
     debut_ = std::chrono::steady_clock::now();
     collecte_.surProgression = surProgression;
     try {

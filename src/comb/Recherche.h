@@ -26,10 +26,6 @@ inline std::span<const Tirage> TiragesIntervalle(const ContexteComb& c) {
                                     static_cast<std::size_t>(c.taille()));
 }
 
-inline Masque MasqueNumero(int n) {
-    return Masque{1} << (n - 1);
-}
-
 /// The numbers of each record of the interval as a set.
 std::vector<Masque> MasquesIntervalle(const ContexteComb& contexte);
 

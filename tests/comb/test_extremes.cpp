@@ -167,7 +167,7 @@ TEST(Fils, SuspendedStoppedAndFailing) {
         PtrFil<Lent> fil(new Lent(muet));
         std::atomic<int> fins = 0;
         fil->jeter = jeter;
-        fil->OnTerminate = [&] { ++fins; };
+        fil->surFin = [&] { ++fins; };
         fil->WaitFor();
         EXPECT_EQ(fins, 0);
         fil->Resume();

@@ -11,6 +11,7 @@
 
 #include "base/Base.h"
 #include "base/Configuration.h"
+#include "base/Travail.h"
 #include "comb/EtatCombinaisons.h"
 #include "stats/Occurrences.h"
 #include "tickets/Grille.h"
@@ -18,21 +19,33 @@
 
 namespace norvane {
 
+/// Whether the base is being edited by hand.
+enum class Edition { Aucune, MiseAJour, AjoutLibre };
+
+/// Draws that the statistics of the page "Numéros" speak of, one-based, inclusive: other pages work
+/// over them too. `sup` below `inf`: not chosen yet, the whole base.
+struct IntervalleStats {
+    int inf = 1;
+    int sup = 0;
+
+    friend bool operator==(const IntervalleStats&, const IntervalleStats&) = default;
+};
+
 struct Atelier {
     std::filesystem::path Repertoire;  ///< the program's directory; every file is relative to it
     Configuration configuration;
     Base base;
     Occurrences occurrences;
     EtatCombinaisons combinaisons;
+    IntervalleStats StatsNumeros;
 
     std::vector<Grille> ListeGrilles;    ///< the working list of tickets
     std::vector<Grille> ListeRecu;       ///< the tickets of the receipt in memory
     std::vector<Grille> ListeChoix;      ///< the stock of grids
     std::vector<LigneJoker> ListeJoker;  ///< the Joker+ lines of the receipt
 
-    int TraitementsEnCours = 0;     ///< workers alive
-    bool Disponible = true;         ///< no long operation runs
-    bool QuitterEnAttente = false;  ///< the window was closed while a worker ran
+    Activite activite;  ///< the busy rule: what is under way
+    Edition edition = Edition::Aucune;
     bool Relance = false;           ///< the program must start itself again after closing
     bool FiltreActif = false;       ///< the base in memory is a filtered one
 
@@ -42,9 +55,6 @@ struct Atelier {
     /// Reads the configuration, the base and the engine's state in `repertoire`, and builds the
     /// occurrence structures. Cannot fail: what is damaged is replaced and told in avertissements.
     explicit Atelier(std::filesystem::path repertoire);
-
-    /// True while work runs: every other command is then refused.
-    bool occupe() const { return TraitementsEnCours > 0 || !Disponible; }
 
     /// Structures and state again after a change of the base.
     void recalculer();

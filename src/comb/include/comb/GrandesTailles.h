@@ -13,11 +13,9 @@
 #include <vector>
 
 #include "base/Base.h"
+#include "base/Ensemble.h"
 
 namespace norvane {
-
-/// A set of numbers: bit n-1 for number n.
-using Masque = std::uint64_t;
 
 /// Outcome of a search for the combinations that hold the most draws.
 struct ExtremesGrandeTaille {

@@ -15,6 +15,7 @@
 #include <thread>
 
 #include "base/Base.h"
+#include "base/Travail.h"
 #include "comb/Enregistrement.h"
 #include "comb/EtatCombinaisons.h"
 #include "comb/Puits.h"
@@ -40,50 +41,25 @@ struct ContexteComb {
     int taille() const { return IntervalleSup - (IntervalleInf - 1); }
 };
 
-/// A worker, created suspended. WaitFor before it is destroyed (PtrComb does).
-class TCombThread {
+/// A worker of the engine: a job under the engine's own names, created suspended.
+class TCombThread : public Travail {
  public:
-    explicit TCombThread(Puits& puits) : puits_(puits) {}
-    virtual ~TCombThread();
-    TCombThread(const TCombThread&) = delete;
-    TCombThread& operator=(const TCombThread&) = delete;
+    TCombThread(Puits& puits, const DescriptionTravail& d) : Travail(d), puits_(puits) {}
 
-    /// Called last on the worker, however it ended. It may not destroy the worker.
-    std::function<void()> OnTerminate;
-
-    /// Starts the worker; done once.
-    void Resume();
-    /// Asks it to stop, which takes at most 100 ms.
-    void Terminate() { arret_.request_stop(); }
-    bool Terminated() const { return arret_.stop_requested(); }
-    /// Waits for its end; at once when it was never resumed.
-    void WaitFor();
-
-    /// One French sentence when the search refused or failed; empty otherwise. After WaitFor.
-    const std::string& erreur() const { return erreur_; }
+    void Resume() { demarrer(); }
+    void Terminate() { arreter(); }
+    bool Terminated() const { return arrete(); }
+    void WaitFor() { attendre(); }
 
  protected:
     virtual void Execute() = 0;
+    void executer() final { Execute(); }
 
     Puits& puits() const { return puits_; }
-    std::stop_token arret() const { return arret_.get_token(); }
-    /// Ends the search with this sentence for the user.
-    void refuser(std::string phrase) { erreur_ = std::move(phrase); }
 
  private:
-    void executer();
-
     Puits& puits_;
-    std::stop_source arret_;
-    std::thread fil_;
-    std::string erreur_;
 };
-
-struct ArretPuisDestruction {
-    void operator()(TCombThread* fil) const;
-};
-template <typename Fil>
-using PtrFil = std::unique_ptr<Fil, ArretPuisDestruction>;
 using PtrComb = PtrFil<TCombThread>;
 
 // --- Extremes -----------------------------------------------------------------------------------
