@@ -15,7 +15,7 @@
 #include <set>
 
 #include "BasesEssai.h"
-#include "pages/PageCombinaisons.h"
+#include "combinaisons/PageCombinaisons.h"
 #include "soutien/Banc.h"
 #include "widgets/Alerte.h"
 #include "widgets/ListeCombinaisons.h"

@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "base/Dates.h"
-#include "shell/Theme.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

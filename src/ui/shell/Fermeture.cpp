@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 bool Fermeture::demander() {
     Atelier& atelier = contexte_.atelier;
-    if (atelier.occupe()) {
-        atelier.QuitterEnAttente = true;
+    if (atelier.activite.occupe()) {
+        atelier.activite.QuitterEnAttente = true;
         arreterTraitement();
         return false;
     }
@@ -26,7 +26,7 @@ bool Fermeture::demander() {
     } else {
         ferme = fermerSelection();
     }
-    if (!ferme) atelier.QuitterEnAttente = false;
+    if (!ferme) atelier.activite.QuitterEnAttente = false;
     return ferme;
 }
 

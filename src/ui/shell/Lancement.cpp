@@ -9,8 +9,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include "common/Theme.h"
 #include "dialogs/Splash.h"
-#include "shell/Theme.h"
 #include "shell/VaroMain.h"
 
 namespace norvane::ui {

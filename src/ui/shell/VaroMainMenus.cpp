@@ -9,9 +9,9 @@
 #include <QMenuBar>
 #include <QTabWidget>
 
+#include "common/Theme.h"
 #include "dialogs/AboutBox.h"
 #include "shell/Aide.h"
-#include "shell/Theme.h"
 #include "shell/VaroMain.h"
 #include "widgets/EtiquetteMode.h"
 
@@ -49,9 +49,9 @@ void TVaroMainForm::creerMenus() {
     quitter->setStatusTip(u"Quitter l'application"_s);
 
     auto* affichage = menuBar()->addMenu(u"Affic&hage"_s);
-    for (int i = 0; i < pages_->count(); ++i) {
-        auto* page = affichage->addAction(pages_->tabText(i), this,
-                                          [this, i] { pages_->setCurrentIndex(i); });
+    for (int i = 0; i < onglets_->count(); ++i) {
+        auto* page = affichage->addAction(onglets_->tabText(i), this,
+                                          [this, i] { onglets_->setCurrentIndex(i); });
         page->setShortcut(QKeySequence(static_cast<int>(Qt::CTRL) | (Qt::Key_0 + (i + 1) % 10)));
     }
     affichage->addSeparator();
@@ -83,6 +83,7 @@ void TVaroMainForm::changerApparence(const QString& cle) {
     appliquerTheme(*qApp, apparenceDe(configuration.reglages.Apparence));
     const auto ecrit =
         configuration.ecrire("CONFIGURATION", "Apparence", configuration.reglages.Apparence);
+    relais_.annoncer({.reglages = true});
     if (!ecrit) {
         contexte_.services.messages->MessageErreur(u"L'apparence choisie ne sera pas gardée."_s,
                                                    u"Erreur"_s, versQt(ecrit.erreur()));

@@ -9,7 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

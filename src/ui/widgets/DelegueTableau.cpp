@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <QPainter>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

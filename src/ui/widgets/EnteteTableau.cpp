@@ -7,7 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 #include "widgets/DelegueTableau.h"
 
 namespace norvane::ui {

@@ -5,7 +5,7 @@
 
 #include <QPainter>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

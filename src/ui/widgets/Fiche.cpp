@@ -9,8 +9,8 @@
 #include <QPainter>
 #include <QPushButton>
 
-#include "shell/Page.h"
-#include "shell/Theme.h"
+#include "common/Contexte.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

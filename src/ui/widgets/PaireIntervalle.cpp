@@ -7,8 +7,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include "shell/Page.h"
-#include "shell/Theme.h"
+#include "common/Contexte.h"
+#include "common/Theme.h"
 #include "widgets/SpinTirage.h"
 
 namespace norvane::ui {

@@ -7,8 +7,8 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "shell/Page.h"
-#include "shell/Theme.h"
+#include "common/Contexte.h"
+#include "common/Theme.h"
 #include "widgets/Fiche.h"
 
 namespace norvane::ui {

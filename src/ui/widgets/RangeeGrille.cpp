@@ -10,7 +10,7 @@
 #include <QLabel>
 #include <QPainter>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 #include "widgets/BoutonPlanche.h"
 
 namespace norvane::ui {

@@ -9,8 +9,8 @@
 #include <QStyledItemDelegate>
 
 #include "base/Textes.h"
-#include "shell/Page.h"
-#include "shell/Theme.h"
+#include "common/Contexte.h"
+#include "common/Theme.h"
 
 namespace norvane::ui {
 

@@ -11,7 +11,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 
-#include "shell/Theme.h"
+#include "common/Theme.h"
 #include "widgets/Bulle.h"
 #include "widgets/ColonnesFigees.h"
 #include "widgets/DelegueTableau.h"

@@ -15,8 +15,8 @@
 #include <QTemporaryDir>
 
 #include "atelier/Atelier.h"
-#include "services/Services.h"
-#include "shell/Page.h"
+#include "common/Contexte.h"
+#include "common/Services.h"
 #include "shell/VaroMain.h"
 
 namespace norvane::ui::essais {
@@ -127,7 +127,9 @@ struct Banc {
     Services services;
     Scripts scripts = Scripts::dans(services);
     Modes modes;
-    Contexte contexte{atelier, services, modes, 1.28, 1.7075};
+    Relais relais;
+    Travaux travaux{atelier.activite};
+    Contexte contexte{atelier, services, modes, travaux, relais, 1.28, 1.7075};
 
     explicit Banc(const Base* base = nullptr) {
         if (base == nullptr) return;

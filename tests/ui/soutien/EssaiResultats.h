@@ -15,7 +15,7 @@
 #include <set>
 
 #include "base/BaseIntegree.h"
-#include "pages/PageResultats.h"
+#include "resultats/PageResultats.h"
 #include "soutien/Banc.h"
 #include "widgets/PlancheNumeros.h"
 

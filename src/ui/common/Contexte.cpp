@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "common/Contexte.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+bool Contexte::refuserSiOccupe() {
+    if (!atelier.activite.occupe()) return false;
+    services.messages->MessageInfo(u"Attendez la fin du traitement en cours..."_s, u"Message"_s);
+    return true;
+}
+
+void poserIndice(QWidget* cible, const QString& indice) {
+    const auto barre = indice.indexOf(u'|');
+    cible->setToolTip(barre < 0 ? indice : indice.left(barre));
+    cible->setStatusTip(barre < 0 ? indice : indice.mid(barre + 1));
+}
+
+}  // namespace norvane::ui

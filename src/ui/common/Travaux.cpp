@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "common/Travaux.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <system_error>
+
+#include "base/Textes.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int RythmeMs = 33;  // at most thirty steps of the gauge a second
+}
+
+Travaux::Travaux(Activite& activite, QObject* parent) : QObject(parent), activite_(activite) {
+    rythme_.setInterval(RythmeMs);
+    connect(&rythme_, &QTimer::timeout, this, &Travaux::suivre);
+}
+
+Travaux::~Travaux() {
+    travail_.reset();  // while this can still be told of its end
+}
+
+bool Travaux::lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+                     std::function<void(Travail&)> fin) {
+    Q_ASSERT(!travail_);
+    travail->surFin = [this] {
+        QMetaObject::invokeMethod(this, &Travaux::finir, Qt::QueuedConnection);
+    };
+    debut_ = std::chrono::steady_clock::now();
+    try {
+        travail->demarrer();
+    } catch (const std::system_error& e) {
+        erreur_ =
+            u"Le calcul n'a pas pu être lancé (%1) : fermez d'autres programmes, puis "
+            u"recommencez."_s.arg(QString::fromLocal8Bit(e.what()));
+        return false;
+    }
+    occupation_ = Occupation(activite_, travail->description);
+    travail_ = std::move(travail);
+    vue_ = vue;
+    jauge_ = vue.jauge;
+    temps_ = vue.temps;
+    pour_ = pour;
+    fin_ = std::move(fin);
+    if (jauge_) {
+        jauge_->setRange(0, travail_->progres.total());
+        jauge_->setValue(0);
+    }
+    if (temps_) temps_->clear();
+    rythme_.start();
+    Q_EMIT texteEtat(vue.texte);
+    Q_EMIT commence(travail_->description);
+    return true;
+}
+
+void Travaux::arreter() {
+    if (travail_) travail_->arreter();
+}
+
+void Travaux::suivre() {
+    if (travail_ && jauge_) jauge_->setValue(travail_->progres.fait());
+}
+
+void Travaux::finir() {
+    if (!travail_) return;
+    travail_->attendre();
+    rythme_.stop();
+    duree_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - debut_).count();
+    const PtrTravail travail = std::move(travail_);
+    const auto fin = std::move(fin_);
+    occupation_.liberer();
+    if (jauge_) jauge_->reset();
+    if (temps_) {
+        temps_->setText(u"Temps de calcul : "_s +
+                        QString::fromStdString(FormaterDecimal(duree_, 1)));
+    }
+    Q_EMIT texteEtat({});
+    if (pour_ && fin) fin(*travail);
+    if (!activite_.occupe()) Q_EMIT repos();
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The places of the program that one can be sent to from another page.
+#pragma once
+
+#include <optional>
+#include <variant>
+#include <vector>
+
+#include "base/Ensemble.h"
+#include "stats/TableauStats.h"
+#include "tickets/Grille.h"
+
+namespace norvane::ui {
+
+/// A number, or a Chance.
+struct Element {
+    GenreStats genre;
+    int valeur;
+
+    friend bool operator==(const Element&, const Element&) = default;
+};
+
+/// The page "Résultats" on a draw, whatever was going on there; `appuyer` is pressed if it is up.
+struct VersTirage {
+    int numero;  ///< one-based
+    std::optional<Element> appuyer;
+
+    friend bool operator==(const VersTirage&, const VersTirage&) = default;
+};
+
+/// What a history speaks of.
+struct CoupleChances {
+    int premiere, seconde;
+    friend bool operator==(const CoupleChances&, const CoupleChances&) = default;
+};
+struct RangCombinaison {
+    Ensemble numeros;
+    int bons;  ///< good numbers of the rank
+    friend bool operator==(const RangCombinaison&, const RangCombinaison&) = default;
+};
+struct CategorieChances {
+    Ensemble numeros;
+    Ensemble chances;
+    int categorie;  ///< row of the table of categories, from 0
+    friend bool operator==(const CategorieChances&, const CategorieChances&) = default;
+};
+using SujetHistorique = std::variant<Element, CoupleChances, RangCombinaison, CategorieChances>;
+
+/// The page "Historiques" on a subject that came out, over draws inf..sup (one-based).
+struct VersHistorique {
+    SujetHistorique sujet;
+    int inf, sup;
+
+    friend bool operator==(const VersHistorique&, const VersHistorique&) = default;
+};
+
+/// The stock of grids on the page "Résultats", with these behind what it holds.
+struct VersTickets {
+    std::vector<Grille> grilles;
+
+    friend bool operator==(const VersTickets&, const VersTickets&) = default;
+};
+
+using Destination = std::variant<VersTirage, VersHistorique, VersTickets>;
+
+}  // namespace norvane::ui

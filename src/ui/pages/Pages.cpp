@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pages/Pages.h"
+
+#include <array>
+
+#include "avenir/PageAVenir.h"
+#include "combinaisons/PageCombinaisons.h"
+#include "resultats/PageResultats.h"
+#include "statistiques/PageStats.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Fabrique = Page* (*)(Contexte&, QWidget*);
+
+constexpr std::array<Fabrique, 10> Fabriques = {
+    [](Contexte& c, QWidget* p) -> Page* { return new PageResultats(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageStats(c, GenreStats::Numeros, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageStats(c, GenreStats::Chances, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageCombinaisons(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* {
+        return new PageAVenir(c, u"Varo9"_s, u"Combinaisons N + C"_s,
+                              u"Cette page donnera les combinaisons de numéros et de chances, "
+                              u"leurs sorties par catégorie de gain et leurs filtres."_s,
+                              p);
+    },
+    [](Contexte& c, QWidget* p) -> Page* {
+        return new PageAVenir(c, u"Varo4"_s, u"Analyses N"_s,
+                              u"Cette page donnera le rapport d'analyses des tirages d'un "
+                              u"intervalle, à parcourir, à imprimer et à enregistrer."_s,
+                              p);
+    },
+    [](Contexte& c, QWidget* p) -> Page* {
+        return new PageAVenir(c, u"Varo5"_s, u"Graphes"_s,
+                              u"Cette page donnera les graphes des sorties, écarts et suites des "
+                              u"numéros et des chances."_s,
+                              p);
+    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriquesAVenir(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* {
+        return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
+                              u"Cette page imprimera vos grilles sur les bulletins de jeu."_s, p);
+    },
+    [](Contexte& c, QWidget* p) -> Page* {
+        return new PageAVenir(c, u"Varo10"_s, u"Systèmes réducteurs"_s,
+                              u"Cette page réduira une sélection de numéros à un système dont la "
+                              u"garantie est prouvée."_s,
+                              p);
+    },
+};
+
+}  // namespace
+
+std::vector<Page*> creerPages(Contexte& contexte, QWidget* parent) {
+    std::vector<Page*> pages;
+    for (const Fabrique creer : Fabriques) pages.push_back(creer(contexte, parent));
+    return pages;
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "resultats/PanneauAleatoire.h"
+
+#include <algorithm>
+#include <QButtonGroup>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "base/Textes.h"
+#include "common/Theme.h"
+#include "pages/Page.h"
+#include "widgets/ChampNumero.h"
+#include "widgets/Fiche.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+PanneauAleatoire::PanneauAleatoire(QWidget* parent) : QWidget(parent) {
+    auto* pile = new QVBoxLayout(this);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(Unite);
+    pile->addWidget(creerTypes(), 1);
+    pile->addLayout(creerNombre());
+}
+
+/// One column for each count of numbers, one row for each count of chances.
+QWidget* PanneauAleatoire::creerTypes() {
+    auto* cadre = new QFrame(this);
+    cadre->setObjectName(u"GroupBox2"_s);
+    cadre->setAccessibleName(u"Type des grilles"_s);
+    auto* grille = new QGridLayout(cadre);
+    grille->setContentsMargins(0, 0, 0, 0);
+    grille->setHorizontalSpacing(Unite);
+    grille->setVerticalSpacing(0);
+    types_ = new QButtonGroup(this);
+    int place = 0;
+    for (const TypeGrille& type : TypesVendus) {
+        auto* radio = new QRadioButton(versQt(LibelleType(type)), cadre);
+        types_->addButton(radio, place++);
+        grille->addWidget(radio, type.c - 1, type.n - TypesVendus.front().n);
+    }
+    types_->button(0)->setChecked(true);
+    return cadre;
+}
+
+QLayout* PanneauAleatoire::creerNombre() {
+    ButtonAleatoire =
+        bouton(u"ButtonAleatoire"_s, u"Grille(s) &Aléatoire(s)"_s,
+               u"Une grille sur la planche, ou plusieurs ajoutées à la liste"_s, this);
+    ButtonAleatoire->setMinimumHeight(ButtonAleatoire->minimumHeight() - Unite);
+    Edit24 = new ChampNumero(u"Edit24"_s, this);
+    Edit24->setAccessibleName(u"Nombre de grilles aléatoires"_s);
+    Edit24->setFixedWidth(Edit24->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
+    UpDown24 = new HautBas(u"UpDown24"_s, this);
+    for (QWidget* w : {static_cast<QWidget*>(Edit24), static_cast<QWidget*>(UpDown24)}) {
+        poserIndice(w, u"Sélection du nombre de grilles à générer aléatoirement"_s);
+    }
+    surReste_ = legende({}, this);
+    surReste_->setObjectName(u"LabelReste"_s);
+    connect(ButtonAleatoire, &QPushButton::clicked, this, &PanneauAleatoire::ButtonAleatoireClick);
+    connect(Edit24, &QLineEdit::textChanged, this, &PanneauAleatoire::borner);
+    connect(Edit24, &ChampNumero::deplacement, this, &PanneauAleatoire::deplacer);
+    connect(Edit24, &ChampNumero::extremite, this,
+            [this](bool dernier) { Edit24->setText(QString::number(dernier ? reste_ : 1)); });
+    connect(UpDown24, &HautBas::deplacement, this, &PanneauAleatoire::deplacer);
+    auto* ligne = rangee({ButtonAleatoire, Edit24, UpDown24, surReste_});
+    ligne->insertSpacing(1, Unite);
+    ligne->addStretch(1);
+    return ligne;
+}
+
+void PanneauAleatoire::poserReste(int reste) {
+    if (reste == reste_) return;
+    reste_ = reste;
+    surReste_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(reste))));
+    Edit24->setText(QString::number(reste));
+}
+
+TypeGrille PanneauAleatoire::type() const {
+    return TypesVendus[static_cast<std::size_t>(types_->checkedId())];
+}
+
+int PanneauAleatoire::nombre() const {
+    return Edit24->text().toInt();
+}
+
+void PanneauAleatoire::deplacer(int pas) {
+    Edit24->setText(QString::number(std::clamp(nombre() + pas, 0, reste_)));
+}
+
+void PanneauAleatoire::borner() {
+    if (nombre() > reste_) Edit24->setText(QString::number(reste_));
+    ButtonAleatoire->setEnabled(!Edit24->text().isEmpty());
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/ColonnesStats.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QRadialGradient>
+
+#include "base/Dates.h"
+#include "base/Textes.h"
+#include "widgets/VueTableau.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString FinIndice = u": cliquez pour trier (SHIFT+CLIC=tri secondaire)"_s;
+
+constexpr double PolicePosition = 8.0;  // points, times Echelle
+constexpr double PoliceElement = 13.0;  // points, times Echelle
+constexpr double LargeurDate = 215.0;   // design units
+
+ColonneTableau chiffres(const QString& entete, const QString& sens, double largeur,
+                        const QString& etalon) {
+    ColonneTableau c;
+    c.entete = entete;
+    c.indice = sens + FinIndice;
+    c.largeur = largeur;
+    c.comparer = ComparerAlphanumerique;
+    c.alignement = Qt::AlignRight;
+    c.etalon = etalon;
+    return c;
+}
+
+ColonneTableau date() {
+    ColonneTableau c;
+    c.entete = u"Date"_s;
+    c.indice = u"Date de plus récente apparition"_s + FinIndice;
+    c.largeur = LargeurDate;
+    c.comparer = ComparerDatesFrancaises;
+    c.alignement = Qt::AlignLeft;
+    c.adaptable = false;
+    return c;
+}
+
+/// A rank that never came out stands before every date.
+int ComparerDatesRang(std::string_view a, std::string_view b) {
+    const auto lisible = [](std::string_view texte) {
+        return Rogner(texte) == "Jamais sorti" ? PasEncoreSorti : texte;
+    };
+    return ComparerDatesFrancaises(lisible(a), lisible(b));
+}
+
+}  // namespace
+
+std::vector<ColonneTableau> ColonnesStats(GenreStats genre) {
+    const bool numeros = genre == GenreStats::Numeros;
+    ColonneTableau pos;
+    pos.entete = u"Pos"_s;
+    pos.indice =
+        u"Position %1 dans le tri actuel (clic sur l'en-tête des colonnes pour trier)"_s.arg(
+            numeros ? u"du numéro"_s : u"de la chance"_s);
+    pos.largeur = 28;
+    pos.police = PolicePosition;
+    pos.position = true;
+    pos.etalon = u"49"_s;
+
+    ColonneTableau num = chiffres(numeros ? u"Num"_s : u"Chance"_s,
+                                  numeros ? u"Numéros"_s : u"Chances"_s, 34, u"49"_s);
+    num.alignement = Qt::AlignHCenter;
+    num.police = PoliceElement;
+    num.gras = true;
+    if (!numeros) num.image = ImageChance();
+
+    ColonneTableau ratio = chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s);
+    ColonneTableau ecartMax = chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s);
+    ColonneTableau suiteMax = chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s);
+    return {pos,
+            num,
+            chiffres(u"NbS"_s, u"Nombre de Sorties"_s, 34, u"000"_s),
+            ratio,
+            date(),
+            chiffres(u"E"_s, u"Écart"_s, 30, u"0000"_s),
+            chiffres(u"EM"_s, u"Écart Moyen"_s, 38, u"0000,00"_s),
+            ecartMax,
+            chiffres(u"S"_s, u"Suite"_s, 24, u"00"_s),
+            suiteMax};
+}
+
+std::vector<ColonneTableau> ColonnesCouples() {
+    ColonneTableau couples = chiffres(u"Couples"_s, u"Couples"_s, 60, u"00 00"_s);
+    couples.comparer = nullptr;  // the first column is never a sort key
+    return {couples,
+            chiffres(u"Sorties"_s, u"Nombre de Sorties"_s, 48, u"000"_s),
+            chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s),
+            date(),
+            chiffres(u"Ecart"_s, u"Écart"_s, 40, u"0000"_s),
+            chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
+            chiffres(u"Suite"_s, u"Suite"_s, 36, u"00"_s),
+            chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s)};
+}
+
+std::vector<ColonneTableau> ColonnesCombinaison() {
+    ColonneTableau sortis = chiffres(u"Sortis"_s, u"Nombre de bons numéros"_s, 40, u"0"_s);
+    sortis.gras = true;
+    ColonneTableau quand = date();
+    quand.largeur = 100;
+    quand.comparer = ComparerDatesRang;
+    quand.adaptable = true;
+    quand.etalon = u"mercredi 30 septembre 2026"_s;
+    return {sortis,
+            chiffres(u"Nbfois"_s, u"Nombre de tirages"_s, 44, u"0000"_s),
+            chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s),
+            quand,
+            chiffres(u"Ecart"_s, u"Écart"_s, 40, u"0000"_s),
+            chiffres(u"Ecartmax"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
+            chiffres(u"Suite"_s, u"Suite"_s, 36, u"0000"_s),
+            chiffres(u"Suitemax"_s, u"Suite Max"_s, 70, u"0000  (00 0000)"_s)};
+}
+
+CelluleTableau CelluleRatio(const std::string& precis, int graphique, bool barre) {
+    CelluleTableau cellule;
+    cellule.brut = graphique;
+    cellule.barre = barre;
+    cellule.texte = barre ? std::to_string(graphique) : precis;
+    cellule.accessible = QString::fromStdString(precis);
+    return cellule;
+}
+
+ContenuBulle BulleRatio(const VueTableau& table, const QModelIndex& index, int colonneRatio) {
+    if (index.column() != colonneRatio || !table.modele().cellule(index).barre) return {};
+    const int valeur = table.modele().cellule(index).brut.toInt();
+    return {u"Ratio Précis"_s, QString::fromStdString(FormaterDecimal(valeur * 0.01, 1)) + u"% "_s};
+}
+
+int TirageMaximum(std::string_view cellule, int inf) {
+    const MaximumLu lu = LireCelluleMaximum(cellule);
+    return lu.nombre != 0 && lu.position != inf - 1 ? lu.position : 0;
+}
+
+std::vector<DegradeCellule> DegradesStats(GenreStats genre) {
+    const DegradeCellule absent{QColor(0x4D, 0xA6, 0xFF), QColor(0xDF, 0xEF, 0xFF), Qt::black};
+    const DegradeCellule present =
+        genre == GenreStats::Numeros
+            ? DegradeCellule{QColor(0x00, 0x00, 0x80), QColor(0x35, 0x36, 0xFF), Qt::white}
+            : DegradeCellule{QColor(0x9D, 0x00, 0x00), QColor(0xDD, 0x00, 0x00), Qt::white};
+    return {absent, present};
+}
+
+QIcon ImageChance() {
+    QIcon icone;
+    for (const int cote : {16, 24, 32, 48, 64, 96}) {
+        QPixmap image(cote, cote);
+        image.fill(Qt::transparent);
+        QPainter p(&image);
+        p.setRenderHint(QPainter::Antialiasing);
+        const QRectF cadre(0.5, 0.5, cote - 1, cote - 1);
+        QRadialGradient lueur(QPointF(cote * 0.36, cote * 0.30), cote * 0.75);
+        lueur.setColorAt(0, QColor(0xFF, 0x8A, 0x80));
+        lueur.setColorAt(0.45, QColor(0xE0, 0x1B, 0x1B));
+        lueur.setColorAt(1, QColor(0x8E, 0x00, 0x00));
+        p.setPen(Qt::NoPen);
+        p.setBrush(lueur);
+        p.drawEllipse(cadre);
+        QFont lettre;
+        lettre.setPixelSize(cote * 62 / 100);
+        lettre.setBold(true);
+        p.setFont(lettre);
+        p.setPen(Qt::white);
+        p.drawText(cadre, Qt::AlignCenter, u"C"_s);
+        p.end();
+        icone.addPixmap(image);
+    }
+    return icone;
+}
+
+}  // namespace norvane::ui

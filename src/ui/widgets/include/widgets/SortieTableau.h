@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A table on show saved to a file or sent to the printer.
+#pragma once
+
+#include <QString>
+
+#include "common/Contexte.h"
+#include "stats/ExportTableau.h"
+
+namespace norvane::ui {
+
+/// Asks for a file and writes the table as text or CSV, after the file's extension; the chosen
+/// filter's own is appended to a name that has neither. A failure is told.
+void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
+                   const QString& titre, const QString& nomPropose);
+
+/// Asks for a printer and prints the table on A4 pages with a repeated heading and page numbers.
+/// A failure is told.
+void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
+                     const QString& titre);
+
+}  // namespace norvane::ui
