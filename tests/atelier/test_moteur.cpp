@@ -364,7 +364,10 @@ TEST(Moteur, BoundsFillTheListInMemory) {
     Page page(BaseIntegree(false));
     page.atelier.modeListe = ModeListe::Bornes;
     page.intervalle(11, 3210);
-    EXPECT_EQ(page.cliquer(3, 9, 99).message, "");
+    auto reponse = page.moteur.Cliquer(3, 9, 99);
+    EXPECT_EQ(page.mener(reponse).message, "");
+    EXPECT_EQ(reponse.travail->progres.total(), 48);
+    EXPECT_GT(reponse.travail->progres.fait(), 40);
     const Liste& liste = page.atelier.ListeMemoire;
     const Liste avant = liste;
     EXPECT_GT(avant.nombre(), 0U);
@@ -385,7 +388,7 @@ TEST(Moteur, BoundsFillTheListInMemory) {
     page.moteur.octetsMax = 0;
 
     page.atelier.modeStockage = ModeStockage::TousLesRangs;
-    auto reponse = page.moteur.Cliquer(5, 0, 99);
+    reponse = page.moteur.Cliquer(5, 0, 99);
     EXPECT_EQ(reponse.travail->description,
               (DescriptionTravail{GenreTravail::Bornes, 5, QuelleListe::Memoire}));
     EXPECT_TRUE(page.mener(reponse, true).arrete);
