@@ -1,153 +1,10 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <fmt/format.h>
-#include <fmt/ranges.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <charconv>
-#include <random>
-#include <set>
-#include <sstream>
-
+#include "EssaiBillets.h"
 #include "SeptTirages.h"
-#include "tickets/FichiersGrilles.h"
-#include "tickets/SaisieBillets.h"
 
 namespace norvane {
 namespace {
-
-/// Ticket number k of the tests: the numbers k+4 down to k, the chance 1 + k % 10.
-Grille Ticket(int k, bool option = false) {
-    return FaireGrille({k + 4, k + 3, k + 2, k + 1, k}, {1 + k % 10}, option);
-}
-
-/// "t3", "t3'" with the option, "_" for an empty place, other tickets in full.
-std::string Dire(const Grille& grille) {
-    if (grille.vide()) return "_";
-    const int k = grille.n() == 5 ? *std::min_element(grille.numeros.begin(), grille.numeros.end())
-                                  : NumeroMax;
-    for (const bool option : {false, true})
-        if (k <= NumeroMax - 4 && grille == Ticket(k, option))
-            return fmt::format("t{}{}", k, option ? "'" : "");
-    return fmt::format("{}+{}@{}", fmt::join(grille.numeros, "."), fmt::join(grille.chances, "."),
-                       grille.mise);
-}
-
-std::string Dire(const std::vector<Grille>& grilles) {
-    std::string texte;
-    for (const Grille& grille : grilles) texte += (texte.empty() ? "" : " ") + Dire(grille);
-    return texte;
-}
-
-/// A machine driven by words, each an event: a letter, then a number.
-struct Essai {
-    Billets billets;
-    SaisieBillets saisie{billets};
-    const Dossier dossier;
-
-    /// Why the event was refused, or empty.
-    std::string faire(char evenement, int n) {
-        const auto dire = [](const Reponse& refus) { return refus ? refus->phrase : ""; };
-        const auto echec = [](const Resultat<Rien>& fait) { return fait ? "" : fait.erreur(); };
-        switch (evenement) {
-            case 'E':
-                return saisie.commencer(n == 1), "";  // 0 grids, 1 receipt
-            case 'n':
-                return dire(saisie.basculer(GenreStats::Numeros, n));
-            case 'c':
-                return dire(saisie.basculer(GenreStats::Chances, n));
-            case 't':
-                return prendre(n), "";
-            case 'x':
-                return saisie.decocherTout(), "";
-            case 'o':
-                return saisie.poserOption(n == 1), "";
-            case 'd':
-                return dire(saisie.deplacer(n));
-            case 'a':
-                return dire(saisie.ajouter());
-            case 'h':
-                return saisie.tirerAuHasard({5, 1}, n), "";
-            case 's':
-                return saisie.supprimer(), "";
-            case 'p':
-                return dire(saisie.preparerSuppressionTotale());
-            case 'S':
-                return saisie.supprimerTout(), "";
-            case 'q':
-                return dire(saisie.peutArreter());
-            case 'Q':
-                return saisie.arreter(), "";
-            case 'f':
-                return saisie.terminer(), "";
-            case 'k':
-                return saisie.choisirCompteJoker(n), "";
-            case 'j':
-                return dire(saisie.validerJoker(fmt::format("{:07}", n), 2, true));
-            case 'v':
-                return echec(saisie.enregistrerRecu(dossier.chemin(), n, false));
-            case 'V':
-                return echec(saisie.enregistrerRecu(dossier.chemin(), n, true));
-            case 'C':
-                return dire(saisie.consulter());
-            case 'l':
-                return saisie.choisirListe(n == 1), "";
-            case 'b':
-                return copier(n);
-            case 'w':
-                return echec(saisie.sauver(dossier / "a.grl"));
-            case 'g':
-                return echec(saisie.ouvrirGrilles(dossier / "a.grl"));
-            case 'r':
-                return echec(saisie.ouvrirRecu(FichierRecu(dossier.chemin(), n)));
-            default:
-                return "unknown event";
-        }
-    }
-    void prendre(int k) {
-        saisie.decocherTout();
-        const Grille ticket = Ticket(k);
-        for (const int v : ticket.numeros) EXPECT_FALSE(saisie.basculer(GenreStats::Numeros, v));
-        for (const int v : ticket.chances) EXPECT_FALSE(saisie.basculer(GenreStats::Chances, v));
-    }
-    std::string copier(int nombre) {
-        if (const auto refus = saisie.peutCopier()) return refus->phrase;
-        return saisie
-            .CopierversBulletins(std::vector<Grille>(static_cast<std::size_t>(nombre), Ticket(40)))
-            .phrase();
-    }
-
-    /// Every event in turn; what the last one was refused with. The others must go through.
-    std::string jouer(const std::string& evenements) {
-        std::istringstream mots(evenements);
-        std::string refus;
-        for (std::string mot; mots >> mot;) {
-            EXPECT_EQ(refus, "") << "before " << mot << " of " << evenements;
-            int n = 0;
-            std::from_chars(mot.data() + 1, mot.data() + mot.size(), n);
-            refus = faire(mot[0], n);
-        }
-        return refus;
-    }
-
-    /// State, place of the ticket in hand and that ticket, then what is in memory.
-    std::string etat() const {
-        constexpr const char* etats[] = {"Normal", "Grilles", "Recu", "Joker", "Consultation"};
-        constexpr const char* etapes[] = {"Compte", "Numeros", "Date"};
-        std::string texte = etats[static_cast<std::size_t>(saisie.etat())];
-        if (saisie.etat() == EtatTickets::Joker)
-            texte += etapes[static_cast<std::size_t>(saisie.etape())];
-        texte += fmt::format(" {}/{} {}{}", saisie.grille(), saisie.nombre(),
-                             Dire(saisie.grilleEnMain()), saisie.option2nd() ? " 2nd" : "");
-        texte += fmt::format(" [{}] recu[{}] choix[{}]{}", Dire(billets.ListeGrilles),
-                             Dire(billets.ListeRecu), Dire(billets.ListeChoix),
-                             billets.aSauver ? "*" : "");
-        for (const LigneJoker& ligne : billets.ListeJoker)
-            texte += fmt::format(" J{}x{}", fmt::join(ligne.chiffres, ""), ligne.code);
-        return texte;
-    }
-};
 
 constexpr const char* Incomplete = "La grille en cours n'est pas complète...";
 constexpr const char* Aucune = "Aucune grille sélectionnée...";
@@ -168,7 +25,7 @@ void Verifier(std::span<const Cas> tous) {
     }
 }
 
-// A ticket in hand shows its unticked stake only in the lists: Dire prints it in full until then.
+// What is being ticked is told in full: it has no stake before it goes to its place.
 TEST(SaisieBillets, EntryOfGrids) {
     const Cas cas[] = {
         {"E0", "", "Grilles 1/1 _ [_] recu[] choix[]"},
@@ -536,69 +393,6 @@ TEST(SaisieBillets, JokerAndDates) {
     for (const auto& [jour, prochain] : prochains) {
         EXPECT_EQ(ProchainJourDeTirage(jour), prochain);
         EXPECT_EQ(e.saisie.peutDater(jour).has_value(), jour != prochain) << jour;
-    }
-}
-
-/// What must hold whatever was done. `sauvees`: the lists that a file holds.
-void VerifierInvariants(const Essai& e, const std::set<std::string>& sauvees) {
-    const SaisieBillets& s = e.saisie;
-    const Billets& b = e.billets;
-    const auto aucuneVide = [](const std::vector<Grille>& liste) {
-        return std::none_of(liste.begin(), liste.end(), [](auto& g) { return g.vide(); });
-    };
-    ASSERT_LE(s.nombre(), NbGrillesMax);
-    ASSERT_LE(b.ListeChoix.size(), std::size_t{NbGrillesMax});
-    ASSERT_TRUE(aucuneVide(b.ListeChoix) && aucuneVide(b.ListeRecu));
-    ASSERT_TRUE(s.surPlanche() || aucuneVide(b.ListeGrilles));
-    ASSERT_NE(TableMises(s.grilleEnMain().n(), s.grilleEnMain().c()), MiseInjouable);
-    if (s.surPlanche() || s.enConsultation()) {
-        ASSERT_EQ(s.grille() == 0, b.ListeGrilles.empty());
-        ASSERT_LE(s.grille(), s.nombre());
-    } else {
-        ASSERT_TRUE(s.grilleEnMain().vide());
-    }
-    if (s.enConsultation()) {
-        ASSERT_TRUE(ListesEgales(b.ListeGrilles, s.ModeGrilles() ? b.ListeChoix : b.ListeRecu));
-        ASSERT_TRUE(s.grille() == 0 ||
-                    s.grilleEnMain() == b.ListeGrilles[static_cast<std::size_t>(s.grille() - 1)]);
-    }
-    ASSERT_TRUE(!b.aSauver || !b.ListeChoix.empty());
-    ASSERT_TRUE(b.aSauver || s.surPlanche() || b.ListeChoix.empty() ||
-                sauvees.contains(TexteGrilles(b.ListeChoix)));
-    const auto secours = s.grillesSecours();
-    ASSERT_TRUE(aucuneVide(secours));
-    ASSERT_TRUE(s.enSelection() || b.ListeChoix.empty() || ListesEgales(secours, b.ListeChoix));
-}
-
-TEST(SaisieBillets, RandomWalks) {
-    constexpr std::string_view gestes = "EEEttttttnnnccccxodddaaaaahhsspSQffkjvVCCClbwgr";
-    for (unsigned graine = 1; graine <= 30; ++graine) {
-        std::mt19937 alea(graine);
-        Essai e;
-        std::set<std::string> sauvees;
-        std::string histoire;
-        if (graine % 10 == 0) {  // close to the capacity
-            e.billets.ListeChoix.assign(NbGrillesMax - 4, Ticket(1));
-            e.billets.aSauver = true;
-        }
-        for (int pas = 0; pas < (graine % 10 == 0 ? 150 : 1500); ++pas) {
-            const char geste = gestes[alea() % gestes.size()];
-            int n = static_cast<int>(alea() % 10) + 1;
-            if (geste == 'E' || geste == 'o' || geste == 'l') n %= 2;
-            if (geste == 'v' || geste == 'V' || geste == 'r') n = 20240800 + n % 8;
-            if (geste == 'k') n %= 3;
-            // The questions before what would be lost are answered: saved first, or let go.
-            if ((geste == 'S' && e.saisie.suppressionPerdrait() && n < 6) ||
-                (geste == 'w' && !e.saisie.surPlanche())) {
-                ASSERT_TRUE(e.saisie.sauver(e.dossier / "a.grl"));
-                sauvees.insert(lire(e.dossier / "a.grl"));
-            }
-            if (geste == 'w') continue;
-            histoire += fmt::format(" {}{}", geste, n);
-            if (histoire.size() > 400) histoire.erase(0, 200);
-            e.faire(geste, n);
-            ASSERT_NO_FATAL_FAILURE(VerifierInvariants(e, sauvees)) << graine << histoire;
-        }
     }
 }
 
