@@ -68,8 +68,8 @@ void Moteur::stocker(std::span<const Combinaison> lignes, FinTraitement& fin, in
         etat.NbTiragesComb[n] = passage_->NbTiragesCombSauve;
         return;
     }
+    if (atelier_.series || atelier_.intervalleEntier()) etat.NbTiragesPerime[n].reset();
     if (atelier_.series || !atelier_.intervalleEntier()) return;
-    etat.NbTiragesPerime[n].reset();
     const auto ecrit = EcrireCombCalc(etat, atelier_.Repertoire);
     if (!ecrit) fin.message = ecrit.erreur();
 }
@@ -98,10 +98,14 @@ void Moteur::finirAvance(TCombNewSearch& fil, FinTraitement& fin) {
 }
 
 void Moteur::finirBornes(TRechercheBornes& fil, FinTraitement& fin) {
-    if (!fin.message.empty() || !fil.aTourne()) return;
+    PuitsListe& puits = *passage_->puitsListe;
     Liste& liste = atelier_.liste(fil.description.liste);
-    liste = std::move(passage_->puitsListe->liste);
-    liste.partielle = fin.arrete;
+    if (!fin.message.empty() || !fil.aTourne()) {
+        liste = std::move(puits.avant);
+        return;
+    }
+    liste = std::move(puits.liste);
+    liste.partielle = fin.arrete = !fil.complet();
 }
 
 }  // namespace norvane

@@ -102,6 +102,8 @@ void Vider(Liste& liste);
 
 /// By the numbers, the first difference deciding; lines with equal numbers keep their order.
 void TrierLexico(Liste& liste, bool croissant);
+/// The highest count of the first rank first; lines with equal counts by their numbers, ascending.
+void TrierFrequence(Liste& liste);
 /// Sorts by the numbers, ascending, and of lines with equal numbers keeps the last. How many went.
 std::size_t RetirerDoublons(Liste& liste);
 
