@@ -5,6 +5,7 @@
 // tests hold several side by side.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,6 +14,8 @@
 #include "base/Configuration.h"
 #include "base/Travail.h"
 #include "comb/EtatCombinaisons.h"
+#include "comb/Selection.h"
+#include "lists/Liste.h"
 #include "stats/Occurrences.h"
 #include "tickets/Grille.h"
 #include "tickets/Rangs.h"
@@ -31,13 +34,37 @@ struct IntervalleStats {
     friend bool operator==(const IntervalleStats&, const IntervalleStats&) = default;
 };
 
+/// What the lists of the engine are used for.
+enum class ModeListe { Extremes = 0, Bornes = 1, Manipulation = 2 };
+
+/// The bounds that go with an interval, set aside while the other mode (all combinations, series)
+/// is on. At first it fits no interval.
+struct EtatMoteur {
+    int IntervalleInf = 0;
+    int IntervalleSup = 0;
+    EtatCombinaisons combinaisons;
+};
+
 struct Atelier {
     std::filesystem::path Repertoire;  ///< the program's directory; every file is relative to it
     Configuration configuration;
     Base base;
     Occurrences occurrences;
-    EtatCombinaisons combinaisons;
     IntervalleStats StatsNumeros;
+
+    EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
+    bool series = false;                ///< the engine looks at series of consecutive numbers alone
+    EtatMoteur EtatNormal;              ///< set aside on entering the series mode
+    EtatMoteur EtatSeries;              ///< set aside on leaving it
+    GrilleSelection grilleSelection{};  ///< the numbers checked
+    GrilleSelection SelectionGardee{};  ///< set aside on entering the series mode
+    Selection selection;                ///< the selection in force, over the interval in force
+
+    ModeListe modeListe = ModeListe::Extremes;
+    ModeStockage modeStockage = ModeStockage::PremierRang;  ///< of the next search by bounds
+    Liste ListeExtremes;
+    Liste ListeMemoire;
+    std::array<Liste, 3> ListeTampon;
 
     std::vector<Grille> ListeGrilles;    ///< the working list of tickets
     std::vector<Grille> ListeRecu;       ///< the tickets of the receipt in memory
@@ -46,8 +73,8 @@ struct Atelier {
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
-    bool Relance = false;           ///< the program must start itself again after closing
-    bool FiltreActif = false;       ///< the base in memory is a filtered one
+    bool Relance = false;      ///< the program must start itself again after closing
+    bool FiltreActif = false;  ///< the base in memory is a filtered one
 
     /// What the user must be told once the window stands: one French sentence each.
     std::vector<std::string> avertissements;
@@ -56,8 +83,24 @@ struct Atelier {
     /// occurrence structures. Cannot fail: what is damaged is replaced and told in avertissements.
     explicit Atelier(std::filesystem::path repertoire);
 
-    /// Structures and state again after a change of the base.
-    void recalculer();
+    /// Everything that hangs on the draws again after a change of the base: structures, the
+    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied and
+    /// the list mode is the first one. An error is that of relireEtat; all else is done.
+    Resultat<Rien> recalculer();
+
+    /// The bounds of the whole base as the file holds them. On an error all are void.
+    Resultat<Rien> relireEtat();
+
+    /// Draws of the global interval.
+    int tailleIntervalle() const {
+        return occurrences.IntervalleSup - occurrences.IntervalleInf + 1;
+    }
+    bool intervalleEntier() const {
+        return occurrences.IntervalleInf == 1 && occurrences.IntervalleSup == base.NbTirages;
+    }
+
+    /// Any but QuelleListe::Aucune.
+    Liste& liste(QuelleListe laquelle);
 
     /// Saves the base to norvane.db when it differs from what was loaded or last saved, or when
     /// there is no such file yet. Does nothing while the base in memory is a filtered one; refuses

@@ -9,14 +9,12 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <string>
 
 #include "base/Resultat.h"
+#include "comb/Combinaison.h"
 
 namespace norvane {
 
-inline constexpr int TailleCombMin = 2;
-inline constexpr int TailleCombMax = 10;
 inline constexpr const char* NomCombCalc = "COMBCALC.INI";
 
 /// Tables indexed by the size, 2..10; the first two entries are unused.
@@ -42,13 +40,6 @@ Resultat<Rien> EcrireCombCalc(const EtatCombinaisons& etat,
 
 /// Nine lines "0 0 1": every size counts as never computed.
 Resultat<Rien> EcrireCombCalcNeutre(const std::filesystem::path& repertoire);
-
-/// "Borne Inf calculée pour 3214 tirages" and its twin, or "Borne Inf en attente de calcul".
-struct LibellesBornes {
-    std::string inf;
-    std::string sup;
-};
-LibellesBornes LibellesBornesTaille(const EtatCombinaisons& etat, int taille, int tailleIntervalle);
 
 /// The files set aside while the base is filtered come back: the filtered COMBCALC.INI and
 /// comb2.dat to comb5.dat are deleted first, then their backups renamed. Sizes 6 to 10 are not

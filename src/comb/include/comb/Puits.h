@@ -6,8 +6,8 @@
 
 #include <cstddef>
 #include <span>
-#include <string>
 
+#include "comb/Combinaison.h"
 #include "comb/Enregistrement.h"
 
 namespace norvane {
@@ -20,8 +20,8 @@ class Puits {
 
     /// Position of the gauge, 0 to the maximum that belongs to the search.
     virtual void SetProgress(int valeur) = 0;
-    /// Text lines, thousands at a time.
-    virtual void AddLine(std::span<const std::string> lignes) = 0;
+    /// Lines of a list of extremes, thousands at a time.
+    virtual void AddLine(std::span<const Combinaison> lignes) = 0;
     /// Whole records one behind the other, thousands at a time. Extremes: 1 + N words, the count
     /// and the N numbers. Bounds: the words of the Disposition of the search.
     virtual void AddRecord(std::span<const Mot> mots) = 0;
@@ -36,7 +36,7 @@ class Puits {
 class PuitsMuet : public Puits {
  public:
     void SetProgress(int /*valeur*/) override {}
-    void AddLine(std::span<const std::string> /*lignes*/) override {}
+    void AddLine(std::span<const Combinaison> /*lignes*/) override {}
     void AddRecord(std::span<const Mot> /*mots*/) override {}
     void SetStatusProgress(int /*valeur*/) override {}
 };

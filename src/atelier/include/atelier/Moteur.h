@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The conduct of the combination engine: what a click on a size does, what the end of a worker
+// leaves in the lists, the bounds and the files.
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "atelier/Atelier.h"
+#include "base/Travail.h"
+#include "comb/VaroFonc2.h"
+
+namespace norvane {
+
+/// The bounds of one size.
+struct BornesAffichees {
+    bool calculee = false;  ///< for the interval in force; where not, the values are former ones
+    int BorneInf = 0;       ///< limits of both ends; the ends themselves are these too
+    int BorneSup = 0;
+    int NbTirages = 0;  ///< draws they were computed on
+
+    friend bool operator==(const BornesAffichees&, const BornesAffichees&) = default;
+};
+
+/// Answer to a click on a size.
+struct ReponseClic {
+    enum class Genre : std::uint8_t {
+        Lance,    ///< start `travail`; at its end call TraitementTermine
+        Affiche,  ///< the list of the mode changed at once
+        Refuse    ///< nothing changed; `message` tells why
+    };
+    Genre genre;
+    std::string message;  ///< one sentence for the user, empty when there is nothing to say
+    PtrTravail travail;   ///< not started; its progress has the total already
+};
+
+/// What the end of a worker leaves.
+struct FinTraitement {
+    bool arrete = false;             ///< stopped: nothing was stored
+    std::string message;             ///< refusal or failure, one sentence; empty when there is none
+    std::optional<double> secondes;  ///< from the click on; none after a recount by the way
+    bool debordement = false;        ///< extremes: only the first could be kept (Liste::total)
+};
+
+/// All calls come from the main thread. The atelier must outlive every job that was given out;
+/// nothing that a search reads may change while it runs.
+class Moteur {
+ public:
+    explicit Moteur(Atelier& atelier) : atelier_(atelier) {}
+    Moteur(const Moteur&) = delete;
+    Moteur& operator=(const Moteur&) = delete;
+
+    unsigned threads = 0;         ///< see ContexteComb
+    std::uint64_t octetsMax = 0;  ///< see ContexteComb
+
+    /// A click on a size while none runs: refused while work is under way. `inf`, `sup` are looked
+    /// at in ModeListe::Bornes alone. A list of extremes is counted, brought forward draw by draw
+    /// where the interval is shorter than the stored one, or read from its file.
+    ReponseClic Cliquer(int taille, int inf = 0, int sup = 0);
+
+    /// The end handler, once for each job that Cliquer gave out; it waits for the job. One that
+    /// was never started leaves everything as it was before the click.
+    FinTraitement TraitementTermine(Travail& travail);
+
+    BornesAffichees AfficherBornes(int taille) const;
+    /// Element 0 for size 2.
+    std::array<BornesAffichees, TailleCombMax - TailleCombMin + 1> RafraichirBornes() const;
+
+ private:
+    struct Passage;  // one run
+
+    Atelier& atelier_;
+    std::unique_ptr<Passage> passage_;
+};
+
+}  // namespace norvane
