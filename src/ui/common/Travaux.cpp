@@ -26,7 +26,7 @@ Travaux::~Travaux() {
     travail_.reset();  // while this can still be told of its end
 }
 
-bool Travaux::lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+bool Travaux::lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                      std::function<void(Travail&)> fin) {
     Q_ASSERT(!travail_);
     travail->surFin = [this] {

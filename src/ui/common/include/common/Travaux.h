@@ -36,8 +36,8 @@ class Travaux final : public QObject {
     /// Starts `travail`. `fin` is called on the main thread when it is through, however it ended,
     /// and no longer counts; never when `pour` is gone by then. At most one work runs at a time:
     /// the busy rule is the caller's to ask first (Contexte::refuserSiOccupe). False, with a
-    /// sentence in erreur(), when the machine could not start it.
-    bool lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+    /// sentence in erreur(), when the machine could not start it: it stays the caller's then.
+    bool lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                 std::function<void(Travail&)> fin);
 
     /// Asks the work in hand to stop; does nothing without one.
