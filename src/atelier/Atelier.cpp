@@ -49,17 +49,44 @@ Atelier::Atelier(std::filesystem::path repertoire)
     if (!chargee.avertissement.empty()) avertissements.push_back(std::move(chargee.avertissement));
     baseSauvee_ = base;
 
-    auto etat = LireCombCalc(Repertoire, base.NbTirages);
-    if (etat) {
-        combinaisons = *etat;
-    } else {
-        avertissements.push_back(etat.erreur());
-    }
+    if (const auto lu = relireEtat(); !lu) avertissements.push_back(lu.erreur());
     ConstruireOccurrences(base, occurrences);
 }
 
-void Atelier::recalculer() {
+Resultat<Rien> Atelier::recalculer() {
     RecalculBase(base, occurrences);
+    Vider(ListeExtremes);
+    Vider(ListeMemoire);
+    modeListe = ModeListe::Extremes;
+    // A grid that was accepted is accepted over any draws.
+    auto tables = ConstruireSelection(grilleSelection, base, occurrences);
+    selection = tables ? *std::move(tables) : Selection{};
+    return relireEtat();
+}
+
+Resultat<Rien> Atelier::relireEtat() {
+    combinaisons = {};
+    auto etat = LireCombCalc(Repertoire, base.NbTirages);
+    if (!etat) return Erreur{etat.erreur()};
+    combinaisons = *etat;
+    return Rien{};
+}
+
+Liste& Atelier::liste(QuelleListe laquelle) {
+    switch (laquelle) {
+        case QuelleListe::Aucune:
+        case QuelleListe::Extremes:
+            break;
+        case QuelleListe::Memoire:
+            return ListeMemoire;
+        case QuelleListe::Tampon1:
+            return ListeTampon[0];
+        case QuelleListe::Tampon2:
+            return ListeTampon[1];
+        case QuelleListe::Tampon3:
+            return ListeTampon[2];
+    }
+    return ListeExtremes;
 }
 
 Resultat<Rien> Atelier::sauverBase() {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "comb/LigneCombinaison.h"
 #include "comb/Reduction.h"
 #include "comb/StatsCombinaison.h"
 #include "comb/VaroFonc2.h"
@@ -55,6 +56,17 @@ Resultat<Rien> Mener(TCombThread& fil) {
     return Rien{};
 }
 
+/// Keeps the results and shows how far the search is.
+class CollecteMontree : public Collecte {
+ public:
+    CollecteMontree(Progression& progression, int max) : progression_(progression), max_(max) {}
+    void SetProgress(int valeur) override { progression_.montrer(valeur, max_); }
+
+ private:
+    Progression& progression_;
+    const int max_;
+};
+
 /// Writes the records as they come.
 class Ecriture : public PuitsMuet {
  public:
@@ -98,16 +110,15 @@ Resultat<Rien> CommandeCombExtremes::executer(const Contexte& contexte, std::ost
     if (!donnees) return Erreur{donnees.erreur()};
     const Etabli atelier(*std::move(donnees));
 
-    Collecte collecte;
-    const int jauge = JaugeExtremes(*taille, series_);
-    collecte.surProgression = [&](int valeur) { contexte.progression.montrer(valeur, jauge); };
+    CollecteMontree collecte(contexte.progression, JaugeExtremes(*taille, series_));
     const auto fil = CreerRechercheExtremes(atelier.contexte(series_, ModeStockage::PremierRang),
                                             collecte, *taille);
     const auto mene = Mener(*fil);
     if (!mene) return mene;
     const Extremes& e = fil->resultat();
     fmt::print(out, "{}\t{}\t{}\t{}\n", *taille, e.BorneInf, e.BorneSup, e.nombre);
-    for (const auto& ligne : ReduireExtremes(collecte, *taille, e)) out << ligne << '\n';
+    for (const auto& ligne : ReduireExtremes(collecte, *taille, e))
+        out << LigneCombinaison(ligne) << '\n';
     return Rien{};
 }
 

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Avance.h"
+#include "comb/Avance.h"
 
 #include <algorithm>
 
 #include "comb/Collecte.h"
-#include "comb/LigneCombinaison.h"
 #include "comb/Reduction.h"
 #include "Recherche.h"
 
@@ -22,15 +21,16 @@ std::size_t Indice(int n) {
 }  // namespace
 
 TCombNewSearch::TCombNewSearch(const ContexteComb& contexte, Puits& puits, int taille,
-                               std::vector<std::string> stockees)
+                               std::vector<Combinaison> stockees)
     : TCombThread(puits, {GenreTravail::Extremes, taille, QuelleListe::Extremes}),
       BorneInf(contexte.etat.BorneInf[Indice(taille)]),
       BorneSup(contexte.etat.BorneSup[Indice(taille)]),
       lignes(std::move(stockees)),
       contexte_(contexte),
-      etat_(contexte.etat),
       taille_(taille),
-      dejaFaits_(contexte.etat.NbTiragesComb[Indice(taille)]) {}
+      dejaFaits_(contexte.etat.NbTiragesComb[Indice(taille)]) {
+    progres.commencer(contexte.base.NbTirages - dejaFaits_);
+}
 
 void TCombNewSearch::Execute() {
     const int total = contexte_.base.NbTirages;
@@ -48,22 +48,20 @@ void TCombNewSearch::Execute() {
     complet = true;
 }
 
-int TCombNewSearch::compter(std::span<const Mot> numeros) const {
+int TCombNewSearch::compter(Ensemble numeros) const {
     const auto tirages = contexte_.base.enUsage().first(Indice(dejaFaits_));
-    return static_cast<int>(std::ranges::count_if(tirages, [&](const Tirage& t) {
-        return std::includes(t.Numeros, t.Numeros + NbBoules, numeros.begin(), numeros.end());
-    }));
+    return static_cast<int>(std::ranges::count_if(
+        tirages, [&](const Tirage& t) { return Ensemble::de(t.Numeros).contient(numeros); }));
 }
 
 bool TCombNewSearch::coherente() const {
     const bool minimum = SuitMinimum(taille_, dejaFaits_);
     bool plus = false;
     bool moins = !minimum;
-    for (const auto& ligne : lignes) {
-        const auto lue = LireLigneCombinaison(ligne);
-        if (Terminated() || !lue || lue->nbFois != compter(lue->numeros)) return false;
-        const bool enHaut = lue->nbFois == BorneSup;
-        const bool enBas = minimum && lue->nbFois == BorneInf;
+    for (const Combinaison& ligne : lignes) {
+        if (Terminated() || ligne.NbFois != compter(ligne.numeros)) return false;
+        const bool enHaut = ligne.NbFois == BorneSup;
+        const bool enBas = minimum && ligne.NbFois == BorneInf;
         if (!enHaut && !enBas) return false;
         plus = plus || enHaut;
         moins = moins || enBas;
@@ -84,8 +82,8 @@ bool TCombNewSearch::avancer(int d) {
     NettoyerDoublons(lignes, min, BorneSup);
     // What has left the bounds must not come back when a bound moves to its outdated count.
     FiltrerLignes(lignes, minimum ? BorneInf : SansMinimum, BorneSup);
-    const bool encore = !minimum || std::ranges::any_of(lignes, [&](const std::string& ligne) {
-        return LireLigneCombinaison(ligne)->nbFois == BorneInf;
+    const bool encore = !minimum || std::ranges::any_of(lignes, [&](const Combinaison& ligne) {
+        return ligne.NbFois == BorneInf;
     });
     return encore || recompter(d);
 }
@@ -96,7 +94,9 @@ bool TCombNewSearch::recompter(int d) {
     court.IntervalleSup = d;
     const bool minimum = SuitMinimum(taille_, d);
     Collecte collecte;
-    const Extremes trouves = ChercherExtremes(court, taille_, !minimum, collecte, arret());
+    const Extremes trouves = ChercherExtremes(
+        court, taille_, minimum ? SortieExtremes::Enregistrements : SortieExtremes::Lignes,
+        collecte, arret());
     if (!trouves.complet) return false;
 
     recompte = change = true;
@@ -152,10 +152,10 @@ void TCombNewSearch::voir(std::size_t place, int c, int d, bool minimum) {
     if (c < BorneSup && !(minimum && c - 1 == BorneInf)) return;
     const Tirage& tirage = contexte_.base.Tirages[Indice(d - 1)];
     choix_[Indice(taille_ - 1)] = place;
-    std::vector<Mot> numeros;
+    Combinaison nouvelle{{}, c, true};
     for (std::size_t i = 0; i < Indice(taille_); ++i)
-        numeros.push_back(static_cast<Mot>(tirage.Numeros[choix_[i]]));
-    nouvelles_.push_back(LigneCombinaison(numeros, c, true));
+        nouvelle.numeros.ajouter(tirage.Numeros[choix_[i]]);
+    nouvelles_.push_back(nouvelle);
 }
 
 }  // namespace norvane

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 #include "base/Textes.h"
 #include "comb/VaroFonc2.h"
@@ -35,13 +36,16 @@ std::string PhraseTropLongue(std::uint64_t nombre, bool exact, std::uint64_t mot
 
 }  // namespace
 
-TRechercheBornes::TRechercheBornes(const ContexteComb& contexte, Puits& puits, int taille, int inf,
-                                   int sup)
+TRechercheBornes::TRechercheBornes(const ContexteComb& contexte, Puits& puits,
+                                   DomaineBornes domaine, int taille, int inf, int sup)
     : TCombThread(puits, {GenreTravail::Bornes, taille, QuelleListe::Memoire}),
       contexte_(contexte),
       disposition_{taille, contexte.mode},
+      domaine_(domaine),
       inf_(inf),
-      sup_(sup) {}
+      sup_(sup) {
+    progres.commencer(JaugeBornes(contexte, taille));
+}
 
 void TRechercheBornes::mener(TravailBornes& travail) {
     const auto pas = static_cast<std::uint64_t>(disposition_.mots());
@@ -81,42 +85,38 @@ void TRechercheBornes::mener(TravailBornes& travail) {
     lot.vider();
 }
 
-void TCombBornesNewThread::Rechercher(int /*inf*/, int /*sup*/) {
-    mener(*TravailTout(contexte_, disposition_, series_, puits(), arret()));
-}
-
-void TSelectBornesThread::Rechercher(int /*inf*/, int /*sup*/) {
+void TRechercheBornes::Execute() {
     const Selection& s = contexte_.selection;
-    const std::vector<int> aucun;
-    const bool dedans = reserve_ == Reserve::Selection;
-    mener(*TravailReserve(contexte_, disposition_, dedans ? aucun : s.SelAbsolue,
-                          dedans                            ? s.SelAbsolue
-                          : reserve_ == Reserve::Secondaire ? s.SelSecondaire
-                                                            : s.Complement,
-                          puits(), arret()));
+    const auto reserve = [&](const std::vector<int>& fixes, const std::vector<int>& numeros) {
+        return TravailReserve(contexte_, disposition_, fixes, numeros, puits(), arret());
+    };
+    switch (domaine_) {
+        case DomaineBornes::Tout:
+            return mener(*TravailTout(contexte_, disposition_, false, puits(), arret()));
+        case DomaineBornes::Series:
+            return mener(*TravailTout(contexte_, disposition_, true, puits(), arret()));
+        case DomaineBornes::Complement:
+            return mener(*reserve(s.SelAbsolue, s.Complement));
+        case DomaineBornes::Secondaire:
+            return mener(*reserve(s.SelAbsolue, s.SelSecondaire));
+        case DomaineBornes::Selection:
+            return mener(*reserve({}, s.SelAbsolue));
+    }
 }
 
 PtrFil<TRechercheBornes> CreerRechercheBornes(const ContexteComb& c, Puits& puits, int taille,
                                               int inf, int sup) {
-    using Ptr = PtrFil<TRechercheBornes>;
-    const int s = c.selection.NbSelAbsolue;
-    if (c.selection.vide()) {
-        if (taille == 2)
-            return c.series ? Ptr(new TComb2SuccBornesNewSearch(c, puits, inf, sup))
-                            : Ptr(new TComb2BornesNewSearch(c, puits, inf, sup));
-        return c.series ? Ptr(new TCombNSuccBornesNewSearch(c, puits, taille, inf, sup))
-                        : Ptr(new TCombNBornesNewSearch(c, puits, taille, inf, sup));
-    }
-    if (s == taille) return nullptr;
-    if (s > taille)
-        return taille == 2 ? Ptr(new TCombinaison2BornesSearch(c, puits, inf, sup))
-                           : Ptr(new TCombinaisonNBornesSearch(c, puits, taille, inf, sup));
-    const int ajout = taille - s;
-    if (c.selection.NbSelSecondaire > 0)
-        return ajout == 1 ? Ptr(new TSelect1ComplementaireBornesSearch(c, puits, inf, sup))
-                          : Ptr(new TSelectNComplementaireBornesSearch(c, puits, ajout, inf, sup));
-    return ajout == 1 ? Ptr(new TSelect1BornesSearch(c, puits, inf, sup))
-                      : Ptr(new TSelectNBornesSearch(c, puits, ajout, inf, sup));
+    const auto creer = [&]<typename T>(std::type_identity<T>) {
+        return PtrFil<TRechercheBornes>(new T(c, puits, taille, inf, sup));
+    };
+    const Selection& s = c.selection;
+    if (s.vide())
+        return c.series ? creer(std::type_identity<TCombNSuccBornesNewSearch>{})
+                        : creer(std::type_identity<TCombNBornesNewSearch>{});
+    if (s.NbSelAbsolue == taille) return nullptr;
+    if (s.NbSelAbsolue > taille) return creer(std::type_identity<TCombinaisonNBornesSearch>{});
+    return s.NbSelSecondaire > 0 ? creer(std::type_identity<TSelectNComplementaireBornesSearch>{})
+                                 : creer(std::type_identity<TSelectNBornesSearch>{});
 }
 
 int JaugeBornes(const ContexteComb& c, int taille) {
@@ -132,8 +132,7 @@ Arene CombinaisonUnique(const ContexteComb& c, int inf, int sup) {
     const auto& selection = c.selection.SelAbsolue;
     const std::vector<Mot> numeros(selection.begin(), selection.end());
     const int taille = static_cast<int>(numeros.size());
-    Masque masque = 0;
-    for (const int n : selection) masque |= MasqueNumero(n);
+    const Masque masque = Ensemble::de(selection).bits();
     const auto n = static_cast<int>(std::ranges::count_if(
         MasquesIntervalle(c), [&](Masque t) { return Compte(t, masque, taille); }));
     Arene liste{{taille, c.mode}, {}};

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Repartition.h"
 #include "comb/GrandesTailles.h"
 #include "Croissance.h"
-#include "base/Repartition.h"
 
 namespace norvane {
 

@@ -57,8 +57,8 @@ std::string Minuscules(std::string texte) {
     return texte;
 }
 
-/// The files of `repertoire` with this name in any case, the exact one last. File names that
-/// differ in case alone are one file where the program comes from and several here.
+/// The files of `repertoire` with this name in any case, the exact one last: folders copied from
+/// another machine may hold any spelling, several of them at once.
 Resultat<std::vector<fs::path>> Variantes(const fs::path& repertoire, const std::string& nom) {
     std::vector<fs::path> trouvees;
     std::error_code erreur;
@@ -155,15 +155,6 @@ Resultat<Rien> EcrireCombCalcNeutre(const fs::path& repertoire) {
     EtatCombinaisons neutre;
     neutre.BorneSup.fill(1);
     return EcrireCombCalc(neutre, repertoire);
-}
-
-LibellesBornes LibellesBornesTaille(const EtatCombinaisons& etat, int taille,
-                                    int tailleIntervalle) {
-    const int n = etat.NbTiragesComb[static_cast<std::size_t>(taille)];
-    if (n != tailleIntervalle)
-        return {"Borne Inf en attente de calcul", "Borne Sup en attente de calcul"};
-    return {fmt::format("Borne Inf calculée pour {} tirages", n),
-            fmt::format("Borne Sup calculée pour {} tirages", n)};
 }
 
 Resultat<Rien> RestaurerFichiersFiltre(const fs::path& repertoire) {

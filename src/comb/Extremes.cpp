@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
-#include <bit>
 #include <numeric>
+#include <type_traits>
 
 #include "Arbre.h"
-#include "comb/LigneCombinaison.h"
 #include "Lots.h"
 #include "Recherche.h"
 
@@ -18,13 +17,14 @@ constexpr int MinimumDeDepart = 1000;
 constexpr int GaugeCentieme = 100;
 
 /// The running extremes: candidates come in lexicographic order.
-class Suivi {
+class Suiveur {
  public:
-    Suivi(const ContexteComb& c, int depart, bool minimum, int taille, bool lignes, Puits& puits)
+    Suiveur(const ContexteComb& c, int depart, bool minimum, int taille, SortieExtremes sortie,
+            Puits& puits)
         : max(depart),
           min_(std::max(MinimumDeDepart, c.taille())),
           minimum_(minimum),
-          lignes_(lignes),
+          lignes_(sortie == SortieExtremes::Lignes),
           lotLignes_(puits),
           lotMots_(puits, static_cast<std::size_t>(taille + 1)) {}
 
@@ -58,7 +58,7 @@ class Suivi {
 
  private:
     void emettre(int c, std::span<const Mot> numeros) {
-        if (lignes_) return lotLignes_.ajouter(LigneCombinaison(numeros, c));
+        if (lignes_) return lotLignes_.ajouter({Ensemble::de(numeros), c});
         std::array<Mot, TailleCombMax + 1> mots;
         mots[0] = static_cast<Mot>(c);
         std::copy(numeros.begin(), numeros.end(), mots.begin() + 1);
@@ -76,7 +76,7 @@ class Suivi {
 
 /// Sizes 2 to 5: the whole tree. Without the minimum, partial combinations below the running
 /// maximum are left out.
-bool ParcourirTout(const ContexteComb& c, int taille, bool minimum, Suivi& suivi, Puits* puits,
+bool ParcourirTout(const ContexteComb& c, int taille, bool minimum, Suiveur& suivi, Puits* puits,
                    const std::stop_token& arret) {
     std::vector<int> numeros(NumeroMax);
     std::iota(numeros.begin(), numeros.end(), 1);
@@ -103,7 +103,7 @@ bool ParcourirTout(const ContexteComb& c, int taille, bool minimum, Suivi& suivi
 }
 
 /// The runs of consecutive numbers.
-bool ParcourirSeries(const ContexteComb& c, int taille, Suivi& suivi, Puits* puits,
+bool ParcourirSeries(const ContexteComb& c, int taille, Suiveur& suivi, Puits* puits,
                      const std::stop_token& arret) {
     const auto masques = MasquesIntervalle(c);
     for (int a = 1; a + taille - 1 <= NumeroMax; ++a) {
@@ -112,17 +112,16 @@ bool ParcourirSeries(const ContexteComb& c, int taille, Suivi& suivi, Puits* pui
         const Masque serie = ((Masque{1} << taille) - 1) << (a - 1);
         const auto n =
             std::ranges::count_if(masques, [&](Masque t) { return Compte(t, serie, taille); });
-        std::vector<Mot> numeros;
-        suivi.voir(static_cast<int>(n),
-                   [&]() -> std::span<const Mot> { return numeros = NumerosMasque(serie); });
+        const NumerosTries numeros{Ensemble(serie)};
+        suivi.voir(static_cast<int>(n), [&]() -> std::span<const Mot> { return numeros; });
     }
     return true;
 }
 
-Extremes ChercherParListes(const ContexteComb& c, int taille, bool lignes, Puits& puits,
+Extremes ChercherParListes(const ContexteComb& c, int taille, SortieExtremes sortie, Puits& puits,
                            const std::stop_token& arret) {
-    const bool minimum = !lignes && taille <= 3;
-    const auto parcourir = [&](Suivi& suivi, Puits* jauge) {
+    const bool minimum = sortie == SortieExtremes::Enregistrements && taille <= 3;
+    const auto parcourir = [&](Suiveur& suivi, Puits* jauge) {
         return c.series ? ParcourirSeries(c, taille, suivi, jauge, arret)
                         : ParcourirTout(c, taille, minimum, suivi, jauge, arret);
     };
@@ -133,11 +132,11 @@ Extremes ChercherParListes(const ContexteComb& c, int taille, bool lignes, Puits
     if (depart > plancher) {
         // The bound that is stored may stem from other draws. Where nothing reaches it, it is none.
         PuitsMuet muet;
-        Suivi essai(c, depart, false, taille, true, muet);
+        Suiveur essai(c, depart, false, taille, SortieExtremes::Lignes, muet);
         if (!parcourir(essai, nullptr)) return {};
         if (essai.finir().nombre == 0) depart = plancher;
     }
-    Suivi suivi(c, depart, minimum, taille, lignes, puits);
+    Suiveur suivi(c, depart, minimum, taille, sortie, puits);
     return parcourir(suivi, &puits) ? suivi.finir() : Extremes{};
 }
 
@@ -147,8 +146,7 @@ Extremes ChercherGrande(const ContexteComb& c, int taille, Puits& puits,
                                                        NombreFils(c), arret, JaugePartagee(puits));
     if (trouvees.interrompu) return {};
     LotLignes lot(puits);
-    for (const Masque m : trouvees.combinaisons)
-        lot.ajouter(LigneCombinaison(NumerosMasque(m), trouvees.maximum));
+    for (const Masque m : trouvees.combinaisons) lot.ajouter({Ensemble(m), trouvees.maximum});
     lot.vider();
     return {.complet = true, .BorneSup = trouvees.maximum, .nombre = trouvees.nombre};
 }
@@ -157,61 +155,42 @@ Extremes ChercherGrande(const ContexteComb& c, int taille, Puits& puits,
 
 std::vector<Masque> MasquesIntervalle(const ContexteComb& contexte) {
     std::vector<Masque> masques;
-    for (const Tirage& t : TiragesIntervalle(contexte)) {
-        masques.push_back(0);
-        for (const int n : t.Numeros) masques.back() |= MasqueNumero(n);
-    }
+    for (const Tirage& t : TiragesIntervalle(contexte))
+        masques.push_back(Ensemble::de(t.Numeros).bits());
     return masques;
 }
 
-std::vector<Mot> NumerosMasque(Masque masque) {
-    std::vector<Mot> numeros;
-    for (; masque != 0; masque &= masque - 1)
-        numeros.push_back(static_cast<Mot>(std::countr_zero(masque) + 1));
-    return numeros;
-}
-
-unsigned NombreFils(const ContexteComb& contexte) {
-    return contexte.threads != 0 ? contexte.threads
-                                 : std::max(1U, std::thread::hardware_concurrency());
-}
-
-Extremes ChercherExtremes(const ContexteComb& contexte, int taille, bool lignes, Puits& puits,
-                          const std::stop_token& arret) {
+Extremes ChercherExtremes(const ContexteComb& contexte, int taille, SortieExtremes sortie,
+                          Puits& puits, const std::stop_token& arret) {
     if (taille > NbBoules && !contexte.series)
         return ChercherGrande(contexte, taille, puits, arret);
-    return ChercherParListes(contexte, taille, lignes, puits, arret);
+    return ChercherParListes(contexte, taille, sortie, puits, arret);
 }
 
 TRechercheExtremes::TRechercheExtremes(const ContexteComb& contexte, Puits& puits, int taille,
-                                       Sortie sortie, bool series)
+                                       SortieExtremes sortie, bool series)
     : TCombThread(puits, {GenreTravail::Extremes, taille, QuelleListe::Extremes}),
       contexte_(contexte),
-      taille_(taille),
       sortie_(sortie) {
     contexte_.series = series;
+    progres.commencer(JaugeExtremes(taille, series));
 }
 
 void TRechercheExtremes::Execute() {
-    resultat_ = ChercherExtremes(contexte_, taille_, sortie_ == Sortie::Lignes, puits(), arret());
+    resultat_ = ChercherExtremes(contexte_, description.taille, sortie_, puits(), arret());
 }
 
 PtrFil<TRechercheExtremes> CreerRechercheExtremes(const ContexteComb& contexte, Puits& puits,
                                                   int taille) {
-    using Ptr = PtrFil<TRechercheExtremes>;
     const bool lignes = contexte.taille() <= SeuilExtremes(taille);
-    if (taille == 2) {
-        if (contexte.series)
-            return lignes ? Ptr(new TComb2SuccMaxOnlySearch(contexte, puits))
-                          : Ptr(new TComb2SuccSearch(contexte, puits));
-        return lignes ? Ptr(new TComb2MaxOnlySearch(contexte, puits))
-                      : Ptr(new TComb2Search(contexte, puits));
-    }
+    const auto creer = [&]<typename T>(std::type_identity<T>) {
+        return PtrFil<TRechercheExtremes>(new T(contexte, puits, taille));
+    };
     if (contexte.series)
-        return lignes ? Ptr(new TCombNSuccMaxOnlySearch(contexte, puits, taille))
-                      : Ptr(new TCombNSuccSearch(contexte, puits, taille));
-    return lignes ? Ptr(new TCombNMaxOnlySearch(contexte, puits, taille))
-                  : Ptr(new TCombNSearch(contexte, puits, taille));
+        return lignes ? creer(std::type_identity<TCombNSuccMaxOnlySearch>{})
+                      : creer(std::type_identity<TCombNSuccSearch>{});
+    return lignes ? creer(std::type_identity<TCombNMaxOnlySearch>{})
+                  : creer(std::type_identity<TCombNSearch>{});
 }
 
 int JaugeExtremes(int taille, bool series) {

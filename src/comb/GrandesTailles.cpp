@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
-#include "Croissance.h"
 #include "base/Repartition.h"
+#include "base/Travail.h"
+#include "Croissance.h"
 
 namespace norvane {
 
@@ -153,14 +154,12 @@ std::uint64_t CompterAuMoins(const IndexTirages& index, int taille, int inf, int
                              std::uint64_t plafond, const std::stop_token& arret) {
     const std::atomic<int> minimum = inf;
     std::atomic<std::uint64_t> total = 0;
-    Repartir(index.nombre(), std::max(1U, std::thread::hardware_concurrency()),
-             [&](unsigned, auto suivante) {
-                 RecolteCompte recolte(total, plafond, arret);
-                 Croissance croissance(index, taille, minimum, sup, recolte);
-                 for (auto i = suivante(); i < index.nombre() && croissance.depuis(i);)
-                     i = suivante();
-                 recolte.continuer();
-             });
+    Repartir(index.nombre(), NombreCoeurs(), [&](unsigned, auto suivante) {
+        RecolteCompte recolte(total, plafond, arret);
+        Croissance croissance(index, taille, minimum, sup, recolte);
+        for (auto i = suivante(); i < index.nombre() && croissance.depuis(i);) i = suivante();
+        recolte.continuer();
+    });
     return total;
 }
 

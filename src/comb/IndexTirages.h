@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "comb/Combinaison.h"
 #include "comb/GrandesTailles.h"
 
 namespace norvane {
@@ -47,12 +48,6 @@ inline constexpr auto Colonnes = [] {
 
 constexpr std::int32_t Colonne(int k, int n) {
     return Colonnes[static_cast<std::size_t>(k)][static_cast<std::size_t>(n)];
-}
-
-/// Order of the lists: the combination with the lower number at the first difference comes first.
-inline bool AvantLexico(Masque a, Masque b) {
-    const Masque difference = a ^ b;
-    return (a & difference & (~difference + 1)) != 0;
 }
 
 /// Rank of the `k` lowest numbers of the set, k up to four.

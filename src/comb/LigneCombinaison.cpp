@@ -9,7 +9,6 @@
 
 #include "base/Base.h"
 #include "base/Fichiers.h"
-#include "comb/EtatCombinaisons.h"
 
 namespace norvane {
 
@@ -64,29 +63,29 @@ std::string LigneEnregistrement(std::span<const Mot> enregistrement, Disposition
                             enregistrement[static_cast<std::size_t>(disposition.premierRang())]);
 }
 
-std::optional<CombinaisonLue> LireLigneCombinaison(std::string_view ligne) {
-    CombinaisonLue lue;
+std::optional<Combinaison> LireLigneCombinaison(std::string_view ligne) {
+    Combinaison lue;
+    int dernier = 0;
     std::string_view reste = SansBlancsFinaux(ligne);
     while (reste.size() >= 3 && EstChiffre(reste[0]) && EstChiffre(reste[1]) && reste[2] == ' ') {
         const int n = (reste[0] - '0') * 10 + (reste[1] - '0');
-        if (n > NumeroMax || n <= (lue.numeros.empty() ? 0 : lue.numeros.back()))
-            return std::nullopt;
-        lue.numeros.push_back(static_cast<Mot>(n));
+        if (n > NumeroMax || n <= dernier) return std::nullopt;
+        lue.numeros.ajouter(dernier = n);
         reste.remove_prefix(3);
     }
-    if (lue.numeros.size() < TailleCombMin || lue.numeros.size() > TailleCombMax ||
-        !reste.starts_with(' '))
+    const int taille = lue.numeros.taille();
+    if (taille < TailleCombMin || taille > TailleCombMax || !reste.starts_with(' '))
         return std::nullopt;
     reste.remove_prefix(1);
     const auto nbFois = LireNbFois(reste);
     if (!nbFois || (!reste.empty() && reste != Marque)) return std::nullopt;
-    lue.nbFois = *nbFois;
+    lue.NbFois = *nbFois;
     lue.marque = !reste.empty();
     return lue;
 }
 
-Resultat<std::vector<std::string>> LireListe(const std::filesystem::path& fichier, int taille) {
-    std::vector<std::string> lignes;
+Resultat<std::vector<Combinaison>> LireListe(const std::filesystem::path& fichier, int taille) {
+    std::vector<Combinaison> lignes;
     std::error_code erreur;
     if (!std::filesystem::exists(fichier, erreur)) return lignes;
     const auto contenu = LireFichier(fichier, OctetsMax);
@@ -99,12 +98,12 @@ Resultat<std::vector<std::string>> LireListe(const std::filesystem::path& fichie
         reste.remove_prefix(std::min(fin + 1, reste.size()));
         if (ligne.empty() && SansBlancsFinaux(reste).empty()) break;
         const auto lue = LireLigneCombinaison(ligne);
-        if (!lue || static_cast<int>(lue->numeros.size()) != taille)
+        if (!lue || lue->numeros.taille() != taille)
             return Erreur{fmt::format(
                 "Ligne {} du fichier « {} » illisible : une combinaison de {} numéros y est "
                 "attendue. Supprimez ce fichier, puis relancez le calcul.",
                 numero, fichier.string(), taille)};
-        lignes.emplace_back(ligne);
+        lignes.push_back(*lue);
     }
     if (lignes.size() > CapaciteListe)
         return Erreur{fmt::format(
@@ -115,21 +114,13 @@ Resultat<std::vector<std::string>> LireListe(const std::filesystem::path& fichie
 }
 
 Resultat<Rien> EcrireListe(const std::filesystem::path& fichier,
-                           std::span<const std::string> lignes) {
+                           std::span<const Combinaison> lignes) {
     std::string texte;
-    for (const auto& ligne : lignes) {
-        texte += ligne;
+    for (const Combinaison& ligne : lignes) {
+        texte += LigneCombinaison(ligne);
         texte += '\n';
     }
     return EcrireFichier(fichier, texte);
-}
-
-std::optional<std::size_t> ChercherCombinaison(const Arene& liste, std::span<const Mot> numeros) {
-    if (static_cast<int>(numeros.size()) != liste.disposition.taille) return std::nullopt;
-    const auto debut = static_cast<std::size_t>(liste.disposition.numeros());
-    for (std::size_t i = 0; i < liste.nombre(); ++i)
-        if (std::ranges::equal(liste[i].subspan(debut), numeros)) return i;
-    return std::nullopt;
 }
 
 }  // namespace norvane

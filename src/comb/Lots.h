@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <span>
-#include <string>
 #include <vector>
 
 #include "comb/Puits.h"
@@ -18,8 +17,8 @@ inline constexpr std::size_t TailleLot = 4096;  ///< records or lines of one cal
 class LotLignes {
  public:
     explicit LotLignes(Puits& puits) : puits_(puits) {}
-    void ajouter(std::string ligne) {
-        lignes_.push_back(std::move(ligne));
+    void ajouter(const Combinaison& ligne) {
+        lignes_.push_back(ligne);
         if (lignes_.size() >= TailleLot) vider();
     }
     void vider() {
@@ -29,7 +28,7 @@ class LotLignes {
 
  private:
     Puits& puits_;
-    std::vector<std::string> lignes_;
+    std::vector<Combinaison> lignes_;
 };
 
 class LotMots {

@@ -15,10 +15,9 @@
 namespace norvane {
 
 /// Runs the search for the extremes of `taille` over the interval of the context into `puits`.
-/// `lignes`: text lines and the maximum alone; otherwise records, and the minimum as well for sizes
-/// 2 and 3.
-Extremes ChercherExtremes(const ContexteComb& contexte, int taille, bool lignes, Puits& puits,
-                          const std::stop_token& arret);
+/// Lines: the maximum alone; records: the minimum as well for sizes 2 and 3.
+Extremes ChercherExtremes(const ContexteComb& contexte, int taille, SortieExtremes sortie,
+                          Puits& puits, const std::stop_token& arret);
 
 /// The records of the interval.
 inline std::span<const Tirage> TiragesIntervalle(const ContexteComb& c) {
@@ -35,9 +34,6 @@ inline bool Compte(Masque tirage, Masque combinaison, int taille) {
     return taille <= NbBoules ? (tirage & combinaison) == combinaison
                               : (tirage & combinaison) == tirage;
 }
-
-/// The numbers of a set, ascending.
-std::vector<Mot> NumerosMasque(Masque masque);
 
 /// The gauge told from several threads: to the sink one call at a time, never backwards. Copies
 /// share one state.
@@ -61,6 +57,9 @@ class JaugePartagee {
     std::shared_ptr<Etat> etat_;
 };
 
-unsigned NombreFils(const ContexteComb& contexte);
+/// Threads that a search may use.
+inline unsigned NombreFils(const ContexteComb& contexte) {
+    return contexte.threads != 0 ? contexte.threads : NombreCoeurs();
+}
 
 }  // namespace norvane

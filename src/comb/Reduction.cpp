@@ -3,10 +3,6 @@
 #include "comb/Reduction.h"
 
 #include <algorithm>
-#include <optional>
-#include <string_view>
-
-#include "comb/LigneCombinaison.h"
 
 namespace norvane {
 
@@ -14,80 +10,57 @@ namespace {
 
 constexpr int MinimumDeDepart = 1000;
 
-/// What stands in front of "(".
-std::string_view Numeros(std::string_view ligne) {
-    return ligne.substr(0, ligne.find('('));
-}
-
-/// Without a count, as in a line that is no combination: -1.
-int NbFois(std::string_view ligne) {
-    const auto lue = LireLigneCombinaison(ligne);
-    return lue ? lue->nbFois : -1;
-}
-
 }  // namespace
 
-void NettoyerDoublons(std::vector<std::string>& lignes, int& min, int& max) {
-    struct Entree {
-        std::string ligne;
-        int nbFois;
-    };
-    std::vector<Entree> entrees;
-    for (auto& ligne : lignes) {
-        const int n = NbFois(ligne);
-        entrees.push_back({std::move(ligne), n});
-    }
+void NettoyerDoublons(std::vector<Combinaison>& lignes, int& min, int& max) {
     // By the value of the count: as text "(100)" stands before "(99)".
-    std::ranges::sort(entrees, [](const Entree& a, const Entree& b) {
-        const auto numerosA = Numeros(a.ligne);
-        const auto numerosB = Numeros(b.ligne);
-        if (numerosA != numerosB) return numerosA < numerosB;
-        return a.nbFois != b.nbFois ? a.nbFois < b.nbFois : a.ligne < b.ligne;
+    std::ranges::sort(lignes, [](const Combinaison& a, const Combinaison& b) {
+        if (a.numeros != b.numeros) return AvantLexico(a.numeros.bits(), b.numeros.bits());
+        return a.NbFois != b.NbFois ? a.NbFois < b.NbFois : a.marque < b.marque;
     });
     if (min != 0) min = MinimumDeDepart;
     max = 0;
-    lignes.clear();
-    for (std::size_t i = 0; i < entrees.size(); ++i) {
-        if (i + 1 < entrees.size() && Numeros(entrees[i].ligne) == Numeros(entrees[i + 1].ligne))
-            continue;
-        min = std::min(min, entrees[i].nbFois);
-        max = std::max(max, entrees[i].nbFois);
-        lignes.push_back(std::move(entrees[i].ligne));
+    std::size_t gardees = 0;
+    for (std::size_t i = 0; i < lignes.size(); ++i) {
+        if (i + 1 < lignes.size() && lignes[i].numeros == lignes[i + 1].numeros) continue;
+        min = std::min(min, lignes[i].NbFois);
+        max = std::max(max, lignes[i].NbFois);
+        lignes[gardees++] = lignes[i];
     }
+    lignes.resize(gardees);
 }
 
-void EffacerMarques(std::vector<std::string>& lignes) {
-    for (auto& ligne : lignes) ligne.resize(std::min(ligne.find(')') + 1, ligne.size()));
+void EffacerMarques(std::vector<Combinaison>& lignes) {
+    for (Combinaison& ligne : lignes) ligne.marque = false;
 }
 
-void GarderMarques(std::vector<std::string>& lignes) {
-    std::erase_if(lignes, [](const std::string& ligne) { return !ligne.ends_with('N'); });
+void GarderMarques(std::vector<Combinaison>& lignes) {
+    std::erase_if(lignes, [](const Combinaison& ligne) { return !ligne.marque; });
 }
 
-std::vector<std::string> FiltrerExtremes(std::span<const Mot> ListeExtremes, int taille,
+std::vector<Combinaison> FiltrerExtremes(std::span<const Mot> ListeExtremes, int taille,
                                          int BorneInf, int BorneSup) {
     const auto pas = static_cast<std::size_t>(taille + 1);
-    std::vector<std::string> lignes;
+    std::vector<Combinaison> lignes;
     std::span<const Mot> precedent;
     for (; ListeExtremes.size() >= pas; ListeExtremes = ListeExtremes.subspan(pas)) {
         const auto mots = ListeExtremes.first(pas);
         const bool deuxFois = std::ranges::equal(mots, precedent);
         precedent = mots;
         if (deuxFois || (mots[0] != BorneInf && mots[0] != BorneSup)) continue;
-        lignes.push_back(LigneCombinaison(mots.subspan(1), mots[0]));
+        lignes.push_back({Ensemble::de(mots.subspan(1)), mots[0]});
     }
     return lignes;
 }
 
-void FiltrerLignes(std::vector<std::string>& lignes, int BorneInf, int BorneSup) {
-    std::erase_if(lignes, [&](const std::string& ligne) {
-        const int n = NbFois(ligne);
-        return n < 0 || (n != BorneInf && n != BorneSup);
+void FiltrerLignes(std::vector<Combinaison>& lignes, int BorneInf, int BorneSup) {
+    std::erase_if(lignes, [&](const Combinaison& ligne) {
+        return ligne.NbFois != BorneInf && ligne.NbFois != BorneSup;
     });
 }
 
-std::vector<std::string> ReduireExtremes(Collecte& resultat, int taille, const Extremes& extremes) {
-    std::vector<std::string> lignes;
+std::vector<Combinaison> ReduireExtremes(Collecte& resultat, int taille, const Extremes& extremes) {
+    std::vector<Combinaison> lignes;
     if (resultat.mots.empty()) {
         lignes = std::move(resultat.lignes);
         FiltrerLignes(lignes, extremes.BorneSup, extremes.BorneSup);

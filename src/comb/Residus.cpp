@@ -7,6 +7,7 @@
 #include <bit>
 #include <limits>
 
+#include "IndexTirages.h"
 #include "Recherche.h"
 
 namespace norvane {
@@ -15,24 +16,13 @@ namespace {
 
 constexpr std::uint64_t Infini = std::numeric_limits<std::uint64_t>::max();
 
-/// Combinations of k among n; all that occur here fit 64 bits.
-std::uint64_t Combinaisons(int n, int k) {
-    if (k < 0 || k > n) return 0;
-    std::uint64_t c = 1;
-    for (int i = 1; i <= k; ++i)
-        c = c * static_cast<std::uint64_t>(n - k + i) / static_cast<std::uint64_t>(i);
-    return c;
-}
-
 }  // namespace
 
 Residus::Residus(const std::vector<Masque>& tirages, const std::vector<int>& fixes,
                  std::vector<int> reserve, int choix)
     : reserve_(std::move(reserve)), choix_(choix) {
-    Masque masqueFixes = 0;
-    Masque masqueReserve = 0;
-    for (const int n : fixes) masqueFixes |= MasqueNumero(n);
-    for (const int n : reserve_) masqueReserve |= MasqueNumero(n);
+    const Masque masqueFixes = Ensemble::de(fixes).bits();
+    const Masque masqueReserve = Ensemble::de(reserve_).bits();
     for (std::size_t d = 0; d < tirages.size(); ++d) {
         const Masque manque = tirages[d] & ~masqueFixes;
         if ((manque & ~masqueReserve) == 0 && std::popcount(manque) <= choix_)
@@ -73,7 +63,7 @@ struct Residus::Descente {
 };
 
 std::uint64_t Residus::choixPossibles() const {
-    return Combinaisons(static_cast<int>(reserve_.size()), choix_);
+    return Binomial(static_cast<int>(reserve_.size()), choix_);
 }
 
 std::uint64_t Residus::compter(int inf, int sup, std::uint64_t plafond,
@@ -85,7 +75,7 @@ std::uint64_t Residus::compter(int inf, int sup, std::uint64_t plafond,
         std::uint64_t majorant = 0;
         for (const Residu& r : residus_) {
             const int m = std::popcount(r.manque);
-            majorant += Combinaisons(n - m, choix_ - m);
+            majorant += Binomial(n - m, choix_ - m);
         }
         majorant /= static_cast<std::uint64_t>(sup) + 1;
         if (total > majorant && total - majorant > plafond) return total - majorant;

@@ -125,7 +125,7 @@ class TravailSeries final : public TravailBornes {
         const Redacteur redacteur(contexte, disposition);
         parcourir(inf, sup, [&](Masque serie, ListeTirages liste) {
             std::vector<Mot> mots;
-            redacteur.ajouter(mots, NumerosMasque(serie), liste);
+            redacteur.ajouter(mots, NumerosTries(Ensemble(serie)), liste);
             return recevoir(mots);
         });
     }
@@ -171,7 +171,7 @@ class TravailGrand final : public TravailBornes {
                                      for (const std::uint16_t p : places)
                                          liste.push_back(static_cast<Occurrence>(p + premier));
                                      mots.clear();
-                                     redacteur.ajouter(mots, NumerosMasque(m), liste);
+                                     redacteur.ajouter(mots, NumerosTries(Ensemble(m)), liste);
                                      return recevoir(mots);
                                  });
     }
@@ -183,8 +183,8 @@ class TravailResidus final : public TravailBornes {
     TravailResidus(const ContexteComb& c, Disposition d, const std::vector<int>& fixes,
                    const std::vector<int>& reserve, Puits& p, std::stop_token a)
         : TravailBornes(c, d, p, std::move(a)),
-          fixes_(EnMasque(fixes)),
-          permis_(fixes_ | EnMasque(reserve)),
+          fixes_(Ensemble::de(fixes).bits()),
+          permis_(fixes_ | Ensemble::de(reserve).bits()),
           residus_(MasquesIntervalle(c), fixes, reserve, d.taille - static_cast<int>(fixes.size())),
           redacteur_(c, d) {}
 
@@ -206,7 +206,7 @@ class TravailResidus final : public TravailBornes {
             for (const std::uint16_t p : places)
                 liste.push_back(static_cast<Occurrence>(p + premier));
             mots.clear();
-            redacteur_.ajouter(mots, NumerosMasque(m | fixes_), liste);
+            redacteur_.ajouter(mots, NumerosTries(Ensemble(m | fixes_)), liste);
             return recevoir(mots);
         };
         if (parmiToutes(inf, sup)) return listerParmiToutes(inf, sup, puits, rediger);
@@ -236,12 +236,6 @@ class TravailResidus final : public TravailBornes {
                                      const bool dedans = (fixes_ & ~m) == 0 && (m & ~permis_) == 0;
                                      return !dedans || visite(m, places);
                                  });
-    }
-
-    static Masque EnMasque(const std::vector<int>& numeros) {
-        Masque masque = 0;
-        for (const int n : numeros) masque |= MasqueNumero(n);
-        return masque;
     }
 
     const Masque fixes_;

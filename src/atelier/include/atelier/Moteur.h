@@ -6,15 +6,16 @@
 #pragma once
 
 #include <array>
-#include <chrono>
 #include <cstdint>
-#include <functional>
+#include <filesystem>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "atelier/Atelier.h"
 #include "base/Travail.h"
+#include "comb/Avance.h"
 #include "comb/VaroFonc2.h"
 
 namespace norvane {
@@ -53,7 +54,8 @@ struct FinTraitement {
 /// nothing that a search reads may change while it runs.
 class Moteur {
  public:
-    explicit Moteur(Atelier& atelier) : atelier_(atelier) {}
+    explicit Moteur(Atelier& atelier);
+    ~Moteur();
     Moteur(const Moteur&) = delete;
     Moteur& operator=(const Moteur&) = delete;
 
@@ -75,6 +77,22 @@ class Moteur {
 
  private:
     struct Passage;  // one run
+
+    ContexteComb contexte() const;
+    std::filesystem::path fichierListe(int taille) const;
+    bool listeDepassee(int taille) const;
+    ReponseClic cliquerExtremes(int taille);
+    ReponseClic calculerExtremes(int taille);
+    ReponseClic avancerExtremes(int taille);
+    ReponseClic oublierAutreBase(int taille);
+    ReponseClic cliquerBornes(int taille, int inf, int sup);
+    template <typename Fil>
+    ReponseClic lancer(PtrFil<Fil> fil, void (Moteur::*finir)(Fil&, FinTraitement&));
+    void montrer(Liste liste, int de, int a);
+    void finirExtremes(TRechercheExtremes& fil, FinTraitement& fin);
+    void stocker(std::span<const Combinaison> lignes, FinTraitement& fin, int taille);
+    void finirAvance(TCombNewSearch& fil, FinTraitement& fin);
+    void finirBornes(TRechercheBornes& fil, FinTraitement& fin);
 
     Atelier& atelier_;
     std::unique_ptr<Passage> passage_;

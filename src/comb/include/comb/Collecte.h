@@ -4,10 +4,9 @@
 // A sink that keeps everything, for whoever looks at the results after the end of the worker.
 #pragma once
 
-#include <functional>
-#include <string>
 #include <vector>
 
+#include "base/Travail.h"
 #include "comb/Puits.h"
 
 namespace norvane {
@@ -15,24 +14,19 @@ namespace norvane {
 class Collecte : public PuitsMuet {
  public:
     std::vector<Mot> mots;  ///< the records, allocated exactly to size where it is told beforehand
-    std::vector<std::string> lignes;
-    std::function<void(int)> surProgression;  ///< called on the threads of the worker
+    std::vector<Combinaison> lignes;
+    Progres* progres = nullptr;  ///< told the gauge
 
     void SetProgress(int valeur) override {
-        if (surProgression) surProgression(valeur);
+        if (progres != nullptr) progres->poser(valeur);
     }
-    void AddLine(std::span<const std::string> nouvelles) override {
+    void AddLine(std::span<const Combinaison> nouvelles) override {
         lignes.insert(lignes.end(), nouvelles.begin(), nouvelles.end());
     }
     void AddRecord(std::span<const Mot> nouveaux) override {
         mots.insert(mots.end(), nouveaux.begin(), nouveaux.end());
     }
     void Reserver(std::size_t n) override { mots.reserve(n); }
-
-    void vider() {
-        mots = {};
-        lignes = {};
-    }
 };
 
 }  // namespace norvane

@@ -5,14 +5,8 @@
 // (extremes), and those whose count lies between two bounds.
 #pragma once
 
-#include <atomic>
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <span>
-#include <stop_token>
-#include <string>
-#include <thread>
 
 #include "base/Base.h"
 #include "base/Travail.h"
@@ -46,26 +40,34 @@ class TCombThread : public Travail {
  public:
     TCombThread(Puits& puits, const DescriptionTravail& d) : Travail(d), puits_(puits) {}
 
+    /// What must live as long as the worker: its sink, where nobody else keeps it.
+    std::shared_ptr<const void> garde;
+
     void Resume() { demarrer(); }
     void Terminate() { arreter(); }
     bool Terminated() const { return arrete(); }
     void WaitFor() { attendre(); }
+    /// It was resumed, whatever came of it. After WaitFor.
+    bool aTourne() const { return aTourne_; }
 
  protected:
     virtual void Execute() = 0;
-    void executer() final { Execute(); }
+    void executer() final {
+        aTourne_ = true;
+        Execute();
+    }
 
     Puits& puits() const { return puits_; }
 
  private:
     Puits& puits_;
+    bool aTourne_ = false;
 };
-using PtrComb = PtrFil<TCombThread>;
 
 // --- Extremes -----------------------------------------------------------------------------------
 
-/// At or below this many draws a search gives text lines and tracks the maximum alone; above, it
-/// gives records. From size 5 on there are text lines only.
+/// At or below this many draws a search gives lines and tracks the maximum alone; above, it
+/// gives records. From size 5 on there are lines only.
 constexpr int SeuilExtremes(int taille) {
     return taille == 2 ? 250 : taille == 3 ? 3000 : taille == 4 ? 10000 : NbTiragesMax + 1;
 }
@@ -83,76 +85,48 @@ struct Extremes {
     std::uint64_t nombre = 0;  ///< combinations at BorneSup, or at BorneInf where it is tracked
 };
 
+enum class SortieExtremes : std::uint8_t {
+    Enregistrements,  ///< minimum and maximum
+    Lignes            ///< maximum only
+};
+
 /// What the searches for extremes share. They give every candidate that reaches the running
 /// maximum, ties included, and, where it is tracked, the running minimum: one that is both goes out
 /// twice. What was overtaken later stays in the output for the reduction to drop. The gauge runs
-/// from 0 to JaugeExtremes.
+/// from 0 to JaugeExtremes. Sizes 6 to 10 have lines only: CapaciteListe of them at most, with the
+/// true number in Extremes::nombre.
 class TRechercheExtremes : public TCombThread {
  public:
-    int taille() const { return taille_; }
     /// After WaitFor.
     const Extremes& resultat() const { return resultat_; }
 
  protected:
-    enum class Sortie { Enregistrements, Lignes };
-    TRechercheExtremes(const ContexteComb& contexte, Puits& puits, int taille, Sortie sortie,
-                       bool series);
+    TRechercheExtremes(const ContexteComb& contexte, Puits& puits, int taille,
+                       SortieExtremes sortie, bool series);
     void Execute() override;
 
  private:
     ContexteComb contexte_;
-    int taille_;
-    Sortie sortie_;
+    SortieExtremes sortie_;
     Extremes resultat_;
 };
 
-/// Pairs, extremes to records.
-class TComb2Search : public TRechercheExtremes {
+template <SortieExtremes Sortie, bool Series>
+class TExtremes final : public TRechercheExtremes {
  public:
-    TComb2Search(const ContexteComb& c, Puits& p)
-        : TRechercheExtremes(c, p, 2, Sortie::Enregistrements, false) {}
-};
-/// Pairs, maximum only, to text lines.
-class TComb2MaxOnlySearch : public TRechercheExtremes {
- public:
-    TComb2MaxOnlySearch(const ContexteComb& c, Puits& p)
-        : TRechercheExtremes(c, p, 2, Sortie::Lignes, false) {}
-};
-/// Pairs (i, i+1), extremes to records.
-class TComb2SuccSearch : public TRechercheExtremes {
- public:
-    TComb2SuccSearch(const ContexteComb& c, Puits& p)
-        : TRechercheExtremes(c, p, 2, Sortie::Enregistrements, true) {}
-};
-/// Pairs (i, i+1), maximum only, to text lines.
-class TComb2SuccMaxOnlySearch : public TRechercheExtremes {
- public:
-    TComb2SuccMaxOnlySearch(const ContexteComb& c, Puits& p)
-        : TRechercheExtremes(c, p, 2, Sortie::Lignes, true) {}
+    TExtremes(const ContexteComb& c, Puits& p, int taille = TailleCombMin)
+        : TRechercheExtremes(c, p, taille, Sortie, Series) {}
 };
 
-// The same for the sizes 3 to 10. Sizes 6 to 10 have text lines only: CapaciteListe of them at
-// most, with the true number in Extremes::nombre.
-class TCombNSearch : public TRechercheExtremes {
- public:
-    TCombNSearch(const ContexteComb& c, Puits& p, int taille)
-        : TRechercheExtremes(c, p, taille, Sortie::Enregistrements, false) {}
-};
-class TCombNMaxOnlySearch : public TRechercheExtremes {
- public:
-    TCombNMaxOnlySearch(const ContexteComb& c, Puits& p, int taille)
-        : TRechercheExtremes(c, p, taille, Sortie::Lignes, false) {}
-};
-class TCombNSuccSearch : public TRechercheExtremes {
- public:
-    TCombNSuccSearch(const ContexteComb& c, Puits& p, int taille)
-        : TRechercheExtremes(c, p, taille, Sortie::Enregistrements, true) {}
-};
-class TCombNSuccMaxOnlySearch : public TRechercheExtremes {
- public:
-    TCombNSuccMaxOnlySearch(const ContexteComb& c, Puits& p, int taille)
-        : TRechercheExtremes(c, p, taille, Sortie::Lignes, true) {}
-};
+using TCombNSearch = TExtremes<SortieExtremes::Enregistrements, false>;
+using TCombNMaxOnlySearch = TExtremes<SortieExtremes::Lignes, false>;
+using TCombNSuccSearch = TExtremes<SortieExtremes::Enregistrements, true>;
+using TCombNSuccMaxOnlySearch = TExtremes<SortieExtremes::Lignes, true>;
+// Pairs, and pairs (i, i+1).
+using TComb2Search = TCombNSearch;
+using TComb2MaxOnlySearch = TCombNMaxOnlySearch;
+using TComb2SuccSearch = TCombNSuccSearch;
+using TComb2SuccMaxOnlySearch = TCombNSuccMaxOnlySearch;
 
 /// The class that the size, the interval and the series mode ask for.
 PtrFil<TRechercheExtremes> CreerRechercheExtremes(const ContexteComb& contexte, Puits& puits,
@@ -164,11 +138,20 @@ int JaugeExtremes(int taille, bool series);
 
 class TravailBornes;
 
+/// What the combinations of a search by bounds are made of.
+enum class DomaineBornes : std::uint8_t {
+    Tout,        ///< all numbers
+    Series,      ///< consecutive numbers
+    Complement,  ///< the selection and numbers of its complement
+    Secondaire,  ///< the selection and secondary numbers
+    Selection    ///< numbers of the selection
+};
+
 /// What the searches by bounds share: every combination of the search whose count lies in Inf..Sup
 /// (both inclusive) becomes a record, in lexicographic order of its numbers, first-rank block
 /// filled, lower ranks unset: all words 0 but word 1 of the block, RangNonCalcule. Before the first
 /// record the combinations are counted; a list that would not fit in memory is refused. A stopped
-/// search has given a leading part of its records.
+/// search has given a leading part of its records. The gauge runs from 0 to JaugeBornes.
 class TRechercheBornes : public TCombThread {
  public:
     Disposition disposition() const { return disposition_; }
@@ -180,102 +163,41 @@ class TRechercheBornes : public TCombThread {
     std::uint64_t limite = 0;
 
  protected:
-    TRechercheBornes(const ContexteComb& contexte, Puits& puits, int taille, int inf, int sup);
-    void Execute() override { Rechercher(inf_, sup_); }
-    virtual void Rechercher(int inf, int sup) = 0;
+    TRechercheBornes(const ContexteComb& contexte, Puits& puits, DomaineBornes domaine, int taille,
+                     int inf, int sup);
+    void Execute() override;
 
+ private:
     /// Counts, checks the memory, gives.
     void mener(TravailBornes& travail);
 
     ContexteComb contexte_;
     Disposition disposition_;
-
- private:
+    DomaineBornes domaine_;
     int inf_;
     int sup_;
     std::uint64_t nombre_ = 0;
 };
 
-/// All numbers.
-class TCombBornesNewThread : public TRechercheBornes {
+template <DomaineBornes Domaine>
+class TBornes final : public TRechercheBornes {
  public:
-    TCombBornesNewThread(const ContexteComb& c, Puits& p, int taille, int inf, int sup, bool series)
-        : TRechercheBornes(c, p, taille, inf, sup), series_(series) {}
-
- protected:
-    void Rechercher(int inf, int sup) override;
-
- private:
-    bool series_;
-};
-class TComb2BornesNewSearch : public TCombBornesNewThread {
- public:
-    TComb2BornesNewSearch(const ContexteComb& c, Puits& p, int inf, int sup)
-        : TCombBornesNewThread(c, p, 2, inf, sup, false) {}
-};
-class TComb2SuccBornesNewSearch : public TCombBornesNewThread {
- public:
-    TComb2SuccBornesNewSearch(const ContexteComb& c, Puits& p, int inf, int sup)
-        : TCombBornesNewThread(c, p, 2, inf, sup, true) {}
-};
-class TCombNBornesNewSearch : public TCombBornesNewThread {
- public:
-    TCombNBornesNewSearch(const ContexteComb& c, Puits& p, int taille, int inf, int sup)
-        : TCombBornesNewThread(c, p, taille, inf, sup, false) {}
-};
-class TCombNSuccBornesNewSearch : public TCombBornesNewThread {
- public:
-    TCombNSuccBornesNewSearch(const ContexteComb& c, Puits& p, int taille, int inf, int sup)
-        : TCombBornesNewThread(c, p, taille, inf, sup, true) {}
+    TBornes(const ContexteComb& c, Puits& p, int taille, int inf, int sup)
+        : TRechercheBornes(c, p, Domaine, taille, inf, sup) {}
 };
 
-/// Within a selection of numbers.
-class TSelectBornesThread : public TRechercheBornes {
- protected:
-    enum class Reserve { Complement, Secondaire, Selection };
-    TSelectBornesThread(const ContexteComb& c, Puits& p, int taille, int inf, int sup,
-                        Reserve reserve)
-        : TRechercheBornes(c, p, taille, inf, sup), reserve_(reserve) {}
-    void Rechercher(int inf, int sup) override;
-
- private:
-    Reserve reserve_;
-};
-/// The selection and `ajout` numbers of its complement.
-class TSelectNBornesSearch : public TSelectBornesThread {
- public:
-    TSelectNBornesSearch(const ContexteComb& c, Puits& p, int ajout, int inf, int sup)
-        : TSelectBornesThread(c, p, c.selection.NbSelAbsolue + ajout, inf, sup,
-                              Reserve::Complement) {}
-};
-/// The selection and `ajout` secondary numbers.
-class TSelectNComplementaireBornesSearch : public TSelectBornesThread {
- public:
-    TSelectNComplementaireBornesSearch(const ContexteComb& c, Puits& p, int ajout, int inf, int sup)
-        : TSelectBornesThread(c, p, c.selection.NbSelAbsolue + ajout, inf, sup,
-                              Reserve::Secondaire) {}
-};
-/// The combinations of `taille` numbers of the selection.
-class TCombinaisonNBornesSearch : public TSelectBornesThread {
- public:
-    TCombinaisonNBornesSearch(const ContexteComb& c, Puits& p, int taille, int inf, int sup)
-        : TSelectBornesThread(c, p, taille, inf, sup, Reserve::Selection) {}
-};
-class TSelect1BornesSearch : public TSelectNBornesSearch {
- public:
-    TSelect1BornesSearch(const ContexteComb& c, Puits& p, int inf, int sup)
-        : TSelectNBornesSearch(c, p, 1, inf, sup) {}
-};
-class TSelect1ComplementaireBornesSearch : public TSelectNComplementaireBornesSearch {
- public:
-    TSelect1ComplementaireBornesSearch(const ContexteComb& c, Puits& p, int inf, int sup)
-        : TSelectNComplementaireBornesSearch(c, p, 1, inf, sup) {}
-};
-class TCombinaison2BornesSearch : public TCombinaisonNBornesSearch {
- public:
-    TCombinaison2BornesSearch(const ContexteComb& c, Puits& p, int inf, int sup)
-        : TCombinaisonNBornesSearch(c, p, 2, inf, sup) {}
-};
+using TCombBornesNewThread = TRechercheBornes;
+using TCombNBornesNewSearch = TBornes<DomaineBornes::Tout>;
+using TCombNSuccBornesNewSearch = TBornes<DomaineBornes::Series>;
+using TComb2BornesNewSearch = TCombNBornesNewSearch;
+using TComb2SuccBornesNewSearch = TCombNSuccBornesNewSearch;
+using TSelectBornesThread = TRechercheBornes;
+using TSelectNBornesSearch = TBornes<DomaineBornes::Complement>;
+using TSelect1BornesSearch = TSelectNBornesSearch;
+using TSelectNComplementaireBornesSearch = TBornes<DomaineBornes::Secondaire>;
+using TSelect1ComplementaireBornesSearch = TSelectNComplementaireBornesSearch;
+using TCombinaisonNBornesSearch = TBornes<DomaineBornes::Selection>;
+using TCombinaison2BornesSearch = TCombinaisonNBornesSearch;
 
 /// The class for the selection in force: none, fewer numbers than the size (with or without
 /// secondary ones), or more. Null when the selection is the one combination: see CombinaisonUnique.

@@ -69,7 +69,7 @@ struct Liste {
 };
 
 /// Zero-based lines, ascending, each once.
-using Lignes = std::span<const std::size_t>;
+using LignesChoisies = std::span<const std::size_t>;
 
 /// A list of extremes from its lines: records that hold the count alone, in their order.
 Liste ListeDeCombinaisons(int taille, std::span<const Combinaison> lignes);
@@ -89,12 +89,12 @@ struct Transfert {
 };
 /// Appends lines of the source to the target, up to CapaciteListe records. An empty target takes
 /// the type and the interval of the source. A list onto itself, or no line, does nothing.
-Transfert Copier(const Liste& source, Lignes lignes, Liste& cible);
+Transfert Copier(const Liste& source, LignesChoisies lignes, Liste& cible);
 /// The same; the lines that arrived leave the source.
-Transfert Deplacer(Liste& source, Lignes lignes, Liste& cible);
+Transfert Deplacer(Liste& source, LignesChoisies lignes, Liste& cible);
 
 /// The other lines stay in their order. Without any line left the list is empty of everything.
-void Supprimer(Liste& liste, Lignes lignes);
+void Supprimer(Liste& liste, LignesChoisies lignes);
 /// Keeps the first `n` lines, as they stand.
 void Couper(Liste& liste, std::size_t n);
 /// No record, no size, no interval.

@@ -1,10 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <fmt/format.h>
-
-#include <exception>
 #include <fstream>
-#include <new>
 #include <string>
 
 #include "comb/VaroFonc2.h"

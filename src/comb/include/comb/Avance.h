@@ -4,9 +4,9 @@
 // The stored extremes of one size brought forward draw by draw.
 #pragma once
 
-#include <string>
 #include <vector>
 
+#include "comb/Combinaison.h"
 #include "comb/Noyaux.h"
 #include "comb/VaroFonc2.h"
 
@@ -19,7 +19,7 @@ class TCombNewSearch : public TCombThread {
  public:
     /// `lignes`: the stored list, without marks; the state of the context: what it was made on.
     TCombNewSearch(const ContexteComb& contexte, Puits& puits, int taille,
-                   std::vector<std::string> lignes);
+                   std::vector<Combinaison> lignes);
 
     // After WaitFor, when `complet`.
     bool complet = false;
@@ -27,7 +27,7 @@ class TCombNewSearch : public TCombThread {
     bool recompte = false;
     int BorneInf;
     int BorneSup;
-    std::vector<std::string> lignes;
+    std::vector<Combinaison> lignes;
 
  protected:
     void Execute() override;
@@ -36,17 +36,16 @@ class TCombNewSearch : public TCombThread {
     bool coherente() const;
     bool avancer(int d);
     bool recompter(int d);
-    int compter(std::span<const Mot> numeros) const;
+    int compter(Ensemble numeros) const;
     /// Lines of the combinations of draw d that reach the maximum or leave the minimum.
     void chercherDans(int d, bool minimum);
     void descendre(int d, std::size_t niveau, std::size_t place, bool minimum);
     void voir(std::size_t place, int c, int d, bool minimum);
 
     ContexteComb contexte_;
-    EtatCombinaisons etat_;
     int taille_;
     int dejaFaits_;
-    std::vector<std::string> nouvelles_;
+    std::vector<Combinaison> nouvelles_;
     std::array<std::size_t, NbBoules> choix_{};
     std::array<CompteursPlaces, NbBoules> LignesCommunes_{};
     std::array<ListesPlaces, NbBoules> TableauxCommuns_{};

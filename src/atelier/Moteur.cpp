@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "atelier/Moteur.h"
+
+#include <fmt/format.h>
+
+#include <system_error>
+#include <utility>
+
+#include "comb/LigneCombinaison.h"
+#include "comb/Reduction.h"
+#include "Passage.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr const char* Attendez = "Attendez la fin du traitement en cours...";
+
+ReponseClic Refus(std::string message) {
+    return {ReponseClic::Genre::Refuse, std::move(message), nullptr};
+}
+
+ReponseClic Montre() {
+    return {ReponseClic::Genre::Affiche, {}, nullptr};
+}
+
+}  // namespace
+
+Moteur::Moteur(Atelier& atelier) : atelier_(atelier) {}
+Moteur::~Moteur() = default;
+
+ContexteComb Moteur::contexte() const {
+    return {.base = atelier_.base,
+            .occurrences = atelier_.occurrences,
+            .etat = atelier_.combinaisons,
+            .selection = atelier_.selection,
+            .IntervalleInf = atelier_.occurrences.IntervalleInf,
+            .IntervalleSup = atelier_.occurrences.IntervalleSup,
+            .series = atelier_.series,
+            .mode = atelier_.modeStockage,
+            .threads = threads,
+            .octetsMax = octetsMax};
+}
+
+std::filesystem::path Moteur::fichierListe(int taille) const {
+    const char* genre = atelier_.series ? "succ" : atelier_.intervalleEntier() ? "comb" : "cmbtmp";
+    return atelier_.Repertoire / fmt::format("{}{}.dat", genre, taille);
+}
+
+ReponseClic Moteur::Cliquer(int taille, int inf, int sup) {
+    if (atelier_.activite.occupe() || passage_) return Refus(Attendez);
+    switch (atelier_.modeListe) {
+        case ModeListe::Extremes:
+            return cliquerExtremes(taille);
+        case ModeListe::Bornes:
+            return cliquerBornes(taille, inf, sup);
+        case ModeListe::Manipulation:
+            break;
+    }
+    return Refus({});  // no size can be asked for there
+}
+
+template <typename Fil>
+ReponseClic Moteur::lancer(PtrFil<Fil> fil, void (Moteur::*finir)(Fil&, FinTraitement&)) {
+    passage_->travail = fil.get();
+    passage_->terminer = [this, finir, &f = *fil](FinTraitement& fin) { (this->*finir)(f, fin); };
+    return {ReponseClic::Genre::Lance, {}, PtrTravail(fil.release())};
+}
+
+void Moteur::montrer(Liste liste, int de, int a) {
+    liste.DebutListe = de;
+    liste.FinListe = a;
+    atelier_.ListeExtremes = std::move(liste);
+}
+
+/// From size 6 on the state is read as current, whatever it was made on, and a series costs nothing
+/// to count: only a list known to belong to these draws is loaded.
+bool Moteur::listeDepassee(int taille) const {
+    if (taille <= NbBoules) return false;
+    const EtatCombinaisons& etat = atelier_.combinaisons;
+    if (atelier_.series || etat.BorneSup[Indice(taille)] == 0) return true;
+    if (atelier_.intervalleEntier() && etat.NbTiragesPerime[Indice(taille)]) return true;
+    std::error_code erreur;
+    return !std::filesystem::exists(fichierListe(taille), erreur);
+}
+
+ReponseClic Moteur::cliquerExtremes(int taille) {
+    const int calcules = atelier_.combinaisons.NbTiragesComb[Indice(taille)];
+    const int tailleIntervalle = atelier_.tailleIntervalle();
+    if (tailleIntervalle < calcules && !atelier_.series) return avancerExtremes(taille);
+    if (tailleIntervalle != calcules || listeDepassee(taille)) return calculerExtremes(taille);
+
+    const auto stockees = LireListe(fichierListe(taille), taille);
+    if (!stockees) return Refus(stockees.erreur());
+    // A full list was cut when it was stored: only a run tells how many there are.
+    if (stockees->size() == CapaciteListe) return calculerExtremes(taille);
+    montrer(ListeDeCombinaisons(taille, *stockees), atelier_.occurrences.IntervalleInf,
+            atelier_.occurrences.IntervalleSup);
+    return Montre();
+}
+
+ReponseClic Moteur::calculerExtremes(int taille) {
+    passage_ = std::make_unique<Passage>();
+    auto fil = CreerRechercheExtremes(contexte(), *passage_->collecte, taille);
+    passage_->collecte->progres = &fil->progres;
+    fil->garde = passage_->collecte;
+    auto& calcules = atelier_.combinaisons.NbTiragesComb[Indice(taille)];
+    passage_->NbTiragesCombSauve = std::exchange(calcules, atelier_.tailleIntervalle());
+    passage_->listeAvant = std::exchange(atelier_.ListeExtremes, {});
+    return lancer(std::move(fil), &Moteur::finirExtremes);
+}
+
+ReponseClic Moteur::oublierAutreBase(int taille) {
+    EtatCombinaisons& etat = atelier_.combinaisons;
+    const int calcules = std::exchange(etat.NbTiragesComb[Indice(taille)], 0);
+    etat.BorneInf[Indice(taille)] = 0;
+    etat.BorneSup[Indice(taille)] = 0;
+    return Refus(fmt::format(
+        "Les bornes enregistrées pour {} numéros portent sur {} tirages et la base n'en "
+        "compte que {} : elles sont oubliées, cliquez à nouveau pour les recalculer.",
+        taille, calcules, atelier_.base.NbTirages));
+}
+
+ReponseClic Moteur::avancerExtremes(int taille) {
+    const int total = atelier_.base.NbTirages;
+    const int calcules = atelier_.combinaisons.NbTiragesComb[Indice(taille)];
+    if (calcules > total) return oublierAutreBase(taille);
+    auto stockees = LireListe(atelier_.Repertoire / fmt::format("comb{}.dat", taille), taille);
+    if (!stockees) return Refus(stockees.erreur());
+    EffacerMarques(*stockees);
+    Liste liste = ListeDeCombinaisons(taille, *stockees);
+    if (calcules < total) {
+        passage_ = std::make_unique<Passage>();
+        passage_->NbTiragesCombSauve = calcules;
+        passage_->listeAvant = std::move(atelier_.ListeExtremes);
+    }
+    montrer(std::move(liste), 1, calcules);
+    if (calcules == total) return Montre();
+
+    auto fil = PtrFil<TCombNewSearch>(
+        new TCombNewSearch(contexte(), *passage_->collecte, taille, *std::move(stockees)));
+    passage_->collecte->progres = &fil->progres;
+    fil->garde = passage_->collecte;
+    return lancer(std::move(fil), &Moteur::finirAvance);
+}
+
+ReponseClic Moteur::cliquerBornes(int taille, int inf, int sup) {
+    if (inf > sup)
+        return Refus(
+            fmt::format("Les bornes sont croisées : la borne Inf ({}) dépasse la borne Sup ({}). "
+                        "Corrigez l'une "
+                        "des deux.",
+                        inf, sup));
+    const ContexteComb c = contexte();
+    Liste liste;
+    liste.DebutListe = c.IntervalleInf;
+    liste.FinListe = c.IntervalleSup;
+    if (!c.selection.vide() && c.selection.NbSelAbsolue == taille) {
+        liste.arene = CombinaisonUnique(c, inf, sup);
+        atelier_.ListeMemoire = std::move(liste);
+        return Montre();
+    }
+    passage_ = std::make_unique<Passage>();
+    auto fil = CreerRechercheBornes(c, *passage_->puitsListe, taille, inf, sup);
+    liste.arene.disposition = fil->disposition();
+    passage_->puitsListe->liste = std::move(liste);
+    passage_->puitsListe->progres = &fil->progres;
+    fil->garde = passage_->puitsListe;
+    return lancer(std::move(fil), &Moteur::finirBornes);
+}
+
+BornesAffichees Moteur::AfficherBornes(int taille) const {
+    const auto n = Indice(taille);
+    const EtatCombinaisons& etat = atelier_.combinaisons;
+    // A draw lies in some combination of each size, so a maximum of 0 was never counted.
+    const bool jamais = taille > NbBoules && !atelier_.series && etat.BorneSup[n] == 0;
+    return {.calculee = !jamais && etat.NbTiragesComb[n] == atelier_.tailleIntervalle(),
+            .BorneInf = etat.BorneInf[n],
+            .BorneSup = etat.BorneSup[n],
+            .NbTirages = etat.NbTiragesComb[n]};
+}
+
+std::array<BornesAffichees, TailleCombMax - TailleCombMin + 1> Moteur::RafraichirBornes() const {
+    std::array<BornesAffichees, TailleCombMax - TailleCombMin + 1> bornes;
+    for (int taille = TailleCombMin; taille <= TailleCombMax; ++taille)
+        bornes[Indice(taille - TailleCombMin)] = AfficherBornes(taille);
+    return bornes;
+}
+
+}  // namespace norvane

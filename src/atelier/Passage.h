@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// One run of the engine: what it writes into, and what its end needs.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include "atelier/Moteur.h"
+#include "comb/Collecte.h"
+#include "lists/PuitsListe.h"
+
+namespace norvane {
+
+struct Moteur::Passage {
+    std::shared_ptr<Collecte> collecte = std::make_shared<Collecte>();        ///< extremes
+    std::shared_ptr<PuitsListe> puitsListe = std::make_shared<PuitsListe>();  ///< bounds
+    Liste listeAvant;                     ///< the extremes that stood before
+    std::int32_t NbTiragesCombSauve = 0;  ///< what NbTiragesComb goes back to on STOP
+    std::chrono::steady_clock::time_point debut = std::chrono::steady_clock::now();
+    const Travail* travail = nullptr;
+    std::function<void(FinTraitement&)> terminer;
+};
+
+inline std::size_t Indice(int n) {
+    return static_cast<std::size_t>(n);
+}
+
+}  // namespace norvane
