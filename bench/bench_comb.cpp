@@ -11,15 +11,12 @@
 
 #include "base/BaseIntegree.h"
 #include "comb/Collecte.h"
-#include "comb/LigneCombinaison.h"
 #include "comb/Reduction.h"
 #include "stats/Noyau.h"
 #include "Verification.h"
 
 namespace norvane {
 namespace {
-
-using Ensemble = std::uint64_t;  // bit n-1 for number n
 
 struct Donnees {
     Base base;
@@ -31,7 +28,7 @@ struct Donnees {
         ConstruireOccurrences(base, occ);
         for (const Tirage& t : base.enUsage()) {
             ensembles.push_back(0);
-            for (const int n : t.Numeros) ensembles.back() |= Ensemble{1} << (n - 1);
+            for (const int n : t.Numeros) ensembles.back() |= MasqueNumero(n);
         }
     }
     ContexteComb contexte(unsigned threads = 0) const {
@@ -43,10 +40,10 @@ struct Donnees {
                 .IntervalleSup = base.NbTirages,
                 .threads = threads};
     }
-    std::vector<Ensemble> ensembles;
+    std::vector<Masque> ensembles;
 };
 
-std::vector<std::string> ChercherExtremes(const Donnees& d, int taille) {
+std::vector<Combinaison> ChercherExtremes(const Donnees& d, int taille) {
     Collecte collecte;
     const auto fil = CreerRechercheExtremes(d.contexte(), collecte, taille);
     fil->Resume();
@@ -68,37 +65,37 @@ void ChaqueCombinaison(std::span<Mot> numeros, auto visite) {
     }
 }
 
-Ensemble EnEnsemble(std::span<const Mot> numeros) {
-    Ensemble e = 0;
-    for (const Mot n : numeros) e |= Ensemble{1} << (n - 1);
+Masque EnMasque(std::span<const Mot> numeros) {
+    Masque e = 0;
+    for (const Mot n : numeros) e |= MasqueNumero(n);
     return e;
 }
 
-std::vector<std::string> ExtremesParTable(const Donnees& d, int taille) {
-    std::unordered_map<Ensemble, int> table;
+std::vector<Combinaison> ExtremesParTable(const Donnees& d, int taille) {
+    std::unordered_map<Masque, int> table;
     for (const Tirage& t : d.base.enUsage())
         for (unsigned choix = 0; choix < 32; ++choix) {
             if (std::popcount(choix) != taille) continue;
-            Ensemble e = 0;
+            Masque e = 0;
             for (unsigned p = 0; p < 5; ++p)
-                if ((choix >> p & 1) != 0) e |= Ensemble{1} << (t.Numeros[p] - 1);
+                if ((choix >> p & 1) != 0) e |= MasqueNumero(t.Numeros[p]);
             ++table[e];
         }
     int max = 0;
     for (const auto& [e, n] : table) max = std::max(max, n);
     const bool minimum = SuitMinimum(taille, d.base.NbTirages);
     int min = max;
-    std::vector<std::string> lignes;
+    std::vector<Combinaison> lignes;
     std::vector<Mot> numeros(static_cast<std::size_t>(taille));
     const auto visiter = [&](auto visite) {
         ChaqueCombinaison(numeros, [&] {
-            const auto it = table.find(EnEnsemble(numeros));
+            const auto it = table.find(EnMasque(numeros));
             visite(it == table.end() ? 0 : it->second);
         });
     };
     if (minimum) visiter([&](int n) { min = std::min(min, n); });
     visiter([&](int n) {
-        if (n == max || (minimum && n == min)) lignes.push_back(LigneCombinaison(numeros, n));
+        if (n == max || (minimum && n == min)) lignes.push_back({Ensemble::de(numeros), n});
     });
     return lignes;
 }
@@ -118,7 +115,7 @@ std::vector<Mot> BornesParEssais(const Donnees& d, int taille) {
     std::vector<Mot> numeros(static_cast<std::size_t>(taille));
     ListeOccurrences liste;
     ChaqueCombinaison(numeros, [&] {
-        const Ensemble e = EnEnsemble(numeros);
+        const Masque e = EnMasque(numeros);
         liste.clear();
         for (std::size_t t = 0; t < d.ensembles.size(); ++t)
             if ((d.ensembles[t] & e) == e) liste.push_back(static_cast<Occurrence>(t));
@@ -167,7 +164,7 @@ void Mesurer() {
     std::printf("\nextremes, %d draws\nsize  lines        ms  hash table ms   ratio\n",
                 globale.base.NbTirages);
     for (int taille = 2; taille <= 5; ++taille) {
-        std::vector<std::string> lignes, naives;
+        std::vector<Combinaison> lignes, naives;
         const double s = Secondes([&] { lignes = ChercherExtremes(globale, taille); });
         const double naif = UneFois([&] { naives = ExtremesParTable(globale, taille); });
         Exiger(lignes == naives, "extremes");

@@ -43,7 +43,7 @@ TEST_F(TestAtelier, DossierVide) {
     EXPECT_EQ(a.occurrences.IntervalleInf, 1);
     EXPECT_EQ(a.occurrences.IntervalleSup, 3214);
     EXPECT_TRUE(a.avertissements.empty());
-    EXPECT_FALSE(a.occupe());
+    EXPECT_FALSE(a.activite.occupe());
     EXPECT_TRUE(fs::is_empty(dossier)) << "a start writes nothing";
 }
 
@@ -90,12 +90,45 @@ TEST_F(TestAtelier, UneBaseQuOnNePeutLireResteLa) {
 }
 
 TEST_F(TestAtelier, RecalculApresSuppression) {
+    ecrire(NomCombCalc, "3214 12 51\n");
     Atelier a(dossier);
+    ChangerIntervalle(a.base, a.occurrences, 100, 200);
+    EXPECT_EQ(a.tailleIntervalle(), 101);
+    EXPECT_FALSE(a.intervalleEntier());
     const int premier = a.base.Tirages[0].Numeros[0];
-    const auto avant = a.occurrences.SortiesNumeros[static_cast<std::size_t>(premier - 1)];
+    const auto k = static_cast<std::size_t>(premier - 1);
+    const auto avant = a.occurrences.SortiesNumeros[k];
+    const std::vector<Combinaison> une = {{{1, 2}, 3}};
+    a.ListeExtremes = a.ListeMemoire = a.ListeTampon[1] = ListeDeCombinaisons(2, une);
+    a.modeListe = ModeListe::Manipulation;
+    a.grilleSelection[k] = Priorite::Absolue;
+    a.combinaisons.BorneSup[2] = 7;
     SupprimerTirage(a.base, 0);
-    a.recalculer();
-    EXPECT_EQ(a.occurrences.SortiesNumeros[static_cast<std::size_t>(premier - 1)], avant - 1);
-    EXPECT_EQ(a.occurrences.IntervalleSup, 3213);
+    ASSERT_TRUE(a.recalculer());
+    EXPECT_EQ(a.occurrences.SortiesNumeros[k], avant - 1);
+    EXPECT_TRUE(a.intervalleEntier());
+    EXPECT_EQ(a.tailleIntervalle(), 3213);
     EXPECT_EQ(a.occurrences.PositionNumero.size(), 3213U);
+    // The lists of the engine speak of draws that are no more; the user's own stay.
+    EXPECT_TRUE(a.ListeExtremes.vide() && a.ListeMemoire.vide());
+    EXPECT_EQ(a.liste(QuelleListe::Tampon2).nombre(), 1U);
+    EXPECT_EQ(a.modeListe, ModeListe::Extremes);
+    EXPECT_EQ(a.selection.NbTiragesSelection, avant - 1);
+    EXPECT_EQ(a.combinaisons.BorneSup[2], 51);
+
+    ecrire(NomCombCalc, "deux\n");
+    a.grilleSelection[k] = Priorite::Secondaire;  // refused alone
+    const auto fait = a.recalculer();
+    ASSERT_FALSE(fait);
+    EXPECT_TRUE(fait.erreur().starts_with("Ligne 1 du")) << fait.erreur();
+    EXPECT_EQ(a.combinaisons.BorneSup[2], 0);
+    EXPECT_TRUE(a.selection.vide());
+}
+
+TEST_F(TestAtelier, ChaqueListeASaPlace) {
+    Atelier a(dossier);
+    EXPECT_EQ(&a.liste(QuelleListe::Extremes), &a.ListeExtremes);
+    EXPECT_EQ(&a.liste(QuelleListe::Memoire), &a.ListeMemoire);
+    EXPECT_EQ(&a.liste(QuelleListe::Tampon1), &a.ListeTampon[0]);
+    EXPECT_EQ(&a.liste(QuelleListe::Tampon3), &a.ListeTampon[2]);
 }

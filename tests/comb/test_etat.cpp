@@ -81,11 +81,6 @@ TEST(EtatCombinaisons, WrittenAndReadBack) {
     ASSERT_TRUE(EcrireCombCalc(etat, dossier.chemin()));
     EXPECT_EQ(lire(dossier / NomCombCalc), CompletLu);
 
-    const auto libelles = LibellesBornesTaille(etat, 2, 2000);
-    EXPECT_EQ(libelles.inf, "Borne Inf calculée pour 2000 tirages");
-    EXPECT_EQ(libelles.sup, "Borne Sup calculée pour 2000 tirages");
-    EXPECT_EQ(LibellesBornesTaille(etat, 2, 2005).inf, "Borne Inf en attente de calcul");
-
     etat.NbTiragesComb[3] = -10;
     ASSERT_TRUE(EcrireCombCalc(etat, dossier.chemin()));
     EXPECT_EQ(LireCombCalc(dossier.chemin(), NbTirages)->NbTiragesComb[3], 0);

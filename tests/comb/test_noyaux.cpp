@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include "comb/Distances.h"
+#include "comb/LigneCombinaison.h"
 #include "comb/StatsCombinaison.h"
 #include "Dossier.h"
 #include "OracleComb.h"
@@ -13,23 +15,16 @@ namespace {
 
 TEST(LigneCombinaison, WrittenAndRead) {
     struct {
-        std::vector<Mot> numeros;
-        int nbFois;
-        bool marque;
+        Combinaison combinaison;
         const char* ligne;
     } const cas[] = {
-        {{7, 23}, 112, false, "07 23  (112)"},
-        {{1, 2, 3}, 0, true, "01 02 03  (00) N"},
-        {{1, 2, 3, 4, 5, 6, 7, 8, 9, 49}, 65535, false, "01 02 03 04 05 06 07 08 09 49  (65535)"},
+        {{{7, 23}, 112}, "07 23  (112)"},
+        {{{1, 2, 3}, 0, true}, "01 02 03  (00) N"},
+        {{{1, 2, 3, 4, 5, 6, 7, 8, 9, 49}, 65535}, "01 02 03 04 05 06 07 08 09 49  (65535)"},
     };
     for (const auto& c : cas) {
-        EXPECT_EQ(LigneCombinaison(c.numeros, c.nbFois, c.marque), c.ligne);
-        EXPECT_EQ(std::string(c.ligne).find('('), c.numeros.size() * 3 + 1);
-        const auto lue = LireLigneCombinaison(std::string(c.ligne) + " \r");
-        ASSERT_TRUE(lue) << c.ligne;
-        EXPECT_EQ(lue->numeros, c.numeros);
-        EXPECT_EQ(lue->nbFois, c.nbFois);
-        EXPECT_EQ(lue->marque, c.marque);
+        EXPECT_EQ(LigneCombinaison(c.combinaison), c.ligne);
+        EXPECT_TRUE(LireLigneCombinaison(std::string(c.ligne) + " \r") == c.combinaison) << c.ligne;
     }
     std::istringstream refus(
         "|07 23|07 23 (12)|7 23  (12)|07 07  (12)|23 07  (12)|00 07  (12)|07 50  (12)|07  (12)|"
@@ -43,14 +38,14 @@ TEST(LigneCombinaison, ListFiles) {
     const Dossier dossier;
     const auto fichier = dossier / "comb2.dat";
     EXPECT_TRUE(LireListe(fichier, 2)->empty());
-    const std::vector<std::string> lignes = {"03 13  (51)", "05 31  (12) N"};
+    const std::vector<Combinaison> lignes = {{{3, 13}, 51}, {{5, 31}, 12, true}};
     ASSERT_TRUE(EcrireListe(fichier, lignes));
     EXPECT_EQ(lire(fichier), "03 13  (51)\n05 31  (12) N\n");
-    EXPECT_EQ(*LireListe(fichier, 2), lignes);
+    EXPECT_TRUE(*LireListe(fichier, 2) == lignes);
     poser(fichier,
           "\xEF\xBB\xBF"
           "03 13  (51)\r\n05 31  (12) N\r\n\r\n");
-    EXPECT_EQ(*LireListe(fichier, 2), lignes);
+    EXPECT_TRUE(*LireListe(fichier, 2) == lignes);
 
     std::string longue;
     for (std::size_t i = 0; i <= CapaciteListe; ++i) longue += "03 13  (51)\n";
@@ -70,6 +65,41 @@ TEST(LigneCombinaison, ListFiles) {
         EXPECT_NE(lue.erreur().find(c.dit), std::string::npos) << lue.erreur();
         EXPECT_NE(lue.erreur().find("comb2.dat"), std::string::npos) << lue.erreur();
     }
+}
+
+// Draws with gaps of every length, numbers that come once, never, last or first.
+TEST(Distances, NextDrawOfEachNumberByLooking) {
+    std::mt19937 hasard(5);
+    for (const auto& [n, numeros] : {std::pair{90, 13}, {60, 49}, {1, 5}}) {
+        const Etabli e(BaseAleatoire(hasard, n, numeros));
+        TableDistances table;
+        VersDistances(e.occ, table);
+        ASSERT_EQ(table.DistanceTirage.size(), static_cast<std::size_t>(n));
+        for (int d = 0; d < n; ++d)
+            for (int numero = 1; numero <= NumeroMax; ++numero) {
+                const auto present = [&](int i) {
+                    return Tient(e.base.Tirages[static_cast<std::size_t>(i)], {numero});
+                };
+                int suivant = d + 1;
+                while (suivant < n && !present(suivant)) ++suivant;
+                ASSERT_EQ(table.DistanceTirage[static_cast<std::size_t>(d)]
+                                              [static_cast<std::size_t>(numero - 1)],
+                          present(d) ? suivant - d : d - suivant)
+                    << d << ": " << numero;
+            }
+        VersPositions(table);
+        EXPECT_EQ(table.DistanceTirage.capacity(), 0U);
+    }
+    // More draws than a word can tell.
+    std::vector<Tirage> longue(33000, {{1, 2, 3, 4, 5}, 1, 0, 2023001, 20230101, 1, 0});
+    longue.front().Numeros[4] = longue.back().Numeros[4] = 6;
+    const Etabli e(FaireBase(std::move(longue)));
+    TableDistances table;
+    VersDistances(e.occ, table);
+    EXPECT_EQ(table.DistanceTirage[0][5], DistanceMax);
+    EXPECT_EQ(table.DistanceTirage[1][5], -DistanceMax);
+    EXPECT_EQ(table.DistanceTirage[1000][5], -31999);
+    EXPECT_EQ(table.DistanceTirage.back()[5], 1);
 }
 
 TEST(Selection, NeedsAnAbsoluteNumber) {

@@ -39,12 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         std::ofstream(dossier / "liste.dat", std::ios::binary) << contenu;
         const auto lignes = LireListe(dossier / "liste.dat", n);
         if (!lignes) continue;
-        for (const std::string& ligne : *lignes) {
-            const auto lue = LireLigneCombinaison(ligne);
-            exiger(lue && lue->numeros.size() == static_cast<std::size_t>(n));
-            const auto relue =
-                LireLigneCombinaison(LigneCombinaison(lue->numeros, lue->nbFois, lue->marque));
-            exiger(relue && relue->numeros == lue->numeros && relue->nbFois == lue->nbFois);
+        for (const Combinaison& ligne : *lignes) {
+            exiger(ligne.numeros.taille() == n);
+            exiger(LireLigneCombinaison(LigneCombinaison(ligne)) == ligne);
         }
     }
     return 0;

@@ -17,7 +17,7 @@ namespace norvane {
 inline constexpr int TailleCombMin = 2;
 inline constexpr int TailleCombMax = 10;
 
-/// Most lines that a list box shows and most records that a buffer list holds.
+/// Most lines that a list shows and most records that a buffer list holds.
 inline constexpr std::size_t CapaciteListe = 32736;
 
 /// One line of a list of extremes.
