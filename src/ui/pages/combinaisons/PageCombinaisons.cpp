@@ -209,11 +209,9 @@ void PageCombinaisons::surChange(const Changement& changement) {
         suivreBase();
         return;
     }
-    // While a search runs, the bounds of its size are not those of a list yet.
-    const bool bornes = changement.intervalle || changement.listes;
-    if (bornes && recherche() == 0) tailles_->suivreBornes(moteur_.RafraichirBornes());
     if (changement.intervalle) suivreIntervalle();
     if (changement.listes) suivreMode();
+    if (changement.intervalle || changement.listes) suivreBornes();
 }
 
 void PageCombinaisons::suivreBase() {
@@ -223,6 +221,7 @@ void PageCombinaisons::suivreBase() {
     combinaison_->montrer({});
     suivreIntervalle();
     suivreMode();
+    suivreBornes();
 }
 
 void PageCombinaisons::suivreIntervalle() {
@@ -236,8 +235,13 @@ void PageCombinaisons::suivreMode() {
     tailles_->montrerStockage(a.modeStockage);
     cahier_->montrerMode(a.modeListe);
     liste_->poserInvite(QString::fromUtf16(Invites[static_cast<std::size_t>(a.modeListe)]));
-    liste_->colorer(a.modeListe != ModeListe::Manipulation);
     AfficherListe();
+}
+
+void PageCombinaisons::suivreBornes() {
+    // While a search runs, the bounds of its size are not those of a list yet.
+    if (recherche() == 0) tailles_->suivreBornes(moteur_.RafraichirBornes());
+    liste_->colorer(contexte.atelier.modeListe != ModeListe::Manipulation);
 }
 
 void PageCombinaisons::AfficherListe() {

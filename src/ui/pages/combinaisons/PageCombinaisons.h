@@ -54,6 +54,7 @@ class PageCombinaisons final : public Page {
     void suivreBase();
     void suivreIntervalle();
     void suivreMode();
+    void suivreBornes();
     void AfficherListe();
 
     Moteur moteur_;
