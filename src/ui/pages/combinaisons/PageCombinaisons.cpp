@@ -75,8 +75,6 @@ void PageCombinaisons::relier() {
             [this](const Combinaison& c) { combinaison_->montrer(c.numeros); });
     connect(combinaison_, &PanneauCombinaison::positionDemandee, this,
             &PageCombinaisons::ButtonPositionClick);
-    connect(&contexte.travaux, &Travaux::commence, this,
-            [this] { tailles_->montrerRecherche(recherche()); });
 }
 
 void PageCombinaisons::poserOrdreTabulation() {
@@ -125,7 +123,9 @@ void PageCombinaisons::RadioGroup1Click(ModeStockage mode) {
 
 int PageCombinaisons::recherche() const {
     const auto& enCours = contexte.atelier.activite.enCours;
-    return enCours && enCours->liste != QuelleListe::Aucune ? enCours->taille : 0;
+    const bool cherche = enCours && (enCours->genre == GenreTravail::Extremes ||
+                                     enCours->genre == GenreTravail::Bornes);
+    return cherche ? enCours->taille : 0;
 }
 
 void PageCombinaisons::CombSearchClick(int taille) {
@@ -156,6 +156,7 @@ void PageCombinaisons::lancer(int taille, ReponseClic reponse) {
                          &tailles_->jauge(), &tailles_->temps()};
     if (contexte.travaux.lancer(std::move(reponse.travail), vue, this,
                                 [this](Travail& travail) { TraitementTermine(travail); })) {
+        tailles_->montrerRecherche(recherche());
         AfficherListe();
         return;
     }
@@ -165,7 +166,7 @@ void PageCombinaisons::lancer(int taille, ReponseClic reponse) {
 
 void PageCombinaisons::TraitementTermine(Travail& travail) {
     const FinTraitement fin = moteur_.TraitementTermine(travail);
-    tailles_->montrerRecherche(0);
+    tailles_->montrerRecherche(recherche());
     if (!fin.secondes) tailles_->temps().clear();
     if (travail.description.genre == GenreTravail::Bornes) tri_->montrerTriSimple();
     contexte.relais.annoncer({.listes = true});

@@ -65,10 +65,11 @@ void PanneauCombinaison::poserIntervalle(int inf, int sup) {
     sup_ = sup;
     tirages_->setText(sup < inf ? QString()
                                 : versQt(LibelleIntervalleCourt(contexte_.atelier.base, inf, sup)));
-    rafraichir();
+    if (!numeros_.vide()) rafraichir();
 }
 
 void PanneauCombinaison::montrer(Ensemble numeros) {
+    if (numeros.vide() && numeros_.vide()) return;
     numeros_ = numeros;
     rafraichir();
 }
