@@ -103,9 +103,11 @@ class TestCombinaisons : public QObject {
         QVERIFY(conforme() && e.texte("RxLabelIndice") == u"5"_s);
         e.mode()->setCurrentIndex(0);
         QVERIFY(e.lignes() == 0 && e.lu(3) == u"0"_s && e.texte("RxLabelIndice").isEmpty());
+        QVERIFY(e.de<QWidget>("AideMode")->isVisibleTo(e.page) && !e.texte("AideMode").isEmpty());
         QVERIFY(e.texte("Label25").isEmpty() && e.texte("LabelCombEnMemoire") == compte);
         e.mode()->setCurrentIndex(2);
         QVERIFY(conforme() && !e.comb(3)->isEnabled() && e.encre(0) == QColor(Qt::black));
+        QVERIFY(e.de<QWidget>("PromesseListes")->isVisibleTo(e.page));
         // One that would not fit is refused: the former list stands.
         e.mode()->setCurrentIndex(1);
         e.page->moteur().octetsMax = 100;
@@ -124,6 +126,7 @@ class TestCombinaisons : public QObject {
         const EssaiCombinaisons e;
         e.comb(10)->click();  // extremes, stopped before their end
         QVERIFY(e.comb(10)->text() == u"STOP"_s && e.comb(9)->text() == u"COMB &9"_s);
+        QCOMPARE(e.texte("PanneauTexte"), u"Calcul des combinaisons de 10 numéros en cours..."_s);
         e.comb(10)->click();
         e.finir();
         QVERIFY(e.comb(10)->text() == u"COMB 1&0"_s && e.mode()->isEnabled());
@@ -169,12 +172,17 @@ class TestCombinaisons : public QObject {
     void departEtDestruction() {
         EssaiCombinaisons e;
         QCOMPARE(e.mode()->currentIndex(), 0);  // nothing is computed
-        for (const int taille : {2, 3, 4, 5}) e.calculer(taille);
-        Atelier relu(e.a.Repertoire);
-        TVaroMainForm forme(relu, e.banc.services);
-        forme.montrer();
-        QCOMPARE(forme.findChild<QComboBox*>(u"ComboBox1"_s)->currentIndex(), 1);
-        forme.findChild<QAbstractButton*>(u"Comb5Search"_s)->click();  // ends with its page
+        for (const int taille : {2, 3, 4}) e.calculer(taille);
+        const auto modeAuDepart = [&e](bool relancer) {
+            Atelier relu(e.a.Repertoire);
+            TVaroMainForm forme(relu, e.banc.services);
+            forme.montrer();
+            if (relancer) forme.findChild<QAbstractButton*>(u"Comb5Search"_s)->click();
+            return forme.findChild<QComboBox*>(u"ComboBox1"_s)->currentIndex();
+        };
+        QCOMPARE(modeAuDepart(false), 0);
+        e.calculer(5);
+        QCOMPARE(modeAuDepart(true), 1);  // the search that it starts ends with its page
     }
 };
 
