@@ -22,8 +22,8 @@ namespace norvane {
 /// Whether the base is being edited by hand.
 enum class Edition { Aucune, MiseAJour, AjoutLibre };
 
-/// Draws that the statistics of the page "Numéros" speak of, one-based, inclusive: other pages work
-/// over them too. `sup` below `inf`: not chosen yet, the whole base.
+/// Draws that the statistics of a page speak of, one-based, inclusive: other pages work over those
+/// of "Numéros" too. `sup` below `inf`: not chosen yet, the whole base.
 struct IntervalleStats {
     int inf = 1;
     int sup = 0;
@@ -37,7 +37,7 @@ struct Atelier {
     Base base;
     Occurrences occurrences;
     EtatCombinaisons combinaisons;
-    IntervalleStats StatsNumeros;
+    IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
 
     std::vector<Grille> ListeGrilles;    ///< the working list of tickets
     std::vector<Grille> ListeRecu;       ///< the tickets of the receipt in memory
@@ -46,8 +46,8 @@ struct Atelier {
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
-    bool Relance = false;           ///< the program must start itself again after closing
-    bool FiltreActif = false;       ///< the base in memory is a filtered one
+    bool Relance = false;      ///< the program must start itself again after closing
+    bool FiltreActif = false;  ///< the base in memory is a filtered one
 
     /// What the user must be told once the window stands: one French sentence each.
     std::vector<std::string> avertissements;
