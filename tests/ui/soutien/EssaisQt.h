@@ -27,7 +27,7 @@ class AvertissementAttendu {
     AvertissementAttendu& operator=(const AvertissementAttendu&) = delete;
 };
 
-/// Has each item model below `racine` checked at every change from now on. A model that breaks the
+/// Has each item model of ours below `racine` checked at every change from now on. A model that breaks the
 /// rules of its kind ends the program.
 void eprouverModeles(const QObject& racine);
 

@@ -151,6 +151,8 @@ QGroupBox* PageStats::construireRatio() {
     }
     rangee->addStretch(1);
     ratio_->button(Graphique)->setChecked(true);
+    // One stop of the tab key, at the choice made; the toolkit sees to it from the first focus on.
+    ratio_->button(Simple)->setFocusPolicy(Qt::ClickFocus);
     connect(ratio_, &QButtonGroup::idClicked, this, [this](int choisi) {
         graphique_ = choisi == Graphique;
         remplirBornes();
