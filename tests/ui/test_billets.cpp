@@ -62,7 +62,7 @@ Geste ouvrir(const QString& nom, const std::string& contenu) {
 
 }  // namespace
 
-class TestBillets final : public QObject {
+class TestBillets final : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:

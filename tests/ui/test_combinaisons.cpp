@@ -93,7 +93,7 @@ struct Essai : FormeOuverte {
 
 }  // namespace
 
-class TestCombinaisons : public QObject {
+class TestCombinaisons : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:

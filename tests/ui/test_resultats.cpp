@@ -35,7 +35,7 @@ class Peintures final : public QObject {
 
 }  // namespace
 
-class TestResultats final : public QObject {
+class TestResultats final : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:

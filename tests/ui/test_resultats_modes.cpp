@@ -11,7 +11,7 @@
 
 using namespace norvane::ui::essais;
 
-class TestResultatsModes final : public QObject {
+class TestResultatsModes final : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:

@@ -21,6 +21,7 @@
 #include "dialogs/AboutBox.h"
 #include "pages/Pages.h"
 #include "shell/Aide.h"
+#include "stats/TableauStats.h"
 #include "widgets/EtiquetteMode.h"
 
 namespace norvane::ui {
@@ -28,7 +29,8 @@ namespace norvane::ui {
 using namespace Qt::StringLiterals;
 
 TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* instance)
-    : travaux_(atelier.activite),
+    : relais_(this),
+      travaux_(atelier.activite, this),
       contexte_{atelier, services, modes, travaux_, relais_},
       instance_(instance),
       fermeture_(contexte_) {

@@ -119,7 +119,6 @@ BandeTirage::BandeTirage(double echelle, QWidget* parent) : QWidget(parent), ech
 }
 
 void BandeTirage::disposer(bool avecChance) {
-    avecChance_ = avecChance;
     const auto px = [this](int longueur) { return qRound(longueur * echelle_); };
     const auto& gauches = avecChance ? GauchesEtroites : GauchesLarges;
     const int largeur = px(avecChance ? LargeurEtroite : LargeurLarge);

@@ -24,8 +24,8 @@ namespace norvane {
 /// Whether the base is being edited by hand.
 enum class Edition { Aucune, MiseAJour, AjoutLibre };
 
-/// Draws that the statistics of the page "Numéros" speak of, one-based, inclusive: other pages work
-/// over them too. `sup` below `inf`: not chosen yet, the whole base.
+/// Draws that the statistics of a page speak of, one-based, inclusive: other pages work over those
+/// of "Numéros" too. `sup` below `inf`: not chosen yet, the whole base.
 struct IntervalleStats {
     int inf = 1;
     int sup = 0;
@@ -49,7 +49,7 @@ struct Atelier {
     Configuration configuration;
     Base base;
     Occurrences occurrences;
-    IntervalleStats StatsNumeros;
+    IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
 
     EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
     bool series = false;                ///< the engine looks at series of consecutive numbers alone

@@ -32,8 +32,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int RythmeMs = 33;      // steps of the gauge, at most thirty a second
-constexpr auto ColonneRatio = 2;  // of AdvStringGrid2
+constexpr int RythmeMs = 33;  // steps of the gauge, at most thirty a second
 constexpr double FacteurListe = 1.08;
 
 /// A small square in a colour that follows the palette.
@@ -229,7 +228,7 @@ Fiche* PageCombinaisons::creerFicheCombinaison() {
     libelle_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     poserIndice(libelle_, u"Combinaison de la ligne choisie"_s);
 
-    AdvStringGrid2 = new VueTableau(ColonnesCombinaison(), 1, contexte.Echelle, fiche);
+    AdvStringGrid2 = new VueTableau(colonnesCombinaison(), 1, contexte.Echelle, fiche);
     AdvStringGrid2->setObjectName(u"AdvStringGrid2"_s);
     AdvStringGrid2->setAccessibleName(u"Statistiques de la combinaison choisie"_s);
     poserIndice(AdvStringGrid2,
@@ -237,7 +236,7 @@ Fiche* PageCombinaisons::creerFicheCombinaison() {
                 u"le tirage correspondant"_s);
     AdvStringGrid2->modele().poserTriDepart({0, false});
     AdvStringGrid2->poserBulle(
-        [this](const QModelIndex& i) { return BulleRatio(*AdvStringGrid2, i, ColonneRatio); });
+        [this](const QModelIndex& i) { return bulleRatio(*AdvStringGrid2, i); });
     // Room for the six rows of the larger sizes from the start.
     AdvStringGrid2->reserverLignes(NbBoules + 1);
 

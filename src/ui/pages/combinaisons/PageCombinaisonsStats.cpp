@@ -16,7 +16,7 @@ namespace norvane::ui {
 using namespace Qt::StringLiterals;
 
 namespace {
-enum Colonne { Sortis, NbFois, Ratio, Date, Ecart, EcartMax, Suite, SuiteMax };
+constexpr std::size_t Ratio = 2;  // column of AdvStringGrid2
 }  // namespace
 
 void PageCombinaisons::ListBoxClick(int place) {
@@ -41,42 +41,18 @@ void PageCombinaisons::afficherCombinaison() {
     std::vector<LigneTableau> rangees;
     rangees.reserve(stats_.size());
     for (const LigneStatsCombinaison& ligne : stats_) {
-        const ResultatStats& r = ligne.resultat;
-        const int bruts[NbColonnesCombinaison] = {ligne.bons, ligne.NbFois, ligne.ratioGraphique,
-                                                  ligne.date, r.Ecart,      r.EcartMax,
-                                                  r.Suite,    r.SuiteMax};
-        LigneTableau rangee(NbColonnesCombinaison);
-        for (std::size_t c = 0; c < rangee.size(); ++c) {
-            rangee[c].texte = ligne.cellules[c];
-            rangee[c].brut = bruts[c];
-        }
-        rangee[Ratio] =
-            CelluleRatio(ligne.cellules[Ratio], ligne.ratioGraphique, CheckBoxRN->isChecked());
-        rangees.push_back(std::move(rangee));
+        rangees.push_back(ligneTableau(ligne.cellules));
+        rangees.back()[Ratio] = celluleRatio(ligne.cellules[Ratio], CheckBoxRN->isChecked());
     }
     AdvStringGrid2->remplir(std::move(rangees));
 }
 
 void PageCombinaisons::surActivation(const QModelIndex& index) {
-    const ModeleTableau& modele = AdvStringGrid2->modele();
-    const LigneStatsCombinaison& ligne =
-        stats_[static_cast<std::size_t>(modele.origine(index.row()))];
-    const Occurrences& occ = contexte.atelier.occurrences;
-    int tirage = 0;
-    switch (index.column()) {
-        case Date:
-        case Ecart:
-            if (ligne.NbFois > 0) tirage = occ.IntervalleSup - ligne.resultat.Ecart;
-            break;
-        case EcartMax:
-        case SuiteMax:
-            tirage = TirageMaximum(modele.texte(index), occ.IntervalleInf);
-            break;
-        default:
-            break;
+    const auto& cible = AdvStringGrid2->modele().cellule(index).cible;
+    if (!cible) return;
+    if (const auto* tirage = std::get_if<NumeroTirage>(&*cible)) {
+        contexte.relais.aller(VersTirage{tirage->numero, {}});
     }
-    if (tirage < 1 || tirage > contexte.atelier.base.NbTirages) return;
-    contexte.relais.aller(VersTirage{tirage, {}});
 }
 
 void PageCombinaisons::ButtonPositionClick() {

@@ -14,6 +14,7 @@
 
 #include "combinaisons/LigneBornes.h"
 #include "combinaisons/PageCombinaisons.h"
+#include "stats/TableauStats.h"
 #include "widgets/Alerte.h"
 #include "widgets/ListeCombinaisons.h"
 

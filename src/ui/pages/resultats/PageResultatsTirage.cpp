@@ -16,6 +16,7 @@
 #include "base/Dates.h"
 #include "common/Theme.h"
 #include "resultats/PageResultats.h"
+#include "stats/TableauStats.h"
 #include "resultats/SaisieGrilles.h"
 #include "widgets/BandeTirage.h"
 #include "widgets/ChampNumero.h"

@@ -44,7 +44,6 @@ class BandeTirage final : public QWidget {
 
     /// Five narrow cells with the Chance, or five wide ones without it.
     void disposer(bool avecChance);
-    bool avecChance() const { return avecChance_; }
 
     /// Which of the six values are shown as common with the record before.
     using Communs = std::array<bool, NbBoules + 1>;
@@ -55,7 +54,6 @@ class BandeTirage final : public QWidget {
 
  private:
     double echelle_;
-    bool avecChance_ = true;
     std::array<CelluleTirage*, NbBoules + 1> cellules_{};
     QWidget* image_;
 };

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Tirage.h"
 #include "widgets/BoutonPlanche.h"
 
 namespace norvane::ui {
@@ -36,8 +37,6 @@ class PlancheNumeros final : public QFrame {
     /// buttons that differ are touched: one that goes out returns to its lasting state (up, unless
     /// it was held down with `durable`).
     void eclairer(const Eclairage& tirage);
-    /// The draw that is lit now, all zeros when the board is dark.
-    const Eclairage& TirageAffiche() const { return affiche_; }
     std::array<bool, NbBoutons> allumes() const;
 
     /// Holds a button down or lets it up. A durable hold outlives the lighting of the button.
@@ -77,8 +76,8 @@ class PlancheNumeros final : public QFrame {
     std::array<std::uint8_t, NbBoutons> etat_{};
     std::array<std::uint8_t, NbBoutons> durable_{};
     std::vector<int> ordre_;  // places held down, oldest first
-    Eclairage affiche_{};
-    int courant_ = 0;  // the one button in the tab order
+    Eclairage affiche_{};     // what is lit now, all zeros when the board is dark
+    int courant_ = 0;         // the one button in the tab order
     QRectF titreNumeros_, titreChances_;
 };
 
