@@ -28,7 +28,7 @@ Travaux::~Travaux() {
     travail_.reset();  // while this can still be told of its end
 }
 
-bool Travaux::lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+bool Travaux::lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                      std::function<void(Travail&)> fin) {
     if (travail_) throw std::logic_error("Travaux::lancer while a work runs");
     travail->surFin = [this] {

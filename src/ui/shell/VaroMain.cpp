@@ -178,8 +178,12 @@ void TVaroMainForm::reprendreRepos() {
 }
 
 void TVaroMainForm::RecalculBase() {
-    contexte_.atelier.recalculer();
+    const auto recalcule = contexte_.atelier.recalculer();
     relais_.annoncer({.base = true, .intervalle = true, .listes = true});
+    if (!recalcule) {
+        contexte_.services.messages->MessageAvertissement(versQt(recalcule.erreur()),
+                                                          u"Avertissement"_s);
+    }
 }
 
 void TVaroMainForm::dire(const QString& texte) {

@@ -135,7 +135,7 @@ struct Banc {
     explicit Banc(const Base* base = nullptr) {
         if (base == nullptr) return;
         atelier.base = *base;
-        atelier.recalculer();
+        if (const auto fait = atelier.recalculer(); !fait) qFatal("%s", fait.erreur().c_str());
     }
     std::filesystem::path chemin(const std::string& nom) const { return atelier.Repertoire / nom; }
     bool existe(const std::string& nom) const { return std::filesystem::exists(chemin(nom)); }

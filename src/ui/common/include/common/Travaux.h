@@ -37,8 +37,8 @@ class Travaux final : public QObject {
     /// and no longer counts; never when `pour` is gone by then. At most one work runs at a time:
     /// the busy rule is the caller's to ask first (Contexte::refuserSiOccupe); std::logic_error,
     /// and nothing changed, where one runs all the same. False, with a sentence in erreur(), when
-    /// the machine could not start it.
-    bool lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+    /// the machine could not start it: it stays the caller's then.
+    bool lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                 std::function<void(Travail&)> fin);
 
     /// Asks the work in hand to stop; does nothing without one.
