@@ -25,7 +25,7 @@ std::vector<Grille> ListePleine(std::optional<TypeGrille> type = {}) {
     for (std::size_t k = 0; k < NbGrillesMax; ++k) {
         const TypeGrille t = type.value_or(TypesVendus[k % TypesVendus.size()]);
         AjouterGrillesHasard(grilles, hasard, t, 1);
-        if (k % 2 == 0) grilles.back()[0] = MiseGrille(t.n, t.c, true);
+        if (k % 2 == 0) grilles.back().mise = MiseGrille(t.n, t.c, true);
     }
     return grilles;
 }
@@ -74,7 +74,7 @@ BENCHMARK_CAPTURE(BilanRapport, NeufNumeros, TypeGrille{9, 1})
 void BilanContreNaif(benchmark::State& etat) {
     const Base& base = BaseActuelle();
     const auto grilles = ListePleine();
-    SuiviBilan unFil;
+    Suivi unFil;
     unFil.fils = 1;
     std::optional<std::vector<BilanGrille>> bilans;
     double duree = 0;

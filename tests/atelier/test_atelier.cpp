@@ -43,7 +43,7 @@ TEST_F(TestAtelier, DossierVide) {
     EXPECT_EQ(a.occurrences.IntervalleInf, 1);
     EXPECT_EQ(a.occurrences.IntervalleSup, 3214);
     EXPECT_TRUE(a.avertissements.empty());
-    EXPECT_FALSE(a.occupe());
+    EXPECT_FALSE(a.activite.occupe());
     EXPECT_TRUE(fs::is_empty(dossier)) << "a start writes nothing";
 }
 

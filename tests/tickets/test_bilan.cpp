@@ -62,11 +62,11 @@ TEST(Bilan, EveryTicketAgainstTheDefinition) {
     const Base base = BaseIntegree(true);
     std::vector<Grille> grilles = GrillesAleatoires(300);
     // No tickets that are sold, but a list made by hand may hold them.
-    grilles.push_back({1, 4, 7, 12, 23, 34, 0});
-    grilles.push_back({5, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 2, 1, 2});
-    grilles.push_back({2.2, 5, 7, 7, 12, 12, 30, 1, 5});
-    grilles.push_back({4.4, 5, 7, 8, 12, 13, 30, 2, 5, 5});
-    grilles.push_back({0, 0, 0});
+    grilles.push_back({1, {7, 12, 23, 34}, {}});
+    grilles.push_back({5, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {1, 2}});
+    grilles.push_back({2.2, {7, 7, 12, 12, 30}, {5}});
+    grilles.push_back({4.4, {7, 8, 12, 13, 30}, {5, 5}});
+    grilles.push_back({0, {}, {}});
     // Whole base, the two changes of the rules, around a word of sixty-four records, one record.
     for (const auto& [premier, dernier] :
          {std::pair{1, 8072}, {6000, 7000}, {7000, 7063}, {7000, 7064}, {8072, 8072}}) {

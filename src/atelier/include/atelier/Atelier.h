@@ -14,8 +14,7 @@
 #include "base/Travail.h"
 #include "comb/EtatCombinaisons.h"
 #include "stats/Occurrences.h"
-#include "tickets/Grille.h"
-#include "tickets/Rangs.h"
+#include "tickets/SaisieBillets.h"
 
 namespace norvane {
 
@@ -39,10 +38,8 @@ struct Atelier {
     EtatCombinaisons combinaisons;
     IntervalleStats StatsNumeros;
 
-    std::vector<Grille> ListeGrilles;    ///< the working list of tickets
-    std::vector<Grille> ListeRecu;       ///< the tickets of the receipt in memory
-    std::vector<Grille> ListeChoix;      ///< the stock of grids
-    std::vector<LigneJoker> ListeJoker;  ///< the Joker+ lines of the receipt
+    Billets billets;                ///< tickets, and what is unsaved of them
+    SaisieBillets saisie{billets};  ///< their entry and consultation
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;

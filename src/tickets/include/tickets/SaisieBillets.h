@@ -55,7 +55,7 @@ struct CarteGrille {
     int nombre = 0;           ///< places in the list
     bool avecMise = false;    ///< the stake means something
     bool incomplete = false;  ///< something is ticked, but not enough for a ticket
-    std::optional<ResultatGrille> resultat;  ///< in consultation, with a draw
+    std::optional<ResultatGrille> resultat{};  ///< in consultation, with a draw
 };
 
 /// What a copy from a list of combinations did.
@@ -187,11 +187,10 @@ class SaisieBillets {
     Resultat<Rien> ouvrirRecu(const std::filesystem::path& fichier);
 
     // ---- Closing ----
-    /// The program ends: a ticket in hand with three numbers or more goes to its place as it
-    /// stands, one with fewer is dropped if it is the last; no empty place stays.
-    void rangerGrilleEnMain();
-    /// What the safety copy takes, after rangerGrilleEnMain() during an entry. Empty: no copy.
-    const std::vector<Grille>& grillesSecours();
+    /// What the safety copy takes were the program to end now; empty: no copy. Of an entry, a
+    /// ticket in hand with three numbers or more as it stands, in its place; one with fewer is left
+    /// out if it is the last, and so is every empty place.
+    std::vector<Grille> grillesSecours() const;
 
  private:
     std::vector<Grille>& liste() { return billets_.ListeGrilles; }
@@ -201,7 +200,9 @@ class SaisieBillets {
 
     void passer(EtatTickets etat);
     void ouvrirCase();
-    void EnregistrerGrille(std::vector<Grille>& grilles, int indice);
+    int EnregistrerGrille(std::vector<Grille>& grilles, int indice) const;
+    void ranger() { grille_ = EnregistrerGrille(liste(), grille_ - 1); }
+    std::vector<Grille> grillesEnCours() const;
     void AfficherGrille(int numero);
     Reponse cocher(GenreStats genre, int valeur);
     void tirerLot(TypeGrille type, int nombre);
