@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "atelier/Cases.h"
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Travail.h"
@@ -40,11 +41,12 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    Cases choixLibre;               ///< the free choice of numbers and chances
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
-    bool Relance = false;           ///< the program must start itself again after closing
-    bool FiltreActif = false;       ///< the base in memory is a filtered one
+    bool Relance = false;      ///< the program must start itself again after closing
+    bool FiltreActif = false;  ///< the base in memory is a filtered one
 
     /// What the user must be told once the window stands: one French sentence each.
     std::vector<std::string> avertissements;

@@ -37,7 +37,6 @@ class TVaroMainForm final : public QMainWindow {
     void montrer();
 
     Contexte& contexte() { return contexte_; }
-    Modes modes;
 
     /// Closes the window with all its questions.
     void ExitClick() { close(); }
