@@ -130,6 +130,7 @@ void PageResultats::premierAffichage() {
 
 void PageResultats::surChange(const Changement& changement) {
     if (changement.base) {
+        marques_ = {};
         tirage_->reprendre();
     } else if (changement.reglages) {
         montrerTirage();
