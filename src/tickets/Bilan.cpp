@@ -111,19 +111,6 @@ class Redacteur {
 
 }  // namespace
 
-std::optional<std::vector<BilanGrille>> CumulerGains(const Base& base, int premier, int dernier,
-                                                     std::span<const Grille> grilles,
-                                                     const Suivi& suivi) {
-    const Cumulateur cumulateur(base, premier, dernier, grilles);
-    std::vector<BilanGrille> bilans(grilles.size());
-    if (!ParBlocs(grilles, suivi, [&](std::size_t /*bloc*/, std::size_t k) {
-            bilans[k] = cumulateur.cumuler(grilles[k]);
-        }))
-        return std::nullopt;
-    suivi.poser(100);
-    return bilans;
-}
-
 std::optional<std::string> RedigerBilan(const Base& base, int premier, int dernier,
                                         std::span<const Grille> grilles, const Monnaie& monnaie,
                                         const Suivi& suivi) {

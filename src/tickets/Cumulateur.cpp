@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <bit>
 
+#include "tickets/Rangs.h"
+
 namespace norvane {
 
 namespace {

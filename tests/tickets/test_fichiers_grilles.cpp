@@ -25,12 +25,12 @@ TEST(FichiersGrilles, TextsToTheLetterAndBack) {
     EXPECT_EQ(recu->grilles, DeuxGrilles);
     EXPECT_EQ(recu->jokers, std::vector{Joker});
     // Any stake of the price list keeps telling whether the option was taken.
-    const std::vector<int> valeurs = {1, {3, 4}, {6, 7, 8, 9, 10}};
+    const std::vector<int> valeurs = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
     for (const auto [n, c] : TypesVendus)
         for (const bool option : {false, true}) {
             const std::vector<Grille> grilles = {
-                FaireGrille({valeurs.data(), static_cast<std::size_t>(n)},
-                            {valeurs.data(), static_cast<std::size_t>(c)}, option)};
+                FaireGrille(std::span(valeurs).first(static_cast<std::size_t>(n)),
+                            std::span(valeurs).first(static_cast<std::size_t>(c)), option)};
             EXPECT_EQ(*LireGrilles(TexteGrilles(grilles) + '\n'), grilles);
             EXPECT_EQ(ParticipeAu2ndTirage(LireGrilles(TexteGrilles(grilles))->front()), option);
         }

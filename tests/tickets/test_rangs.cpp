@@ -10,6 +10,7 @@
 #include <random>
 
 #include "base/BaseIntegree.h"
+#include "tickets/FichiersGrilles.h"
 #include "tickets/Rangs.h"
 
 namespace norvane {
@@ -96,12 +97,12 @@ TEST(Rangs, TicketsOnDraws) {
     for (const auto& c : cas)
         EXPECT_EQ(RangsGagnes(c.grille, {{1, 2, 3, 4, 5}, 7, 0, 0, c.date, 1, JokerAbsent}),
                   c.gagne)
-            << testing::PrintToString(c.grille) << c.date;
+            << TexteGrilles({&c.grille, 1}) << c.date;
 
     const Tirage second = {{1, 2, 3, 4, 5}, 0, 0, 0, 20200101, 2, JokerAbsent};
     Grille grille = {31.2, {1, 2, 3, 4, 5, 6}, {4, 9}};
     EXPECT_EQ(Rangs2ndGagnes(grille, second), (ComptesRangs2nd{1, 5, 0, 0}));
-    grille[0] = 26.4;
+    grille.mise = 26.4;
     EXPECT_EQ(Rangs2ndGagnes(grille, second), ComptesRangs2nd{});
 }
 

@@ -120,7 +120,7 @@ TEST(Verification, StakesInTheList) {
 TEST(Verification, OneTicketForThePage) {
     const Base base = SeptTirages();
     Grille sansOption = NeufNumeros;
-    sansOption[0] = TableMises(9, 1);
+    sansOption.mise = TableMises(9, 1);
     const struct {
         Grille grille;
         std::size_t numero;

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,7 +27,7 @@ class Cochees {
     constexpr Cochees(std::initializer_list<int> valeurs) { prendre(valeurs); }
     /// Of any range of integers; that of an Ensemble gives them ascending.
     template <typename Valeurs>
-    requires requires(const Valeurs& v) { v.begin() != v.end(); }
+    requires requires(const Valeurs& v) { std::begin(v) != std::end(v); }
     constexpr Cochees(const Valeurs& valeurs) {  // NOLINT(google-explicit-constructor)
         prendre(valeurs);
     }
