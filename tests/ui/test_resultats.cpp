@@ -82,7 +82,7 @@ class TestResultats final : public QObject {
         QCOMPARE(e.date()->date(), date);
         QCOMPARE(e.selecteur()->currentIndex(), selecteurApres);
         const int yyyymmdd = date.toString(u"yyyyMMdd"_s).toInt();
-        
+
         int avant = -1;  // the last record older than the date, or the one to be shown
         for (int i = 0; i < e.base().NbTirages; ++i) {
             const Tirage& t = e.record(i);
