@@ -17,6 +17,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "common/Mode.h"
 #include "common/Theme.h"
 #include "dialogs/AboutBox.h"
 #include "pages/Pages.h"
@@ -31,7 +32,7 @@ using namespace Qt::StringLiterals;
 TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* instance)
     : relais_(this),
       travaux_(atelier.activite, this),
-      contexte_{atelier, services, modes, travaux_, relais_},
+      contexte_{atelier, services, travaux_, relais_},
       instance_(instance),
       fermeture_(contexte_) {
     setObjectName(u"TVaroMainForm"_s);
@@ -156,7 +157,7 @@ void TVaroMainForm::changerPage(int place) {
 }
 
 void TVaroMainForm::changerMode() {
-    mode_->montrer(libelleMode(modes));
+    mode_->montrer(libelleMode(modeEnCours(contexte_.atelier)));
 }
 
 void TVaroMainForm::diffuser(const Changement& changement) {

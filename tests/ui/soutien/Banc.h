@@ -127,10 +127,9 @@ struct Banc {
     Atelier atelier{std::filesystem::path(dossier.path().toStdString())};
     Services services;
     Scripts scripts = Scripts::dans(services);
-    Modes modes;
     Relais relais;
     Travaux travaux{atelier.activite};
-    Contexte contexte{atelier, services, modes, travaux, relais, 1.28, 1.7075};
+    Contexte contexte{atelier, services, travaux, relais, 1.28, 1.7075};
 
     explicit Banc(const Base* base = nullptr) {
         if (base == nullptr) return;

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "atelier/Cases.h"
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Travail.h"
@@ -67,6 +68,7 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    Cases choixLibre;               ///< the free choice of numbers and chances
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
