@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* Attendez = "Attendez la fin du traitement en cours...";
 
-ReponseClic Refus(std::string message) {
+ReponseClic Refuser(std::string message) {
     return {ReponseClic::Genre::Refuse, std::move(message), nullptr};
 }
 
@@ -49,7 +49,7 @@ std::filesystem::path Moteur::fichierListe(int taille) const {
 }
 
 ReponseClic Moteur::Cliquer(int taille, int inf, int sup) {
-    if (atelier_.activite.occupe() || passage_) return Refus(Attendez);
+    if (atelier_.activite.occupe() || passage_) return Refuser(Attendez);
     switch (atelier_.modeListe) {
         case ModeListe::Extremes:
             return cliquerExtremes(taille);
@@ -58,7 +58,7 @@ ReponseClic Moteur::Cliquer(int taille, int inf, int sup) {
         case ModeListe::Manipulation:
             break;
     }
-    return Refus({});  // no size can be asked for there
+    return Refuser({});  // no size can be asked for there
 }
 
 template <typename Fil>
@@ -92,7 +92,7 @@ ReponseClic Moteur::cliquerExtremes(int taille) {
     if (tailleIntervalle != calcules || listeDepassee(taille)) return calculerExtremes(taille);
 
     const auto stockees = LireListe(fichierListe(taille), taille);
-    if (!stockees) return Refus(stockees.erreur());
+    if (!stockees) return Refuser(stockees.erreur());
     // A full list was cut when it was stored: only a run tells how many there are.
     if (stockees->size() == CapaciteListe) return calculerExtremes(taille);
     montrer(ListeDeCombinaisons(taille, *stockees), atelier_.occurrences.IntervalleInf,
@@ -116,7 +116,7 @@ ReponseClic Moteur::oublierAutreBase(int taille) {
     const int calcules = std::exchange(etat.NbTiragesComb[Indice(taille)], 0);
     etat.BorneInf[Indice(taille)] = 0;
     etat.BorneSup[Indice(taille)] = 0;
-    return Refus(fmt::format(
+    return Refuser(fmt::format(
         "Les bornes enregistrées pour {} numéros portent sur {} tirages et la base n'en "
         "compte que {} : elles sont oubliées, cliquez à nouveau pour les recalculer.",
         taille, calcules, atelier_.base.NbTirages));
@@ -127,7 +127,7 @@ ReponseClic Moteur::avancerExtremes(int taille) {
     const int calcules = atelier_.combinaisons.NbTiragesComb[Indice(taille)];
     if (calcules > total) return oublierAutreBase(taille);
     auto stockees = LireListe(atelier_.Repertoire / fmt::format("comb{}.dat", taille), taille);
-    if (!stockees) return Refus(stockees.erreur());
+    if (!stockees) return Refuser(stockees.erreur());
     EffacerMarques(*stockees);
     Liste liste = ListeDeCombinaisons(taille, *stockees);
     if (calcules < total) {
@@ -147,7 +147,7 @@ ReponseClic Moteur::avancerExtremes(int taille) {
 
 ReponseClic Moteur::cliquerBornes(int taille, int inf, int sup) {
     if (inf > sup)
-        return Refus(
+        return Refuser(
             fmt::format("Les bornes sont croisées : la borne Inf ({}) dépasse la borne Sup ({}). "
                         "Corrigez l'une "
                         "des deux.",

@@ -166,29 +166,6 @@ std::optional<double> LireMontant(std::string_view texte) {
     return negatif ? -valeur : valeur;
 }
 
-int ComparerAlphanumerique(std::string_view a, std::string_view b) {
-    const auto prendreNombre = [](std::string_view& texte) {
-        std::string_view chiffres = prendreChiffres(texte);
-        chiffres.remove_prefix(std::min(chiffres.find_first_not_of('0'), chiffres.size()));
-        return chiffres;
-    };
-    while (!a.empty() && !b.empty()) {
-        int ordre = 0;
-        if (estChiffre(a.front()) && estChiffre(b.front())) {
-            const std::string_view x = prendreNombre(a);
-            const std::string_view y = prendreNombre(b);
-            // Without leading zeros the longer number is the greater one.
-            ordre = x.size() == y.size() ? x.compare(y) : (x.size() < y.size() ? -1 : 1);
-        } else {
-            ordre = static_cast<unsigned char>(a.front()) - static_cast<unsigned char>(b.front());
-            a.remove_prefix(1);
-            b.remove_prefix(1);
-        }
-        if (ordre != 0) return ordre < 0 ? -1 : 1;
-    }
-    return static_cast<int>(b.empty()) - static_cast<int>(a.empty());
-}
-
 std::string_view Rogner(std::string_view texte) {
     const std::size_t debut = texte.find_first_not_of(BlancsAscii);
     if (debut == std::string_view::npos) return {};

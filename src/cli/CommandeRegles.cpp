@@ -3,7 +3,6 @@
 #include <fmt/ostream.h>
 #include <fmt/ranges.h>
 
-#include <algorithm>
 #include <charconv>
 #include <ostream>
 
@@ -39,12 +38,9 @@ Resultat<std::string> Rangs2nd(Valeurs v, bool /*option*/) {
 }
 
 Resultat<std::array<int, 7>> LireJoker(const std::string& texte) {
-    const bool chiffres = std::ranges::all_of(texte, [](char c) { return c >= '0' && c <= '9'; });
-    if (texte.size() != 7 || !chiffres)
-        return Erreur{fmt::format("« {} » n'est pas un numéro Joker+ de sept chiffres.", texte)};
-    std::array<int, 7> joker;
-    std::ranges::transform(texte, joker.begin(), [](char c) { return c - '0'; });
-    return joker;
+    const auto joker = LireChiffresJoker(texte);
+    if (joker) return *joker;
+    return Erreur{fmt::format("« {} » n'est pas un numéro Joker+ de sept chiffres.", texte)};
 }
 
 }  // namespace

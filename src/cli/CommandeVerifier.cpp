@@ -24,13 +24,13 @@ void AjouterFichier(CLI::App& app, std::string& fichier) {
 
 /// Tickets of either kind of file; a list of grids has no Joker+ lines.
 Resultat<RecuDeJeu> LireBillets(const fs::path& fichier) {
-    const bool recu = fichier.extension() == ".rdj";
-    if (!recu && fichier.extension() != ".grl")
+    const GenreBillets genre = GenreDuFichier(fichier);
+    if (genre == GenreBillets::Recu) return ChargerRecu(fichier);
+    if (genre == GenreBillets::Autre)
         return Erreur{
             fmt::format("« {} » n'est ni une liste de grilles ni un reçu : son nom doit finir par "
                         ".grl ou .rdj.",
                         fichier.string())};
-    if (recu) return ChargerRecu(fichier);
     auto grilles = ChargerGrilles(fichier);
     if (!grilles) return Erreur{grilles.erreur()};
     return RecuDeJeu{*std::move(grilles), {}};
@@ -59,7 +59,7 @@ Resultat<int> TirageDuRecu(const fs::path& fichier, const Base& base) {
 
 /// The draw that the tickets are checked against, one-based.
 Resultat<int> ChoisirTirage(std::optional<long> tirage, const fs::path& fichier, const Base& base) {
-    if (!tirage && fichier.extension() != ".rdj")
+    if (!tirage && GenreDuFichier(fichier) != GenreBillets::Recu)
         return Erreur{
             "Une liste de grilles n'a pas de date : donnez le numéro du tirage avec "
             "--tirage."};

@@ -6,10 +6,9 @@
 
 #include <algorithm>
 #include <atomic>
-#include <future>
 #include <iterator>
-#include <thread>
 
+#include "base/Repartition.h"
 #include "base/Textes.h"
 #include "Cumulateur.h"
 #include "Redaction.h"
@@ -22,6 +21,7 @@ namespace {
 // A block takes well under a millisecond. The cut is fixed, so that sums by block do not depend
 // on the number of threads.
 constexpr std::size_t GrillesParBloc = 16;
+constexpr std::size_t PourcentBlocs = 99;  ///< the last percent is that of the whole
 
 std::size_t NombreBlocs(std::span<const Grille> grilles) {
     return (grilles.size() + GrillesParBloc - 1) / GrillesParBloc;
@@ -29,29 +29,20 @@ std::size_t NombreBlocs(std::span<const Grille> grilles) {
 
 /// Calls traiter(bloc, k) for each ticket k, blocks shared out among threads. False when stopped.
 template <typename Traiter>
-bool ParBlocs(std::span<const Grille> grilles, const SuiviBilan& suivi, Traiter traiter) {
+bool ParBlocs(std::span<const Grille> grilles, const Suivi& suivi, Traiter traiter) {
     const std::size_t nbBlocs = NombreBlocs(grilles);
-    std::atomic<std::size_t> suivant = 0;
-    const auto travailler = [&](bool raconte) {
-        for (int dit = 0;;) {
-            const std::size_t bloc = suivant.fetch_add(1);
-            if (bloc >= nbBlocs || suivi.arret.stop_requested()) return;
-            const int pourcent = static_cast<int>(bloc * 100 / nbBlocs);
-            if (raconte && pourcent > dit) suivi.progres(dit = pourcent);
+    std::atomic<std::size_t> faits = 0;
+    const auto travailler = [&](unsigned /*fil*/, const auto& suivante) {
+        for (std::size_t bloc = suivante(); bloc < nbBlocs && !suivi.arrete(); bloc = suivante()) {
             const std::size_t debut = bloc * GrillesParBloc;
             const std::size_t fin = std::min(debut + GrillesParBloc, grilles.size());
             for (std::size_t k = debut; k < fin; ++k) traiter(bloc, k);
+            suivi.poser(static_cast<int>(++faits * PourcentBlocs / nbBlocs));
         }
     };
-    if (suivi.progres) suivi.progres(0);
-    const std::size_t fils =
-        suivi.fils > 0 ? suivi.fils : std::max(1U, std::thread::hardware_concurrency());
-    std::vector<std::future<void>> autres;
-    for (std::size_t f = 1; f < std::min(fils, nbBlocs); ++f)
-        autres.push_back(std::async(std::launch::async, travailler, false));
-    travailler(static_cast<bool>(suivi.progres));
-    for (auto& autre : autres) autre.get();
-    return !suivi.arret.stop_requested();
+    const auto fils = static_cast<unsigned>(std::min<std::size_t>(suivi.nombreFils(), nbBlocs));
+    Repartir(nbBlocs, fils, travailler);
+    return !suivi.arrete();
 }
 
 /// What one block of tickets gives to the report.
@@ -68,15 +59,16 @@ class Redacteur {
     void ajouter(std::size_t k, const Grille& grille, Partie& partie) const {
         const BilanGrille bilan = cumulateur_.cumuler(grille);
         const double investi =
-            Convertir(grille[0] * static_cast<double>(cumulateur_.nbTirages()), monnaie_.taux)
+            Convertir(grille.mise * static_cast<double>(cumulateur_.nbTirages()), monnaie_.taux)
                 .enEuros();
 
         partie.texte += LigneGrille(k + 1, grille, monnaie_);
         fmt::format_to(std::back_inserter(partie.texte),
                        "Pour {}{} sur toute la période; Investissement= {}\n"
                        "\nDétail des rangs de gain :\n",
-                       FormaterMontant(Convertir(grille[0], monnaie_.taux).enEuros()),
-                       LibelleMonnaie(monnaie_.symbole, grille[0] == 1), montantEtFrancs(investi));
+                       FormaterMontant(Convertir(grille.mise, monnaie_.taux).enEuros()),
+                       LibelleMonnaie(monnaie_.symbole, grille.mise == 1),
+                       montantEtFrancs(investi));
         double gagne = 0;
         if (cumulateur_.avecPremierTirage())
             gagne += redigerRangs(bilan.BilanRangs, LibellesRangLoto, partie.texte);
@@ -119,22 +111,9 @@ class Redacteur {
 
 }  // namespace
 
-std::optional<std::vector<BilanGrille>> CumulerGains(const Base& base, int premier, int dernier,
-                                                     std::span<const Grille> grilles,
-                                                     const SuiviBilan& suivi) {
-    const Cumulateur cumulateur(base, premier, dernier, grilles);
-    std::vector<BilanGrille> bilans(grilles.size());
-    if (!ParBlocs(grilles, suivi, [&](std::size_t /*bloc*/, std::size_t k) {
-            bilans[k] = cumulateur.cumuler(grilles[k]);
-        }))
-        return std::nullopt;
-    if (suivi.progres) suivi.progres(100);
-    return bilans;
-}
-
 std::optional<std::string> RedigerBilan(const Base& base, int premier, int dernier,
                                         std::span<const Grille> grilles, const Monnaie& monnaie,
-                                        const SuiviBilan& suivi) {
+                                        const Suivi& suivi) {
     const Cumulateur cumulateur(base, premier, dernier, grilles);
     const Redacteur redacteur(cumulateur, monnaie);
     std::vector<Partie> parties(NombreBlocs(grilles));
@@ -157,7 +136,7 @@ std::optional<std::string> RedigerBilan(const Base& base, int premier, int derni
             "\nInvestissement total pour toutes les grilles = " +
             redacteur.montantEtFrancs(investi) +
             "\n\n\nCumul des gains de toutes les grilles = " + redacteur.montantEtFrancs(gagne);
-    if (suivi.progres) suivi.progres(100);
+    suivi.poser(100);
     return texte;
 }
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <bit>
 
-#include "Contenu.h"
+#include "tickets/Rangs.h"
 
 namespace norvane {
 
@@ -14,9 +14,8 @@ namespace {
 constexpr std::size_t TiragesParMot = 64;
 constexpr int NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
 
-std::size_t IndiceType(const Contenu& contenu) {
-    const int indice = contenu.n() * (ChanceMax + 1) + contenu.c();
-    return static_cast<std::size_t>(indice);
+std::size_t IndiceType(const Grille& grille) {
+    return static_cast<std::size_t>(grille.n() * (ChanceMax + 1) + grille.c());
 }
 
 TablesType PreparerType(int n, int c) {
@@ -34,24 +33,6 @@ TablesType PreparerType(int n, int c) {
     return tables;
 }
 
-/// A ticket that the game sells: whole numbers in range, none twice. Others, which a list made by
-/// hand may hold, take the slow way.
-bool EstOrdinaire(const Contenu& contenu) {
-    const double mise = TableMises(contenu.n(), contenu.c());
-    if (mise == MiseIncomplete || mise == MiseInjouable) return false;
-    const auto distincts = [](std::span<const double> valeurs, int maximum) {
-        std::uint64_t vus = 0;
-        for (const double valeur : valeurs) {
-            if (!(valeur >= 1 && valeur <= maximum)) return false;
-            const auto entier = static_cast<unsigned>(valeur);
-            if (entier != valeur || (vus >> entier & 1) != 0) return false;
-            vus |= std::uint64_t{1} << entier;
-        }
-        return true;
-    };
-    return distincts(contenu.numeros, NumeroMax) && distincts(contenu.chances, ChanceMax);
-}
-
 /// Good numbers of a ticket in sixty-four draws at once: the bits of a three-digit counter.
 struct Compteurs {
     std::uint64_t un = 0, deux = 0, quatre = 0, chance = 0;
@@ -67,21 +48,19 @@ struct Compteurs {
     }
 };
 
-Compteurs Compter(const Contenu& contenu, const Serie::Mots& mots) {
+Compteurs Compter(const Grille& grille, const Serie::Mots& mots) {
     Compteurs compteurs;
-    for (const double numero : contenu.numeros)
-        compteurs.ajouter(mots.numeros[static_cast<std::size_t>(numero)]);
-    for (const double chance : contenu.chances)
-        compteurs.chance |= mots.chances[static_cast<std::size_t>(chance)];
+    for (const std::size_t numero : grille.numeros) compteurs.ajouter(mots.numeros[numero]);
+    for (const std::size_t chance : grille.chances) compteurs.chance |= mots.chances[chance];
     return compteurs;
 }
 
 /// Adds what the ticket wins on each draw of the series. `tableDe` gives the table of a draw.
 template <std::size_t NbRangs, typename TableDe>
-void Cumuler(const Contenu& contenu, const Serie& serie, TableDe tableDe,
+void Cumuler(const Grille& grille, const Serie& serie, TableDe tableDe,
              std::array<Cumul, NbRangs>& bilan) {
     for (std::size_t mot = 0; mot < serie.mots.size(); ++mot) {
-        const Compteurs compteurs = Compter(contenu, serie.mots[mot]);
+        const Compteurs compteurs = Compter(grille, serie.mots[mot]);
         // No table pays less than two numbers without the chance.
         std::uint64_t restants = compteurs.deux | compteurs.quatre | compteurs.chance;
         for (; restants != 0; restants &= restants - 1) {
@@ -129,27 +108,26 @@ Cumulateur::Cumulateur(const Base& base, int premier, int dernier, std::span<con
         if (!second) depuis_.push_back(base.Tirages[i].DateTirage >= DateNouveauxRangs);
     }
     for (const Grille& grille : grilles) {
-        const Contenu contenu = Ouvrir(grille);
-        if (!EstOrdinaire(contenu)) continue;
-        auto& tables = types_[IndiceType(contenu)];
-        if (!tables) tables = PreparerType(contenu.n(), contenu.c());
+        if (!grille.complete()) continue;
+        auto& tables = types_[IndiceType(grille)];
+        if (!tables) tables = PreparerType(grille.n(), grille.c());
     }
 }
 
 BilanGrille Cumulateur::cumuler(const Grille& grille) const {
-    const Contenu contenu = Ouvrir(grille);
-    if (!EstOrdinaire(contenu)) return cumulerLentement(grille);
-    const TablesType& tables = *types_[IndiceType(contenu)];
+    // A list made by hand may hold tickets that the game does not sell.
+    if (!grille.complete()) return cumulerLentement(grille);
+    const TablesType& tables = *types_[IndiceType(grille)];
     BilanGrille bilan;
     const auto parDate = [&](std::size_t i) -> const auto& {
         return depuis_[i] != 0 ? tables.depuis : tables.avant;
     };
-    Cumuler(contenu, premiers_, parDate, bilan.BilanRangs);
+    Cumuler(grille, premiers_, parDate, bilan.BilanRangs);
     if (ParticipeAu2ndTirage(grille)) {
         const auto seconds = [&](std::size_t) -> const auto& {
             return tables.seconds;
         };
-        Cumuler(contenu, seconds_, seconds, bilan.Bilan2nd);
+        Cumuler(grille, seconds_, seconds, bilan.Bilan2nd);
     }
     return bilan;
 }

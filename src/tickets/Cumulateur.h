@@ -10,9 +10,24 @@
 #include <span>
 #include <vector>
 
-#include "tickets/Bilan.h"
+#include "base/Base.h"
+#include "tickets/Grille.h"
 
 namespace norvane {
+
+/// Wins of one rank over the interval.
+struct Cumul {
+    std::int64_t fois = 0;
+    double gain = 0;  ///< euros, added in the order of the draws
+
+    friend bool operator==(const Cumul&, const Cumul&) = default;
+};
+struct BilanGrille {
+    std::array<Cumul, NbRangsLoto> BilanRangs;
+    std::array<Cumul, NbRangs2nd> Bilan2nd;  ///< all 0 for a ticket without the option
+
+    friend bool operator==(const BilanGrille&, const BilanGrille&) = default;
+};
 
 /// The draws of the interval that pay by the same ranks, oldest first, turned on their side: for
 /// each number and each chance one bit a draw. Sixty-four draws are looked at in one step.

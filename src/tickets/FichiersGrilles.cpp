@@ -19,6 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr const char* ExtensionGrilles = ".grl";
 constexpr const char* ExtensionRecu = ".rdj";
 /// Well above 9999 grids of nine numbers and a long list of Joker+ lines.
 constexpr std::uint64_t TailleMax = std::uint64_t{16} << 20;
@@ -66,9 +67,18 @@ Resultat<RecuDeJeu> Fusionner(const fs::path& fichier, const RecuDeJeu& recu) {
 
 std::string TexteGrilles(std::span<const Grille> grilles) {
     std::string texte = fmt::format("{}\n", grilles.size());
-    // `g` is the default conversion of a stream: six significant digits, no trailing zeros.
-    for (const Grille& grille : grilles)
-        fmt::format_to(std::back_inserter(texte), "{:g}\n", fmt::join(grille, " "));
+    const auto suite = std::back_inserter(texte);
+    const auto ecrire = [&suite](const auto& cochees) {
+        fmt::format_to(suite, " {}", cochees.taille());
+        for (const int valeur : cochees) fmt::format_to(suite, " {}", valeur);
+    };
+    for (const Grille& grille : grilles) {
+        // `g` is the default conversion of a stream: six significant digits, no trailing zeros.
+        fmt::format_to(suite, "{:g}", grille.mise);
+        ecrire(grille.numeros);
+        ecrire(grille.chances);
+        texte += '\n';
+    }
     return texte;
 }
 
@@ -78,6 +88,12 @@ std::string TexteRecu(const RecuDeJeu& recu) {
     for (const LigneJoker& ligne : recu.jokers)
         texte += fmt::format("{} {} \n", fmt::join(ligne.chiffres, " "), ligne.code);
     return texte;
+}
+
+GenreBillets GenreDuFichier(const fs::path& fichier) {
+    const fs::path extension = fichier.extension();
+    if (extension == ExtensionGrilles) return GenreBillets::Grilles;
+    return extension == ExtensionRecu ? GenreBillets::Recu : GenreBillets::Autre;
 }
 
 Resultat<std::vector<Grille>> ChargerGrilles(const fs::path& fichier) {

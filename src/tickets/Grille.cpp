@@ -4,8 +4,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "tickets/Binomial.h"
 
 namespace norvane {
@@ -46,17 +44,17 @@ double MiseGrille(int n, int c, bool option2nd) {
     return (DixiemesMise(n, c) + option) / 10.0;
 }
 
-Grille FaireGrille(std::span<const int> numeros, std::span<const int> chances, bool option2nd) {
-    const int n = static_cast<int>(numeros.size());
-    const int c = static_cast<int>(chances.size());
-    Grille grille;
-    grille.reserve(numeros.size() + chances.size() + 3);
-    grille.push_back(MiseGrille(n, c, option2nd));
-    grille.push_back(n);
-    grille.insert(grille.end(), numeros.begin(), numeros.end());
-    grille.push_back(c);
-    grille.insert(grille.end(), chances.begin(), chances.end());
-    return grille;
+bool Grille::complete() const {
+    const double prix = TableMises(n(), c());
+    return prix != MiseIncomplete && prix != MiseInjouable;
+}
+
+Grille FaireGrille(const NumerosCoches& numeros, const ChancesCochees& chances, bool option2nd) {
+    return {MiseGrille(numeros.taille(), chances.taille(), option2nd), numeros, chances};
+}
+
+bool ParticipeAu2ndTirage(const Grille& grille) {
+    return grille.mise != TableMises(grille.n(), grille.c());
 }
 
 std::string LibelleType(TypeGrille type) {

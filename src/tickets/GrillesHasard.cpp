@@ -2,30 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tickets/GrillesHasard.h"
 
-#include <algorithm>
-#include <bitset>
-
-#include "base/Tirage.h"
-
 namespace norvane {
 
 namespace {
 
-/// `combien` different values from 1 to `max`: a repeat is drawn again.
-void TirerValeurs(GenerateurHasard& hasard, int combien, int max, std::vector<int>& valeurs) {
-    std::bitset<NumeroMax> tirees;
-    valeurs.clear();
-    while (static_cast<int>(valeurs.size()) < combien) {
-        const auto place = static_cast<std::size_t>(hasard.tirer(max));
-        if (tirees.test(place)) continue;
-        tirees.set(place);
-        valeurs.push_back(static_cast<int>(place) + 1);
-    }
-}
-
-void Tirer(GenerateurHasard& hasard, TypeGrille type, TirageHasard& tirage) {
-    TirerValeurs(hasard, type.n, NumeroMax, tirage.numeros);
-    TirerValeurs(hasard, type.c, ChanceMax, tirage.chances);
+/// `combien` different values: a repeat is drawn again.
+template <int Max>
+Cochees<Max> TirerValeurs(GenerateurHasard& hasard, int combien) {
+    Cochees<Max> valeurs;
+    while (valeurs.taille() < combien) valeurs.cocher(hasard.tirer(Max) + 1);
+    return valeurs;
 }
 
 }  // namespace
@@ -35,20 +21,17 @@ int GenerateurHasard::tirer() {
     return static_cast<int>(etat_ >> 16 & 0x7FFFU);
 }
 
-TirageHasard TirerGrille(GenerateurHasard& hasard, TypeGrille type) {
-    TirageHasard tirage;
-    Tirer(hasard, type, tirage);
-    return tirage;
+Grille TirerGrille(GenerateurHasard& hasard, TypeGrille type) {
+    const auto numeros = TirerValeurs<NumeroMax>(hasard, type.n);
+    const auto chances = TirerValeurs<ChanceMax>(hasard, type.c);
+    return FaireGrille(numeros, chances, false);
 }
 
 void AjouterGrillesHasard(std::vector<Grille>& grilles, GenerateurHasard& hasard, TypeGrille type,
                           int nombre) {
-    TirageHasard tirage;
     for (int i = 0; i < nombre; ++i) {
-        Tirer(hasard, type, tirage);
-        std::ranges::sort(tirage.numeros);
-        std::ranges::sort(tirage.chances);
-        grilles.push_back(FaireGrille(tirage.numeros, tirage.chances, false));
+        const Grille tiree = TirerGrille(hasard, type);
+        grilles.push_back({tiree.mise, tiree.numeros.ensemble(), tiree.chances.ensemble()});
     }
 }
 

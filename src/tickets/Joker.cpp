@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -50,6 +51,14 @@ double Gain(const Suite& suite, int mises) {
 }
 
 }  // namespace
+
+std::optional<std::array<std::int32_t, 7>> LireChiffresJoker(std::string_view texte) {
+    const bool chiffres = std::ranges::all_of(texte, [](char c) { return c >= '0' && c <= '9'; });
+    if (texte.size() != NbChiffres || !chiffres) return std::nullopt;
+    std::array<std::int32_t, 7> lus;
+    std::ranges::transform(texte, lus.begin(), [](char c) { return c - '0'; });
+    return lus;
+}
 
 int PrixJoker(int code) {
     return code < PremierCodeOption ? code : 2 * code - 4;

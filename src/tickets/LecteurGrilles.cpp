@@ -5,10 +5,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
-#include <bitset>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -108,38 +107,29 @@ class Lecteur {
 struct Genre {
     const char* combien;
     const char* valeur;
-    int max;
 };
-constexpr Genre Numeros = {"le nombre de numéros", "un numéro", NumeroMax};
-constexpr Genre Chances = {"le nombre de chances", "une chance", ChanceMax};
+constexpr Genre Numeros = {"le nombre de numéros", "un numéro"};
+constexpr Genre Chances = {"le nombre de chances", "une chance"};
 
-/// The longest ticket that a text can tell.
-using Tampon = std::array<double, 3 + NumeroMax + ChanceMax>;
-
-bool LireValeurs(Lecteur& lecteur, const Genre& genre, Tampon::iterator& suite) {
+template <int Max>
+bool LireValeurs(Lecteur& lecteur, const Genre& genre, Cochees<Max>& valeurs) {
     int nombre = 0;
-    if (!lecteur.entier(nombre, genre.combien, 0, genre.max)) return false;
-    *suite++ = nombre;
-    std::bitset<NumeroMax + 1> vues;
+    if (!lecteur.entier(nombre, genre.combien, 0, Max)) return false;
     for (int i = 0; i < nombre; ++i) {
         int valeur = 0;
-        if (!lecteur.entier(valeur, genre.valeur, 1, genre.max)) return false;
-        if (vues.test(static_cast<std::size_t>(valeur)))
+        if (!lecteur.entier(valeur, genre.valeur, 1, Max)) return false;
+        if (valeurs.contient(valeur))
             return lecteur.refuser(fmt::format("{} ({}) est répété", genre.valeur, valeur));
-        vues.set(static_cast<std::size_t>(valeur));
-        *suite++ = valeur;
+        valeurs.cocher(valeur);
     }
     return true;
 }
 
 bool LireGrille(Lecteur& lecteur, std::vector<Grille>& grilles) {
-    Tampon tampon;
-    auto suite = tampon.begin();
-    if (!lecteur.nombre(*suite++, "la mise", 0, MiseMax) || !LireValeurs(lecteur, Numeros, suite) ||
-        !LireValeurs(lecteur, Chances, suite))
-        return false;
-    grilles.emplace_back(tampon.begin(), suite);  // of the exact size
-    return true;
+    Grille& grille = grilles.emplace_back();
+    return lecteur.nombre(grille.mise, "la mise", 0, MiseMax) &&
+           LireValeurs(lecteur, Numeros, grille.numeros) &&
+           LireValeurs(lecteur, Chances, grille.chances);
 }
 
 bool LireJoker(Lecteur& lecteur, std::vector<LigneJoker>& jokers) {
@@ -180,7 +170,9 @@ bool LireJokers(Lecteur& lecteur, std::vector<LigneJoker>& jokers) {
 
 /// A list that ends in a chance of 1 with nothing behind may have been cut inside a chance of 10.
 bool FinSure(Lecteur& lecteur, const std::vector<Grille>& grilles) {
-    if (grilles.empty() || !lecteur.finSansBlanc() || grilles.back().back() != 1.0) return true;
+    if (grilles.empty() || !lecteur.finSansBlanc()) return true;
+    const ChancesCochees& chances = grilles.back().chances;
+    if (chances.vide() || *std::prev(chances.end()) != 1) return true;
     return lecteur.refuser(
         "le texte s'arrête sur « 1 », qui peut être un 10 coupé ; s'il est complet, finissez-le "
         "par un retour à la ligne");

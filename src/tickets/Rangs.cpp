@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "Contenu.h"
 #include "tickets/Binomial.h"
 
 namespace norvane {
@@ -120,26 +119,11 @@ auto Chercher(const std::array<Ligne, Taille>& table, int cle)
     return ligne->comptes;
 }
 
-template <typename Nombre>
-std::uint64_t Bit(Nombre numero) {
-    return std::uint64_t{1} << (static_cast<unsigned>(static_cast<int>(numero)) & 63U);
-}
-
 }  // namespace
 
-bool ParticipeAu2ndTirage(const Grille& grille) {
-    const Contenu contenu = Ouvrir(grille);
-    return grille[0] != TableMises(contenu.n(), contenu.c());
-}
-
 Bons CompterBons(const Grille& grille, const Tirage& tirage) {
-    const Contenu contenu = Ouvrir(grille);
-    std::uint64_t tires = 0;  // bit n: the number n was drawn
-    for (const std::int32_t boule : tirage.Numeros) tires |= Bit(boule);
-    Bons bons{0, 0};
-    for (const double numero : contenu.numeros) bons.numeros += (tires & Bit(numero)) != 0;
-    for (const double chance : contenu.chances) bons.chances += chance == tirage.Chance;
-    return bons;
+    return {grille.numeros.ensemble().commun(Ensemble::de(tirage.Numeros)).taille(),
+            grille.chances.contient(tirage.Chance) ? 1 : 0};
 }
 
 int CleRang(int n, int g, int c, int gc) {
@@ -181,14 +165,13 @@ std::optional<ComptesRangs> RangsResultat(int n, int g, int c, int gc, int date)
 
 ComptesRangs RangsGagnes(const Grille& grille, const Tirage& tirage) {
     const Bons bons = CompterBons(grille, tirage);
-    const Contenu contenu = Ouvrir(grille);
-    return RangsResultat(contenu.n(), bons.numeros, contenu.c(), bons.chances, tirage.DateTirage)
+    return RangsResultat(grille.n(), bons.numeros, grille.c(), bons.chances, tirage.DateTirage)
         .value_or(ComptesRangs{});
 }
 
 ComptesRangs2nd Rangs2ndGagnes(const Grille& grille, const Tirage& tirage) {
     if (!ParticipeAu2ndTirage(grille)) return {};
-    return ChercherRangs2nd(Ouvrir(grille).n(), CompterBons(grille, tirage).numeros)
+    return ChercherRangs2nd(grille.n(), CompterBons(grille, tirage).numeros)
         .value_or(ComptesRangs2nd{});
 }
 

@@ -13,7 +13,6 @@
 #include <string_view>
 
 #include "base/Dates.h"
-#include "Contenu.h"
 #include "Redaction.h"
 
 namespace norvane {
@@ -21,11 +20,11 @@ namespace norvane {
 namespace {
 
 /// Numbers below 10 take a second blank behind them, so that columns stay aligned.
-std::string Colonne(double valeur) {
-    return fmt::format("{:g}{}", valeur, valeur < 10 ? "  " : " ");
+std::string Colonne(int valeur) {
+    return fmt::format("{}{}", valeur, valeur < 10 ? "  " : " ");
 }
 
-bool EstSorti(const Tirage& tirage, double numero) {
+bool EstSorti(const Tirage& tirage, int numero) {
     return std::ranges::any_of(tirage.Numeros, [numero](int boule) { return boule == numero; });
 }
 
@@ -52,8 +51,8 @@ bool RienGagne(const Comptes& comptes) {
     return std::ranges::all_of(comptes, [](int compte) { return compte == 0; });
 }
 
-/// Four numbers without a chance, which only a list made by hand can hold: the words are those of
-/// another game, as they have always been.
+/// Four numbers without a chance, which only a list made by hand can hold; the report tells them in
+/// the words of another game.
 double EcrireQuatreNumeros(const Bons& bons, const RapportsTirage& rapports, const Monnaie& monnaie,
                            std::ostream& flux) {
     double gain = 0;
@@ -75,25 +74,25 @@ double EcrireQuatreNumeros(const Bons& bons, const RapportsTirage& rapports, con
     return gain;
 }
 
-void EcrireNumerosSortis(std::size_t rang, const Contenu& contenu, const Tirage& tirage, int bons,
+void EcrireNumerosSortis(std::size_t rang, const Grille& grille, const Tirage& tirage, int bons,
                          std::ostream& flux) {
     fmt::print(flux, "Numéros sortis pour la combinaison {}:  ", rang);
-    for (const double numero : contenu.numeros)
+    for (const int numero : grille.numeros)
         if (EstSorti(tirage, numero)) flux << Colonne(numero);
     if (bons > 0) {
-        fmt::print(flux, "soit {} sur {}; ", bons, contenu.n());
+        fmt::print(flux, "soit {} sur {}; ", bons, grille.n());
     } else {
         flux << "Aucun; ";
     }
 }
 
-void EcrireChancesSorties(std::size_t rang, const Contenu& contenu, const Tirage& tirage, int bons,
+void EcrireChancesSorties(std::size_t rang, const Grille& grille, const Tirage& tirage, int bons,
                           std::ostream& flux) {
     fmt::print(flux, "Chances sorties pour la combinaison {}:  ", rang);
-    for (const double chance : contenu.chances)
-        if (chance == tirage.Chance) fmt::print(flux, "{:g}  ", chance);
+    for (const int chance : grille.chances)
+        if (chance == tirage.Chance) fmt::print(flux, "{}  ", chance);
     if (bons > 0) {
-        fmt::print(flux, "soit {} sur {}; ", bons, contenu.c());
+        fmt::print(flux, "soit {} sur {}; ", bons, grille.c());
     } else {
         flux << "Aucunes; ";
     }
@@ -148,13 +147,12 @@ class Redacteur {
     double grillePremier(std::size_t rang, const Grille& grille, const Tirage& tirage,
                          const RapportsTirage& rapports) {
         const Bons bons = CompterBons(grille, tirage);
-        const Contenu contenu = Ouvrir(grille);
-        EcrireNumerosSortis(rang, contenu, tirage, bons.numeros, flux_);
+        EcrireNumerosSortis(rang, grille, tirage, bons.numeros, flux_);
         flux_ << '\n';
-        EcrireChancesSorties(rang, contenu, tirage, bons.chances, flux_);
+        EcrireChancesSorties(rang, grille, tirage, bons.chances, flux_);
         flux_ << '\n';
-        totaux_.mise += grille[0];
-        if (contenu.n() == 4 && contenu.c() == 0)
+        totaux_.mise += grille.mise;
+        if (grille.n() == 4 && grille.c() == 0)
             return EcrireQuatreNumeros(bons, rapports, monnaie_, flux_);
         return resultat(RangsGagnes(grille, tirage), LibellesRangLoto, rapports);
     }
@@ -166,9 +164,8 @@ class Redacteur {
             return 0;
         }
         // The stake counts again, on top of the 1er Tirage: the sums rest on it.
-        totaux_.mise += grille[0];
-        EcrireNumerosSortis(rang, Ouvrir(grille), tirage, CompterBons(grille, tirage).numeros,
-                            flux_);
+        totaux_.mise += grille.mise;
+        EcrireNumerosSortis(rang, grille, tirage, CompterBons(grille, tirage).numeros, flux_);
         return resultat(Rangs2ndGagnes(grille, tirage), LibellesRang2nd, rapports);
     }
 
@@ -209,16 +206,14 @@ PaireTirages TiragesDeLaDate(const Base& base, int numero) {
 }  // namespace
 
 std::string LigneGrille(std::size_t rang, const Grille& grille, const Monnaie& monnaie) {
-    const Contenu contenu = Ouvrir(grille);
-    std::string ligne =
-        fmt::format("Combinaison {} ({}N + {}C) N: ", rang, contenu.n(), contenu.c());
-    for (const double numero : contenu.numeros) ligne += Colonne(numero);
+    std::string ligne = fmt::format("Combinaison {} ({}N + {}C) N: ", rang, grille.n(), grille.c());
+    for (const int numero : grille.numeros) ligne += Colonne(numero);
     ligne += " C: ";
-    for (const double chance : contenu.chances)
-        fmt::format_to(std::back_inserter(ligne), "{:g}  ", chance);
+    for (const int chance : grille.chances)
+        fmt::format_to(std::back_inserter(ligne), "{}  ", chance);
     // A stake is told in the singular by its whole part: 1.2 is "Euro" too.
-    const bool singulier = grille[0] >= 1 && grille[0] < 2;
-    fmt::format_to(std::back_inserter(ligne), "(Mise: {:g}{})\n", grille[0],
+    const bool singulier = grille.mise >= 1 && grille.mise < 2;
+    fmt::format_to(std::back_inserter(ligne), "(Mise: {:g}{})\n", grille.mise,
                    LibelleMonnaie(monnaie.symbole, singulier));
     return ligne;
 }

@@ -41,7 +41,7 @@ void EcrireLigne(std::size_t rang, const ResultatJoker& r, const Monnaie& monnai
     if (r.gauche == NbChiffres || r.droite == 0) return;
     EcrireCote(rang, "DERNIER", r.droite, r.toleranceDroite >= 0, r.gainDroite, monnaie, flux);
     if (r.gauche == 0) return;
-    // With a symbol the blank behind it is missing; the line has always read so.
+    // The blank stands behind the word alone, not behind a symbol.
     const bool mot = monnaie.symbole.starts_with("€");
     fmt::print(flux, "JOKER+ N°{} Vous gagnez {}{}{}au total pour ce numéro\n", rang,
                MontantEntier(r.gain()), LibelleMonnaie(monnaie.symbole), mot ? " " : "");

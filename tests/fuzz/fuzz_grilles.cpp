@@ -19,8 +19,9 @@ namespace {
 void verifierGrilles(const std::vector<Grille>& grilles) {
     const Tirage tirage = {{1, 2, 3, 4, 5}, 1, 0, 0, 20240101, 1, JokerAbsent};
     for (const Grille& grille : grilles) {
-        exiger(static_cast<double>(grille.size()) ==
-               grille[1] + grille[2 + static_cast<std::size_t>(grille[1])] + 3);
+        exiger(grille.numeros.ensemble().taille() == grille.n() &&
+               grille.chances.ensemble().taille() == grille.c());
+        exiger(Ensemble(MasqueNumero(NumeroMax + 1) - 1).contient(grille.numeros.ensemble()));
         const Bons bons = CompterBons(grille, tirage);
         exiger(bons.numeros <= 5 && bons.chances <= 1);
         RangsGagnes(grille, tirage);

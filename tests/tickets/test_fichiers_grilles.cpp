@@ -8,8 +8,8 @@
 namespace norvane {
 namespace {
 
-const std::vector<Grille> DeuxGrilles = {{2.2, 5, 3, 14, 25, 31, 44, 1, 7},
-                                         {31.2, 6, 1, 2, 3, 4, 5, 6, 2, 4, 10}};
+const std::vector<Grille> DeuxGrilles = {{2.2, {3, 14, 25, 31, 44}, {7}},
+                                         {31.2, {1, 2, 3, 4, 5, 6}, {4, 10}}};
 const std::string TexteDeuxGrilles = "2\n2.2 5 3 14 25 31 44 1 7\n31.2 6 1 2 3 4 5 6 2 4 10\n";
 const LigneJoker Joker = {{1, 2, 3, 4, 5, 6, 7}, 3};
 const std::string TexteUnRecu = TexteDeuxGrilles + "1\n1 2 3 4 5 6 7 3 \n";
@@ -29,8 +29,8 @@ TEST(FichiersGrilles, TextsToTheLetterAndBack) {
     for (const auto [n, c] : TypesVendus)
         for (const bool option : {false, true}) {
             const std::vector<Grille> grilles = {
-                FaireGrille({valeurs.data(), static_cast<std::size_t>(n)},
-                            {valeurs.data(), static_cast<std::size_t>(c)}, option)};
+                FaireGrille(std::span(valeurs).first(static_cast<std::size_t>(n)),
+                            std::span(valeurs).first(static_cast<std::size_t>(c)), option)};
             EXPECT_EQ(*LireGrilles(TexteGrilles(grilles) + '\n'), grilles);
             EXPECT_EQ(ParticipeAu2ndTirage(LireGrilles(TexteGrilles(grilles))->front()), option);
         }
@@ -44,7 +44,7 @@ TEST(FichiersGrilles, Tolerated) {
     EXPECT_EQ(LireRecu("0\n1\n1.9 2 3 4 5 6 7.5 3.2\n")->jokers, std::vector{Joker});
     // What nobody sells, but a hand or the safety copy of a grid in the making may hold.
     for (const Grille& grille :
-         {Grille{0, 0, 0}, {1, 4, 1, 2, 3, 4, 0}, {5, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 1, 2}})
+         {Grille{0, {}, {}}, {1, {1, 2, 3, 4}, {}}, {5, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {2}}})
         EXPECT_EQ(*LireGrilles(TexteGrilles({&grille, 1})), std::vector<Grille>{grille});
 }
 

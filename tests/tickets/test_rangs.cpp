@@ -10,6 +10,7 @@
 #include <random>
 
 #include "base/BaseIntegree.h"
+#include "tickets/FichiersGrilles.h"
 #include "tickets/Rangs.h"
 
 namespace norvane {
@@ -84,24 +85,24 @@ TEST(Rangs, TicketsOnDraws) {
         int date;
         ComptesRangs gagne;
     } const cas[] = {
-        {{4.4, 5, 3, 10, 11, 2, 1, 2, 6, 7}, 20170306, {0, 0, 0, 0, 1, 1, 0, 0, 0}},
-        {{4.4, 5, 3, 10, 11, 2, 1, 2, 6, 7}, 20170305, {0, 0, 0, 0, 0, 2, 0, 0, 1}},
-        {{277.2, 9, 1, 2, 3, 4, 5, 6, 7, 8, 9, 1, 7}, 20200101, {1, 0, 20, 0, 60, 0, 40, 0, 5}},
+        {{4.4, {3, 10, 11, 2, 1}, {6, 7}}, 20170306, {0, 0, 0, 0, 1, 1, 0, 0, 0}},
+        {{4.4, {3, 10, 11, 2, 1}, {6, 7}}, 20170305, {0, 0, 0, 0, 0, 2, 0, 0, 1}},
+        {{277.2, {1, 2, 3, 4, 5, 6, 7, 8, 9}, {7}}, 20200101, {1, 0, 20, 0, 60, 0, 40, 0, 5}},
         // Written by hand: four numbers without a chance, or what no table knows.
-        {{1, 4, 4, 3, 2, 1, 0}, 20200101, {0, 0, 0, 1, 0, 0, 0, 0, 0}},
-        {{1, 4, 30, 31, 32, 1, 0}, 20200101, {}},
-        {{1, 4, 4, 3, 2, 1, 1, 7}, 20200101, {}},
-        {{0, 0, 0}, 20200101, {}},
+        {{1, {4, 3, 2, 1}, {}}, 20200101, {0, 0, 0, 1, 0, 0, 0, 0, 0}},
+        {{1, {30, 31, 32, 1}, {}}, 20200101, {}},
+        {{1, {4, 3, 2, 1}, {7}}, 20200101, {}},
+        {{0, {}, {}}, 20200101, {}},
     };
     for (const auto& c : cas)
         EXPECT_EQ(RangsGagnes(c.grille, {{1, 2, 3, 4, 5}, 7, 0, 0, c.date, 1, JokerAbsent}),
                   c.gagne)
-            << testing::PrintToString(c.grille) << c.date;
+            << TexteGrilles({&c.grille, 1}) << c.date;
 
     const Tirage second = {{1, 2, 3, 4, 5}, 0, 0, 0, 20200101, 2, JokerAbsent};
-    Grille grille = {31.2, 6, 1, 2, 3, 4, 5, 6, 2, 4, 9};
+    Grille grille = {31.2, {1, 2, 3, 4, 5, 6}, {4, 9}};
     EXPECT_EQ(Rangs2ndGagnes(grille, second), (ComptesRangs2nd{1, 5, 0, 0}));
-    grille[0] = 26.4;
+    grille.mise = 26.4;
     EXPECT_EQ(Rangs2ndGagnes(grille, second), ComptesRangs2nd{});
 }
 

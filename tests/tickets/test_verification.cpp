@@ -18,8 +18,8 @@ LigneJoker Joker(const char* chiffres, int code) {
     return ligne;
 }
 
-const Grille DixChances = {132, 6, 7, 12, 23, 34, 45, 49, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-const Grille NeufNumeros = {378, 9, 1, 7, 12, 23, 40, 2, 3, 4, 6, 1, 9};  // with the option
+const Grille DixChances = {132, {7, 12, 23, 34, 45, 49}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}};
+const Grille NeufNumeros = {378, {1, 7, 12, 23, 40, 2, 3, 4, 6}, {9}};  // with the option
 
 // The reports were written by hand from the rules, draw by draw of SeptTirages.
 struct Cas {
@@ -33,17 +33,17 @@ struct Cas {
 std::vector<Cas> TousLesCas() {
     // 3 good of 5 + the Chance of 2; 5 of 6 + the Chance of 10; one number alone, with an option
     // that this draw does not know; four numbers without a chance; 4 of 9 + the Chance.
-    const std::vector<Grille> avant2019 = {{4.4, 5, 7, 12, 23, 1, 2, 2, 5, 6},
+    const std::vector<Grille> avant2019 = {{4.4, {7, 12, 23, 1, 2}, {5, 6}},
                                            DixChances,
-                                           {3, 5, 45, 1, 2, 3, 4, 1, 9},
-                                           {1, 4, 7, 12, 23, 34, 0},
-                                           {277.2, 9, 7, 12, 23, 34, 1, 2, 3, 4, 5, 1, 5}};
+                                           {3, {45, 1, 2, 3, 4}, {9}},
+                                           {1, {7, 12, 23, 34}, {}},
+                                           {277.2, {7, 12, 23, 34, 1, 2, 3, 4, 5}, {5}}};
     return {
         // No Chance and no prizes then: five good numbers win rank 2, of nothing. Numbers in the
         // order of the ticket. Four numbers without a chance win a rank of nothing and are lost.
         {"avant-2008",
          {1},
-         {{3, 5, 44, 3, 25, 14, 31, 1, 7}, {2.2, 5, 1, 2, 4, 5, 6, 1, 7}, {1, 4, 3, 14, 25, 1, 0}},
+         {{3, {44, 3, 25, 14, 31}, {7}}, {2.2, {1, 2, 4, 5, 6}, {7}}, {1, {3, 14, 25, 1}, {}}},
          {},
          {}},
         // The Chance pays the stake back beside the rank of the numbers.
@@ -61,9 +61,9 @@ std::vector<Cas> TousLesCas() {
         {"deux-tirages",
          {4, 5},
          {DixChances,
-          {92.4, 7, 34, 7, 23, 46, 47, 48, 49, 2, 5, 9},
+          {92.4, {34, 7, 23, 46, 47, 48, 49}, {5, 9}},
           NeufNumeros,
-          {3, 5, 44, 46, 47, 48, 49, 1, 10}},
+          {3, {44, 46, 47, 48, 49}, {10}}},
          {Joker("1234567", 1), Joker("1234568", 3), Joker("1900000", 1), Joker("1900007", 2),
           Joker("2900000", 3), Joker("1234500", 1), Joker("1334900", 4), Joker("0000007", 1),
           Joker("9900008", 3), Joker("0000567", 2), Joker("9900077", 3), Joker("1234067", 1),
@@ -73,13 +73,13 @@ std::vector<Cas> TousLesCas() {
         // a gain equal to the stake is told as a gain of 0,00.
         {"premier-seul",
          {6},
-         {{2.2, 5, 2, 3, 4, 5, 6, 1, 8},
-          {2.2, 5, 1, 3, 4, 5, 13, 1, 8},
-          {2.2, 5, 24, 25, 26, 27, 28, 1, 8}},
+         {{2.2, {2, 3, 4, 5, 6}, {8}},
+          {2.2, {1, 3, 4, 5, 13}, {8}},
+          {2.2, {24, 25, 26, 27, 28}, {8}}},
          {},
          {}},
         // A single ticket; a Joker+ that wins its price back shows no figure.
-        {"second-seul", {7}, {{3, 5, 16, 5, 1, 2, 3, 1, 1}}, {Joker("7000000", 1)}, {}},
+        {"second-seul", {7}, {{3, {16, 5, 1, 2, 3}, {1}}}, {Joker("7000000", 1)}, {}},
     };
 }
 
@@ -108,8 +108,8 @@ TEST(Verification, JokerLostOrNeverPublished) {
 }
 
 TEST(Verification, StakesInTheList) {
-    const std::vector<Grille> grilles = {{1.2, 5, 9, 10, 11, 12, 13, 1, 10},
-                                         {2, 5, 9, 10, 11, 12, 13, 1, 1}};
+    const std::vector<Grille> grilles = {{1.2, {9, 10, 11, 12, 13}, {10}},
+                                         {2, {9, 10, 11, 12, 13}, {1}}};
     std::ostringstream euros;
     EcrireListeGrilles(grilles, {"€uro", 6.55957}, euros);
     EXPECT_EQ(euros.str(),
@@ -120,7 +120,7 @@ TEST(Verification, StakesInTheList) {
 TEST(Verification, OneTicketForThePage) {
     const Base base = SeptTirages();
     Grille sansOption = NeufNumeros;
-    sansOption[0] = TableMises(9, 1);
+    sansOption.mise = TableMises(9, 1);
     const struct {
         Grille grille;
         std::size_t numero;

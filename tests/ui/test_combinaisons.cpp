@@ -12,7 +12,7 @@
 
 using namespace norvane::ui::essais;
 
-class TestCombinaisons : public QObject {
+class TestCombinaisons : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:

@@ -3,7 +3,9 @@
 //
 // The main form: pages, modes, busy rule, hints, help, and every way of closing.
 
+#include <algorithm>
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -14,9 +16,12 @@
 
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
+#include "common/Theme.h"
 #include "shell/Aide.h"
 #include "soutien/Banc.h"
 #include "widgets/EtiquetteMode.h"
+#include "widgets/PlancheNumeros.h"
+#include "widgets/VueTableau.h"
 
 using namespace norvane::ui::essais;
 
@@ -26,7 +31,7 @@ const std::string NeufLignesNeutres = QByteArray("0 0 1\n").repeated(9).toStdStr
 
 }  // namespace
 
-class TestCoque : public QObject {
+class TestCoque final : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:
@@ -80,39 +85,86 @@ class TestCoque : public QObject {
         QCOMPARE(libelleMode(m), u"Mode Consultation"_s);
 
         EtiquetteMode etiquette;
-        QCOMPARE(etiquette.Timer2.interval(), 500);
-        etiquette.Timer2.setInterval(1);
+        auto* clignotement = etiquette.findChild<QTimer*>(u"Timer2"_s);
+        QCOMPARE(clignotement->interval(), 500);
+        clignotement->setInterval(1);
         etiquette.montrer(u"Mode Sélection"_s);
-        QSignalSpy ticks(&etiquette.Timer2, &QTimer::timeout);
+        QSignalSpy ticks(clignotement, &QTimer::timeout);
         for (int i = 0; i < 3; ++i) QVERIFY(ticks.wait());
         etiquette.montrer(u"Mode Normal"_s);  // a new transition counts from 0 again
         ticks.clear();
-        QTRY_VERIFY(!etiquette.Timer2.isActive());
+        QTRY_VERIFY(!clignotement->isActive());
         QCOMPARE(ticks.count(), 5);
         QVERIFY(!etiquette.alerte());
     }
 
     void regleDOccupation() {
         FormeOuverte f;
-        f.banc.atelier.TraitementsEnCours = 1;
-        QVERIFY(f.forme->contexte().refuserSiOccupe());
+        Activite& activite = f.banc.atelier.activite;
+        activite.TraitementsEnCours = 1;
+        f.de("BitBtnWithColor7")->click();
         QCOMPARE(f.posees.last().instruction, u"Attendez la fin du traitement en cours..."_s);
         QCOMPARE(f.posees.last().titre, u"Message"_s);
+        // An operation on the main thread keeps the window open as well.
+        activite = {};
+        activite.Disponible = false;
+        f.forme->close();
+        QVERIFY(activite.QuitterEnAttente && f.forme->isVisible() && f.posees.size() == 1);
+    }
 
-        // Closing during work: no question, then the close goes on at its end.
-        QSignalSpy arret(f.forme.get(), &TVaroMainForm::arretDemande);
-        f.forme->close();
-        QVERIFY(f.forme->isVisible() && f.banc.atelier.QuitterEnAttente);
-        QVERIFY(arret.count() == 1 && f.posees.size() == 1);
-        f.banc.scripts.messages->reponses = {CodeBouton2};
-        f.forme->finTraitement();  // refused: the wish is forgotten
-        QVERIFY(f.forme->isVisible() && !f.banc.atelier.QuitterEnAttente);
-        f.banc.atelier.Disponible = false;
-        f.forme->close();
-        QVERIFY(f.banc.atelier.QuitterEnAttente && f.forme->isVisible());
-        f.banc.atelier.Disponible = true;
-        f.forme->finTraitement();
-        QVERIFY(!f.forme->isVisible());
+    /// A double click on "Numéros" and "Chances" leads to the draw, with the item pressed.
+    void versUnTirage() {
+        FormeOuverte f;
+        auto* onglets = f.de<QTabWidget>("PageControl1");
+        for (const char* nom : {"AdvStringGrid1", "AdvStringGrid4"}) {
+            auto* table = f.de<VueTableau>(nom);
+            onglets->setCurrentIndex(table->objectName().endsWith(u'1') ? 1 : 2);
+            const QModelIndex date = table->model()->index(6, 4);
+            Q_EMIT table->celluleActivee(date);
+            QCOMPARE(onglets->currentIndex(), 0);
+            const auto tirage = std::get<NumeroTirage>(*table->modele().cellule(date).cible);
+            QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), QString::number(tirage.numero));
+            const int place = onglets->widget(1)->isAncestorOf(table) ? 7 : NumeroMax + 7;
+            auto* planche = f.de<PlancheNumeros>("Panel1");
+            QCOMPARE(planche->EtatBouton()[static_cast<std::size_t>(place - 1)], 1);
+        }
+    }
+
+    /// Every place that one can be sent to brings its page to front.
+    void destinations() {
+        FormeOuverte f;
+        auto* onglets = f.de<QTabWidget>("PageControl1");
+        auto* relais = f.forme->findChild<Relais*>();
+        relais->aller(VersHistorique{Element{GenreStats::Chances, 3}, 20, 300});
+        QCOMPARE(onglets->currentWidget()->objectName(), u"Varo6"_s);
+        QCOMPARE(onglets->currentWidget()->findChild<QLabel*>(u"Detail"_s)->text(),
+                 u"Historique demandé : chance 3, tirages 20 à 300."_s);
+        relais->aller(VersTirage{1234, {}});
+        QCOMPARE(onglets->currentIndex(), 0);
+        QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), u"1234"_s);
+        QVERIFY(std::ranges::count(f.de<PlancheNumeros>("Panel1")->EtatBouton(), 1) == 0);
+    }
+
+    void apparenceSauvee() {
+        FormeOuverte f;
+        QSignalSpy changements(f.forme->findChild<Relais*>(), &Relais::change);
+        for (const char* cle : {"sombre", "claire"}) {
+            const auto action = "Apparence_" + QByteArray(cle);
+            f.de<QAction>(action)->trigger();
+            QCOMPARE(estSombre(QApplication::palette()), QByteArray(cle) == "sombre");
+            QCOMPARE(changements.takeLast().at(0).value<Changement>(),
+                     (Changement{.reglages = true}));
+            Atelier relu(f.banc.atelier.Repertoire);
+            QCOMPARE(relu.configuration.reglages.Apparence, cle);
+            TVaroMainForm suivante(relu, f.banc.services);
+            QVERIFY(suivante.findChild<QAction*>(QString::fromLatin1(action))->isChecked());
+        }
+        QVERIFY(f.posees.isEmpty());
+        std::filesystem::remove(f.banc.chemin(NomConfiguration));
+        std::filesystem::create_directory(f.banc.chemin(NomConfiguration));
+        f.de<QAction>("Apparence_auto")->trigger();
+        QCOMPARE(f.posees.size(), 1);
+        QCOMPARE(f.posees.last().instruction, u"L'apparence choisie ne sera pas gardée."_s);
     }
 
     void fermetureNormale() {
@@ -250,12 +302,13 @@ class TestCoque : public QObject {
         QStatusTipEvent indice(bouton.statusTip());
         QCoreApplication::sendEvent(f.forme.get(), &indice);
         QCOMPARE(panneau->text(), u"long"_s);
-        // Progress text of work in progress keeps its place.
-        f.banc.atelier.TraitementsEnCours = 1;
-        Q_EMIT f.de<Page>("Varo2")->texteEtat(u"Recherche en cours"_s);
+        // The text of work in progress keeps its place.
+        auto* relais = f.forme->findChild<Relais*>();
+        f.banc.atelier.activite.TraitementsEnCours = 1;
+        relais->dire(u"Recherche en cours"_s);
         QCoreApplication::sendEvent(f.forme.get(), &indice);
         QCOMPARE(panneau->text(), u"Recherche en cours"_s);
-        f.forme->finTraitement();
+        relais->dire({});
         QCoreApplication::sendEvent(f.forme.get(), &indice);
         QCOMPARE(panneau->text(), u"long"_s);
     }

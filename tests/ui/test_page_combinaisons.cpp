@@ -12,7 +12,7 @@
 
 using namespace norvane::ui::essais;
 
-class TestPageCombinaisons : public QObject {
+class TestPageCombinaisons : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:

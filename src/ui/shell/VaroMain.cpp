@@ -17,10 +17,12 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "common/Mode.h"
 #include "common/Theme.h"
 #include "dialogs/AboutBox.h"
 #include "pages/Pages.h"
 #include "shell/Aide.h"
+#include "stats/TableauStats.h"
 #include "widgets/EtiquetteMode.h"
 
 namespace norvane::ui {
@@ -28,8 +30,9 @@ namespace norvane::ui {
 using namespace Qt::StringLiterals;
 
 TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* instance)
-    : travaux_(atelier.activite),
-      contexte_{atelier, services, modes, travaux_, relais_},
+    : relais_(this),
+      travaux_(atelier.activite, this),
+      contexte_{atelier, services, travaux_, relais_},
       instance_(instance),
       fermeture_(contexte_) {
     setObjectName(u"TVaroMainForm"_s);
@@ -154,7 +157,7 @@ void TVaroMainForm::changerPage(int place) {
 }
 
 void TVaroMainForm::changerMode() {
-    mode_->montrer(libelleMode(modes));
+    mode_->montrer(libelleMode(modeEnCours(contexte_.atelier)));
 }
 
 void TVaroMainForm::diffuser(const Changement& changement) {

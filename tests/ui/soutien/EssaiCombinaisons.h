@@ -61,7 +61,7 @@ inline std::map<std::vector<Mot>, int> compter(const Base& base, int taille, int
 struct EssaiCombinaisons : FormeOuverte {
     PageCombinaisons* page = de<PageCombinaisons>("Varo3");
     Atelier& a = banc.atelier;
-    Relais& relais = forme->contexte().relais;
+    Relais& relais = *forme->findChild<Relais*>();
 
     using FormeOuverte::FormeOuverte;
     QString texte(const char* nom) const { return de<QLabel>(nom)->text(); }

@@ -5,16 +5,12 @@
 // interval: the text report Bilan.dat.
 #pragma once
 
-#include <array>
-#include <cstdint>
-#include <functional>
 #include <optional>
 #include <span>
-#include <stop_token>
 #include <string>
-#include <vector>
 
 #include "base/Base.h"
+#include "base/Travail.h"
 #include "tickets/Grille.h"
 #include "tickets/Verification.h"
 
@@ -22,38 +18,13 @@ namespace norvane {
 
 inline constexpr const char* NomBilan = "Bilan.dat";
 
-/// Wins of one rank over the interval.
-struct Cumul {
-    std::int64_t fois = 0;
-    double gain = 0;  ///< euros, added in the order of the draws
-
-    friend bool operator==(const Cumul&, const Cumul&) = default;
-};
-struct BilanGrille {
-    std::array<Cumul, NbRangsLoto> BilanRangs;
-    std::array<Cumul, NbRangs2nd> Bilan2nd;  ///< all 0 for a ticket without the option
-
-    friend bool operator==(const BilanGrille&, const BilanGrille&) = default;
-};
-
-struct SuiviBilan {
-    /// Told 0..100, rising, on the thread of the call; 100 comes last and only with a whole report.
-    std::function<void(int)> progres;
-    std::stop_token arret;
-    unsigned fils = 0;  ///< threads at work; 0: as many as the machine has
-};
-
-/// The balance of each ticket over the draws `premier` to `dernier`, one-based, both included,
-/// 1 <= premier <= dernier <= NbTirages. Nothing when stopped.
-std::optional<std::vector<BilanGrille>> CumulerGains(const Base& base, int premier, int dernier,
-                                                     std::span<const Grille> grilles,
-                                                     const SuiviBilan& suivi = {});
-
-/// The whole text of Bilan.dat for these draws, the same to the byte whatever the number of
-/// threads. Each record counts as one play, so that a date with two draws costs two stakes. Nothing
-/// when stopped, which is heeded within a few milliseconds.
+/// The whole text of Bilan.dat over the draws `premier` to `dernier`, one-based, both included,
+/// 1 <= premier <= dernier <= NbTirages, the same to the byte whatever the number of threads. Each
+/// record counts as one play, so that a date with two draws costs two stakes. Nothing when stopped,
+/// which is heeded within a few milliseconds. The progress goes from 0 to 100, which only a whole
+/// report reaches.
 std::optional<std::string> RedigerBilan(const Base& base, int premier, int dernier,
                                         std::span<const Grille> grilles, const Monnaie& monnaie,
-                                        const SuiviBilan& suivi = {});
+                                        const Suivi& suivi = {});
 
 }  // namespace norvane

@@ -6,6 +6,7 @@
 // option 2nd Tirage, so a stake is kept as it stands in the file.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <span>
@@ -21,6 +22,10 @@ namespace norvane {
 
 inline constexpr const char* DossierGrilles = "Grilles&Reçus";
 inline constexpr const char* NomGrillesSecours = "Grlbak.grl";
+
+/// What the extension of a name tells, in exact lower case.
+enum class GenreBillets : std::uint8_t { Autre, Grilles, Recu };
+GenreBillets GenreDuFichier(const std::filesystem::path& fichier);
 
 struct RecuDeJeu {
     std::vector<Grille> grilles;

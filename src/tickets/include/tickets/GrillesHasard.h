@@ -25,17 +25,12 @@ class GenerateurHasard {
     std::uint32_t etat_;
 };
 
-/// The values of one ticket in the order they were drawn, none twice.
-struct TirageHasard {
-    std::vector<int> numeros;  ///< 1..49
-    std::vector<int> chances;  ///< 1..10
-};
-/// n from 0 to 49, c from 0 to 10.
-TirageHasard TirerGrille(GenerateurHasard& hasard, TypeGrille type);
+/// One ticket of a type sold, numbers and chances in the order they were drawn, at its stake
+/// without the option 2nd Tirage.
+Grille TirerGrille(GenerateurHasard& hasard, TypeGrille type);
 
-/// Appends `nombre` tickets of a type sold (none for 0 or less), numbers and chances rising, each
-/// at its stake without the option 2nd Tirage. The same ticket may come twice. The caller keeps
-/// the list within NbGrillesMax.
+/// Appends `nombre` such tickets (none for 0 or less), numbers and chances rising. The same ticket
+/// may come twice. The caller keeps the list within NbGrillesMax.
 void AjouterGrillesHasard(std::vector<Grille>& grilles, GenerateurHasard& hasard, TypeGrille type,
                           int nombre);
 

@@ -10,6 +10,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "base/Tirage.h"
 #include "tickets/Grille.h"
@@ -24,14 +25,10 @@ extern const std::array<const char*, NbRangs2nd> LibellesRang2nd;
 using ComptesRangs = std::array<int, NbRangsLoto>;  ///< wins per rank of a 1er Tirage
 using ComptesRangs2nd = std::array<int, NbRangs2nd>;
 
-/// True when the stake of the ticket differs from TableMises: nothing else tells the option.
-bool ParticipeAu2ndTirage(const Grille& grille);
-
 struct Bons {
     int numeros;  ///< of the ticket among the five drawn
     int chances;  ///< 0 or 1
 };
-/// The numbers of the ticket are whole, 1..49: what a ticket file or a board can bring.
 Bons CompterBons(const Grille& grille, const Tirage& tirage);
 
 /// Key of one result of a multiple ticket: n x 1000 + g x 100 + c x 10 + gc for c below 10,
@@ -74,6 +71,9 @@ struct LigneJoker {
 
     friend bool operator==(const LigneJoker&, const LigneJoker&) = default;
 };
+/// The seven digits of a text that holds nothing else.
+std::optional<std::array<std::int32_t, 7>> LireChiffresJoker(std::string_view texte);
+
 extern const std::array<int, 8> GainJoker;  ///< euros by digits matched
 extern const std::array<double, 8> GainJokerOption;
 /// Price of a line in euros: the code below 3, else 2 x code - 4.

@@ -77,13 +77,13 @@ void PanneauCombinaison::montrer(Ensemble numeros) {
 void PanneauCombinaison::rafraichir() {
     if (numeros_.vide() || sup_ < inf_) {
         libelle_->clear();
-        table_->montrer({}, inf_, sup_, false);
+        table_->montrer({}, false);
         return;
     }
     const Atelier& a = contexte_.atelier;
     const NumerosTries numeros(numeros_);
     libelle_->setText(versQt(LibelleCombinaison(numeros)));
-    table_->montrer(StatsCombinaison(a.base, a.occurrences, numeros, inf_, sup_), inf_, sup_,
+    table_->montrer(StatsCombinaison(a.base, a.occurrences, numeros, inf_, sup_),
                     barres_->isChecked());
 }
 

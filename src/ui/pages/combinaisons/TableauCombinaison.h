@@ -23,8 +23,8 @@ class TableauCombinaison final : public QObject {
 
     VueTableau* const vue;
 
-    /// Statistics over draws inf..sup (one-based); the ratio as a bar or as its text.
-    void montrer(std::vector<LigneStatsCombinaison> lignes, int inf, int sup, bool barres);
+    /// The ratio as a bar or as its text.
+    void montrer(const std::vector<LigneStatsCombinaison>& lignes, bool barres);
 
  Q_SIGNALS:
     /// A double click on a cell that speaks of a draw (one-based).
@@ -32,10 +32,6 @@ class TableauCombinaison final : public QObject {
 
  private:
     void activer(const QModelIndex& index);
-
-    std::vector<LigneStatsCombinaison> lignes_;
-    int inf_ = 1;
-    int sup_ = 0;
 };
 
 }  // namespace norvane::ui
