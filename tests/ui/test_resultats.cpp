@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <QCalendarWidget>
 #include <QTest>
 
 #include "soutien/EssaiResultats.h"
@@ -146,6 +147,9 @@ class TestResultats final : public EssaisQt {
         QCOMPARE(ecartAvec(e, n - 1), QString());
         edit->clear();  // an empty text does nothing
         QCOMPARE(e.texte(u"LabelTirageFixeAn"_s), u"2024"_s);
+        QTest::keyClick(edit, Qt::Key_Return);  // and the number comes back when it is left so
+        QCOMPARE(ecartAvec(e, n - 1), QString());
+        edit->clear();
         QTest::keyClicks(edit, u"a1b2-"_s);
         QCOMPARE(ecartAvec(e, 11), QString());
         const struct {
@@ -189,6 +193,19 @@ class TestResultats final : public EssaisQt {
                      e.page->palette().color(QPalette::WindowText));
         communs->click();
         QVERIFY(!communs->font().bold());
+    }
+
+    void calendrier() {
+        Essai e(false);
+        const auto* jours = e.date()->calendarWidget();
+        e.montrer(1);
+        e.date()->calendarWidget()->setCurrentPage(2024, 7);
+        for (int jour = 1; jour <= 31; ++jour) {
+            const QDate date(2024, 7, jour);
+            const bool tirage =
+                TirageParDate(e.base().Tirages, 20240700 + jour, e.base().NbTirages).indice >= 0;
+            QCOMPARE(jours->dateTextFormat(date).fontWeight() == QFont::Bold, tirage);
+        }
     }
 
     void eclairageIncremental() {

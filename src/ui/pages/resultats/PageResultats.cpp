@@ -117,10 +117,7 @@ void PageResultats::relierJoker() {
     connect(joker_, &PanneauJoker::Button66Click, billets_, &CommandesBillets::Button66Click);
     connect(joker_, &PanneauJoker::numeroValide, billets_, &CommandesBillets::validerJoker);
     connect(joker_, &PanneauJoker::dateValidee, billets_, &CommandesBillets::dater);
-    connect(billets_, &CommandesBillets::etapeJoker, this, [this] {
-        joker_->entrer();
-        joker_->viser();
-    });
+    connect(billets_, &CommandesBillets::etapeJoker, joker_, &PanneauJoker::entrer);
     connect(billets_, &CommandesBillets::jokerAttendu, joker_, &PanneauJoker::viser);
 }
 

@@ -211,21 +211,24 @@ void PanneauJoker::valider() {
 
 void PanneauJoker::entrer() {
     const EtapeJoker etape = saisie_.etape();
-    const bool date = etape == EtapeJoker::Date;
-    pages_->setCurrentIndex(etape == EtapeJoker::Compte ? 0 : 1);
-    for (QWidget* w : {static_cast<QWidget*>(chiffres_), mise_, static_cast<QWidget*>(restants_)}) {
-        w->setVisible(!date);
-    }
-    date_->setVisible(date);
-    dateLongue_->setVisible(date);
     if (etape == EtapeJoker::Compte) {
         comptes_->button(1)->setChecked(true);
         compteLibre_->clear();
-    } else if (date) {
-        demanderDate();
-    } else {
+    } else if (etape == EtapeJoker::Numeros) {
         demanderNumero();
+    } else {
+        demanderDate();
     }
+    pages_->setCurrentIndex(etape == EtapeJoker::Compte ? 0 : 1);
+    const auto montrer = [](std::initializer_list<QWidget*> widgets, bool visibles) {
+        for (QWidget* w : widgets) w->setVisible(visibles);
+    };
+    // What comes has the focus before the rest goes: it must not wander off meanwhile.
+    const bool date = etape == EtapeJoker::Date;
+    montrer({date_, dateLongue_}, date);
+    if (!date) montrer({chiffres_, mise_, restants_}, true);
+    viser();
+    if (date) montrer({chiffres_, mise_, restants_}, false);
 }
 
 void PanneauJoker::demanderNumero() {

@@ -32,9 +32,9 @@ class PanneauJoker final : public QWidget {
  public:
     PanneauJoker(Contexte& ctx, QWidget* parent);
 
-    /// Ready for the step that the entry has reached, or for its next number.
+    /// Ready for the step that the entry has reached, or for its next number, with the focus.
     void entrer();
-    /// The focus goes to what is to be typed.
+    /// The focus goes back to what is to be typed.
     void viser();
 
  Q_SIGNALS:
