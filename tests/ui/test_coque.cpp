@@ -179,13 +179,15 @@ class TestCoque final : public EssaisQt {
             });
             return messages.QuestionOuiNonAnnuler(u"instruction"_s, u"titre"_s, u"détail"_s);
         };
+        const QStringList boutons{u"Oui"_s, u"Non"_s, u"Annuler"_s};
         for (int i = 0; i < 3; ++i) {
-            QCOMPARE(repondre([i](QMessageBox& boite) {
+            QCOMPARE(repondre([texte = boutons.at(i)](QMessageBox& boite) {
                          const QString textes = boite.text() + boite.informativeText();
                          QCOMPARE(textes, u"instructiondétail"_s);
                          QCOMPARE(boite.icon(), QMessageBox::Question);
                          QCOMPARE(boite.defaultButton()->text(), u"Oui"_s);
-                         boite.buttons().at(i)->click();
+                         for (auto* bouton : boite.buttons())
+                             if (bouton->text() == texte) bouton->click();
                      }),
                      CodeBouton1 + i);
         }
