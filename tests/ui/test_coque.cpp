@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
@@ -165,6 +166,33 @@ class TestCoque final : public EssaisQt {
         f.de<QAction>("Apparence_auto")->trigger();
         QCOMPARE(f.posees.size(), 1);
         QCOMPARE(f.posees.last().instruction, u"L'apparence choisie ne sera pas gardée."_s);
+    }
+
+    /// The real message box: what is asked, and the code of each way to answer.
+    void boiteDeMessage() {
+        MessagesEcran messages;
+        const auto repondre = [&messages](auto geste) {
+            QTimer::singleShot(0, qApp, [geste] {
+                auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (boite == nullptr) qFatal("no message box");
+                geste(*boite);
+            });
+            return messages.QuestionOuiNonAnnuler(u"instruction"_s, u"titre"_s, u"détail"_s);
+        };
+        const QStringList boutons{u"Oui"_s, u"Non"_s, u"Annuler"_s};
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(repondre([texte = boutons.at(i)](QMessageBox& boite) {
+                         const QString textes = boite.text() + boite.informativeText();
+                         QCOMPARE(textes, u"instructiondétail"_s);
+                         QCOMPARE(boite.icon(), QMessageBox::Question);
+                         QCOMPARE(boite.defaultButton()->text(), u"Oui"_s);
+                         for (auto* bouton : boite.buttons())
+                             if (bouton->text() == texte) bouton->click();
+                     }),
+                     CodeBouton1 + i);
+        }
+        QCOMPARE(repondre([](QMessageBox& boite) { QTest::keyClick(&boite, Qt::Key_Escape); }),
+                 CodeFerme);
     }
 
     void fermetureNormale() {

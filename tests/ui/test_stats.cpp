@@ -242,6 +242,14 @@ class TestStats final : public EssaisQt {
         QVERIFY(o.dansLOrdre());
         QTest::keyClick(o.table, Qt::Key_Space, Qt::ControlModifier);
         QCOMPARE(o.texte(0, Num), u"49"_s);
+        o.table->setCurrentIndex(o.table->model()->index(7, SMax));
+        QTest::keyClick(o.table, Qt::Key_Space, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(o.table->modele().cles(), (std::vector<CleTri>{{Num, false}, {SMax, true}}));
+        // A new filling keeps the place of the current cell.
+        const QModelIndex avant = o.table->currentIndex();
+        o.cliquer("RatioNumerosSimple");
+        QVERIFY(avant.row() > 0 && o.table->currentIndex().row() == avant.row());
+        QCOMPARE(o.table->currentIndex().column(), SMax);
     }
 
     void ratioTexteBarreEtBulle() {

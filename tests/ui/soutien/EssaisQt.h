@@ -27,8 +27,8 @@ class AvertissementAttendu {
     AvertissementAttendu& operator=(const AvertissementAttendu&) = delete;
 };
 
-/// Has each item model of ours below `racine` checked at every change from now on. A model that breaks the
-/// rules of its kind ends the program.
+/// Has each item model of ours below `racine` checked at every change from now on. A model that
+/// breaks the rules of its kind ends the program.
 void eprouverModeles(const QObject& racine);
 
 }  // namespace norvane::ui::essais
