@@ -73,17 +73,20 @@ class TestCoque final : public EssaisQt {
     }
 
     void modesEtClignotement() {
-        Modes m;
-        m.ModeMiseAJour = true;
-        QCOMPARE(libelleMode(m), u"Mode Normal"_s);
-        m.ModeNormal = false;
-        QCOMPARE(libelleMode(m), u"Mode Mise à jour"_s);
-        m.AjoutEnfonce = true;
-        QCOMPARE(libelleMode(m), u"Mode Ajout Libre"_s);
-        m.ModeMiseAJour = false;
-        QCOMPARE(libelleMode(m), u"Mode Sélection"_s);
-        m.ModeConsultation = m.ModeNormal = true;
-        QCOMPARE(libelleMode(m), u"Mode Consultation"_s);
+        Banc banc;
+        const auto libelle = [&banc] { return libelleMode(modeEnCours(banc.atelier)); };
+        QCOMPARE(libelle(), u"Mode Normal"_s);
+        banc.atelier.edition = Edition::MiseAJour;
+        QCOMPARE(libelle(), u"Mode Mise à jour"_s);
+        banc.atelier.edition = Edition::AjoutLibre;
+        QCOMPARE(libelle(), u"Mode Ajout Libre"_s);
+        banc.atelier.edition = Edition::Aucune;
+        banc.atelier.saisie.commencer(false);
+        QCOMPARE(libelle(), u"Mode Sélection"_s);
+        banc.atelier.saisie.arreter();
+        banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
+        QVERIFY(!banc.atelier.saisie.consulter());
+        QCOMPARE(libelle(), u"Mode Consultation"_s);
 
         EtiquetteMode etiquette;
         auto* clignotement = etiquette.findChild<QTimer*>(u"Timer2"_s);
@@ -207,9 +210,7 @@ class TestCoque final : public EssaisQt {
         QCOMPARE(d.detail, u"Faites votre choix"_s);
         QCOMPARE(d.boutons.at(d.defaut), u"Non, je souhaite continuer à travailler"_s);
 
-        const int dix[] = {3, 14, 25, 31, 44};
-        const int une[] = {7};
-        f.banc.atelier.ListeChoix = {FaireGrille(dix, une, false)};
+        f.banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
         f.forme->close();
         QVERIFY(!f.forme->isVisible());
         QCOMPARE(f.banc.lire("Grilles&Reçus/Grlbak.grl"),
@@ -223,9 +224,7 @@ class TestCoque final : public EssaisQt {
 
     void fermetureApresAjout() {
         FormeOuverte f;
-        f.forme->modes.ModeNormal = false;
-        f.forme->modes.ModeMiseAJour = true;
-        f.forme->modes.AjoutEnfonce = true;
+        f.banc.atelier.edition = Edition::AjoutLibre;
         f.banc.ecrire(NomCombCalc, "3214 1 70\n");
         f.banc.scripts.messages->reponses = {CodeBouton2};
         f.forme->close();
@@ -271,8 +270,8 @@ class TestCoque final : public EssaisQt {
         QFETCH(int, chemin);
         FormeOuverte f;
         f.banc.atelier.FiltreActif = true;
-        f.forme->modes.ModeNormal = chemin == 0;
-        f.forme->modes.ModeMiseAJour = f.forme->modes.AjoutEnfonce = chemin == 1;
+        if (chemin == 1) f.banc.atelier.edition = Edition::AjoutLibre;
+        if (chemin == 2) f.de("SelectGrilles")->click();
         f.banc.ecrire(NomCombCalc, "filtré");
         f.banc.ecrire("Combcalc.~in", "3214 1 70\n");
         for (int n = 2; n <= 6; ++n) {

@@ -124,7 +124,7 @@ class TestResultats final : public EssaisQt {
         std::erase_if(e.banc.atelier.base.Tirages,
                       [](const Tirage& t) { return t.SousTirage == 1 || t.DateTirage < 20191104; });
         e.banc.atelier.base.NbTirages = static_cast<int>(e.base().Tirages.size());
-        e.banc.atelier.recalculer();
+        e.banc.recalculer();
         e.page->surChange({.base = true});
         QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
         e.numero()->setText(u"99999"_s);

@@ -103,7 +103,7 @@ class TestStats final : public EssaisQt {
             PageOuverte::taper(o.inf, u"1"_s);  // again
             o.cliquer(numeros ? "RatioNumerosSimple" : "RatioEtoilesSimple");
             SupprimerTirage(a.base, 0);
-            a.recalculer();
+            o.banc.recalculer();
             o.page->surChange({.base = true});
             QCOMPARE(sien, (IntervalleStats{1, 3213}));
             QCOMPARE(autre, IntervalleStats{});

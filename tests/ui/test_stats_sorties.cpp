@@ -118,7 +118,7 @@ class TestStatsSorties final : public EssaisQt {
                 QCOMPARE(o.table->model()->rowCount(), 0);
                 QTest::keyClick(o.table, Qt::Key_Return);
                 o.banc.atelier.base.NbTirages = 4;
-                o.banc.atelier.recalculer();
+                o.banc.recalculer();
                 o.page->surChange({.base = true});
                 QVERIFY(o.dansLOrdre());
                 QCOMPARE(o.sup->value(), 4);

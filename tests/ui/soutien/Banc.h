@@ -134,6 +134,9 @@ struct Banc {
     explicit Banc(const Base* base = nullptr) {
         if (base == nullptr) return;
         atelier.base = *base;
+        recalculer();
+    }
+    void recalculer() {
         if (const auto fait = atelier.recalculer(); !fait) qFatal("%s", fait.erreur().c_str());
     }
     std::filesystem::path chemin(const std::string& nom) const { return atelier.Repertoire / nom; }

@@ -29,7 +29,7 @@ struct Essai {
 
     explicit Essai(bool globale) {
         banc.atelier.base = BaseIntegree(globale);
-        banc.atelier.recalculer();
+        banc.recalculer();
         page = std::make_unique<PageResultats>(banc.contexte);
         // As the form does.
         QObject::connect(&banc.relais, &Relais::change, page.get(), &Page::surChange);
