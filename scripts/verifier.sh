@@ -27,7 +27,8 @@ journal=$(mktemp)
 trap 'rm -f "$journal"' EXIT
 if ! run-clang-tidy-14 -quiet -j "$(nproc)" -p $construction "${sources[@]/#/^$PWD/}" \
   >"$journal" 2>&1; then
-  grep -E '(error|warning|note): ' "$journal" | awk '!vues[$0]++' >&2
+  grep -E '(error|warning|note): ' "$journal" | sed 's/\x1b\[[0-9;]*m//g' |
+    awk '!vues[$0]++' >&2
   echo "clang-tidy a trouvé ce qui précède." >&2
   exit 1
 fi
