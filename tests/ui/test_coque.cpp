@@ -17,6 +17,7 @@
 
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
+#include "common/Mode.h"
 #include "common/Theme.h"
 #include "shell/Aide.h"
 #include "soutien/Banc.h"
@@ -130,7 +131,7 @@ class TestCoque final : public EssaisQt {
             QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), QString::number(tirage.numero));
             const int place = onglets->widget(1)->isAncestorOf(table) ? 7 : NumeroMax + 7;
             auto* planche = f.de<PlancheNumeros>("Panel1");
-            QCOMPARE(planche->EtatBouton()[static_cast<std::size_t>(place - 1)], 1);
+            QVERIFY(planche->bouton(place - 1)->enfonce());
         }
     }
 
@@ -146,7 +147,8 @@ class TestCoque final : public EssaisQt {
         relais->aller(VersTirage{1234, {}});
         QCOMPARE(onglets->currentIndex(), 0);
         QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), u"1234"_s);
-        QVERIFY(std::ranges::count(f.de<PlancheNumeros>("Panel1")->EtatBouton(), 1) == 0);
+        const auto* planche = f.de<PlancheNumeros>("Panel1");
+        for (int place = 0; place < NbBoutons; ++place) QVERIFY(!planche->bouton(place)->enfonce());
     }
 
     void apparenceSauvee() {
