@@ -30,7 +30,7 @@ std::int64_t maintenant() {
 }
 
 int enfant(int argc, char** argv, int sortie) {
-    return norvane::ui::Lancer(argc, argv, [sortie] {
+    return norvane::ui::lancer(argc, argv, [sortie] {
         const std::int64_t instant = maintenant();
         if (write(sortie, &instant, sizeof instant) != sizeof instant) std::abort();
         QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the packages that the project needs and the machine lacks (Debian and Ubuntu).
-# Usage: scripts/paquets.sh GROUP...   with GROUP one of: construire essais ecran
+# Usage: scripts/paquets.sh GROUP...   with GROUP one of: construire essais ecran controle
 # Silent and quick when nothing is missing.
 set -euo pipefail
 
@@ -9,6 +9,7 @@ declare -A groupes=(
     libsqlite3-dev libfmt-dev libsimpleini-dev libcli11-dev libgtest-dev libbenchmark-dev
     libgl-dev fonts-noto-core"
   [essais]="poppler-utils"
+  [controle]="clang-format-14 clang-tidy-14"
   [ecran]="xvfb xdotool imagemagick openbox"
 )
 

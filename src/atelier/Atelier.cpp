@@ -12,7 +12,7 @@ namespace norvane {
 namespace {
 
 /// One sentence for all that the configuration file holds of nonsense.
-std::string phraseAnomalies(const std::vector<std::string>& anomalies) {
+std::string PhraseAnomalies(const std::vector<std::string>& anomalies) {
     std::string phrase = "Le fichier NORVANE.INI contient des valeurs inutilisables (";
     constexpr std::size_t citees = 3;
     for (std::size_t i = 0; i < std::min(anomalies.size(), citees); ++i) {
@@ -25,7 +25,7 @@ std::string phraseAnomalies(const std::vector<std::string>& anomalies) {
            "besoin.";
 }
 
-bool memeContenu(const Base& a, const Base& b) {
+bool MemeContenu(const Base& a, const Base& b) {
     return a.AnciensTirages == b.AnciensTirages && a.NbAnciensTirages == b.NbAnciensTirages &&
            std::ranges::equal(a.enUsage(), b.enUsage()) &&
            std::equal(a.Rapports.begin(), a.Rapports.begin() + a.NbTirages, b.Rapports.begin());
@@ -36,7 +36,7 @@ bool memeContenu(const Base& a, const Base& b) {
 Atelier::Atelier(std::filesystem::path repertoire)
     : Repertoire(std::move(repertoire)), configuration(Repertoire / NomConfiguration) {
     if (!configuration.anomalies.empty()) {
-        avertissements.push_back(phraseAnomalies(configuration.anomalies));
+        avertissements.push_back(PhraseAnomalies(configuration.anomalies));
     }
     BaseChargee chargee = ChargerBase(Repertoire, configuration.reglages.AnciensTirages);
     base = std::move(chargee.base);
@@ -91,7 +91,7 @@ Liste& Atelier::liste(QuelleListe laquelle) {
 
 Resultat<Rien> Atelier::sauverBase() {
     if (FiltreActif) return Rien{};  // a sub-series; the whole base is on the disk
-    if (surDisque_ && memeContenu(base, baseSauvee_)) return Rien{};
+    if (surDisque_ && MemeContenu(base, baseSauvee_)) return Rien{};
     if (stockageIllisible_) {
         return Erreur{
             "Le fichier norvane.db n'a pas pu être lu au démarrage et ne sera pas remplacé : "

@@ -30,7 +30,7 @@ using Lecture = std::string (*)(std::string_view valeur, Reglages& reglages);
 
 constexpr const char* PasUnNombre = "n'est pas un nombre";
 
-std::string lireNombre(std::string_view valeur, double min, double max, double& champ) {
+std::string LireNombre(std::string_view valeur, double min, double max, double& champ) {
     const std::optional<double> x = LireMontant(valeur);
     if (!x) return PasUnNombre;
     if (*x < min || *x > max) return fmt::format("n'est pas entre {} et {}", min, max);
@@ -38,7 +38,7 @@ std::string lireNombre(std::string_view valeur, double min, double max, double& 
     return {};
 }
 
-std::string lireEntier(std::string_view valeur, int min, int max, int& champ) {
+std::string LireEntier(std::string_view valeur, int min, int max, int& champ) {
     int n = 0;
     const auto [fin, erreur] = std::from_chars(valeur.data(), valeur.data() + valeur.size(), n);
     if (erreur != std::errc{} || fin != valeur.data() + valeur.size()) {
@@ -51,7 +51,7 @@ std::string lireEntier(std::string_view valeur, int min, int max, int& champ) {
 
 /// Exactly `nombre` items between separators, each taken by `lire`.
 template <typename Lire>
-std::string lireListe(std::string_view valeur, char separateur, std::size_t nombre, Lire lire) {
+std::string LireListe(std::string_view valeur, char separateur, std::size_t nombre, Lire lire) {
     const auto trouves = static_cast<std::size_t>(std::ranges::count(valeur, separateur)) + 1;
     if (trouves != nombre) return fmt::format("n'a pas {} valeurs", nombre);
     for (std::size_t i = 0; i < nombre; ++i) {
@@ -65,11 +65,11 @@ std::string lireListe(std::string_view valeur, char separateur, std::size_t nomb
 }
 
 template <double Reglages::*Champ>
-std::string lireDecalage(std::string_view valeur, Reglages& reglages) {
-    return lireNombre(valeur, -50.0, 50.0, reglages.*Champ);
+std::string LireDecalage(std::string_view valeur, Reglages& reglages) {
+    return LireNombre(valeur, -50.0, 50.0, reglages.*Champ);
 }
 
-std::string lireApparence(std::string_view valeur, Reglages& reglages) {
+std::string LireApparence(std::string_view valeur, Reglages& reglages) {
     if (valeur != "auto" && valeur != "claire" && valeur != "sombre") {
         return "n'est ni auto, ni claire, ni sombre";
     }
@@ -77,15 +77,15 @@ std::string lireApparence(std::string_view valeur, Reglages& reglages) {
     return {};
 }
 
-std::string lireFenetre(std::string_view valeur, Reglages& reglages) {
+std::string LireFenetre(std::string_view valeur, Reglages& reglages) {
     constexpr int pixelsMax = 100000;
     constexpr std::string_view maximisee = ",max";
     if (!valeur.empty()) {
         std::string_view place = valeur;
         if (place.ends_with(maximisee)) place.remove_suffix(maximisee.size());
-        std::string defaut = lireListe(place, ',', 4, [](std::string_view v, std::size_t i) {
+        std::string defaut = LireListe(place, ',', 4, [](std::string_view v, std::size_t i) {
             int pixels = 0;
-            return lireEntier(v, i < 2 ? -pixelsMax : 1, pixelsMax, pixels);
+            return LireEntier(v, i < 2 ? -pixelsMax : 1, pixelsMax, pixels);
         });
         if (!defaut.empty()) return defaut;
     }
@@ -93,38 +93,38 @@ std::string lireFenetre(std::string_view valeur, Reglages& reglages) {
     return {};
 }
 
-std::string lireMises(std::string_view valeur, Reglages& reglages) {
+std::string LireMises(std::string_view valeur, Reglages& reglages) {
     auto mises = reglages.Mises;
-    std::string defaut = lireListe(valeur, ';', mises.size(), [&](std::string_view v, auto i) {
-        return lireNombre(v, 0.01, 1e6, mises[i]);
+    std::string defaut = LireListe(valeur, ';', mises.size(), [&](std::string_view v, auto i) {
+        return LireNombre(v, 0.01, 1e6, mises[i]);
     });
     if (defaut.empty()) reglages.Mises = mises;
     return defaut;
 }
 
-std::string lireSymbole(std::string_view valeur, Reglages& reglages) {
+std::string LireSymbole(std::string_view valeur, Reglages& reglages) {
     if (valeur.empty() || valeur.size() > 16) return "n'est pas un symbole d'un à seize octets";
     reglages.SymboleMonnaie = valeur;
     return {};
 }
 
-std::string lireTaux(std::string_view valeur, Reglages& reglages) {
-    return lireNombre(valeur, 1e-6, 1e6, reglages.TauxConversion);
+std::string LireTaux(std::string_view valeur, Reglages& reglages) {
+    return LireNombre(valeur, 1e-6, 1e6, reglages.TauxConversion);
 }
 
 template <std::size_t Rang>
-std::string lireGain(std::string_view valeur, Reglages& reglages) {
-    return lireNombre(valeur, 0.0, 1e9, reglages.GainsNominaux[Rang]);
+std::string LireGain(std::string_view valeur, Reglages& reglages) {
+    return LireNombre(valeur, 0.0, 1e9, reglages.GainsNominaux[Rang]);
 }
 
-std::string lireAnciens(std::string_view valeur, Reglages& reglages) {
+std::string LireAnciens(std::string_view valeur, Reglages& reglages) {
     if (valeur != "0" && valeur != "1") return "n'est ni 0 ni 1";
     reglages.AnciensTirages = valeur == "1";
     return {};
 }
 
 template <std::string Reglages::*Champ, bool Vidable>
-std::string lireAdresse(std::string_view valeur, Reglages& reglages) {
+std::string LireAdresse(std::string_view valeur, Reglages& reglages) {
     const bool adresse = valeur.starts_with("https://") || valeur.starts_with("http://");
     const bool vide = Vidable && valeur.empty();
     if (!vide && (!adresse || valeur.find(' ') != std::string_view::npos)) {
@@ -134,8 +134,8 @@ std::string lireAdresse(std::string_view valeur, Reglages& reglages) {
     return {};
 }
 
-std::string lireDelai(std::string_view valeur, Reglages& reglages) {
-    return lireEntier(valeur, 1, 600, reglages.DelaiSecondes);
+std::string LireDelai(std::string_view valeur, Reglages& reglages) {
+    return LireEntier(valeur, 1, 600, reglages.DelaiSecondes);
 }
 
 struct Cle {
@@ -146,22 +146,22 @@ struct Cle {
 
 constexpr Cle Cles[] = {
     {"CONFIGURATION", "DecalageImprimanteBordHaut",
-     lireDecalage<&Reglages::DecalageImprimanteBordHaut>},
+     LireDecalage<&Reglages::DecalageImprimanteBordHaut>},
     {"CONFIGURATION", "DecalageImprimanteBordGauche",
-     lireDecalage<&Reglages::DecalageImprimanteBordGauche>},
-    {"CONFIGURATION", "Apparence", lireApparence},
-    {"CONFIGURATION", "Fenetre", lireFenetre},
-    {"MISES", "montants", lireMises},
-    {"MONNAIE", "symbole", lireSymbole},
-    {"MONNAIE", "taux", lireTaux},
-    {"GAINS", "G2", lireGain<0>},
-    {"GAINS", "G3", lireGain<1>},
-    {"GAINS", "G4", lireGain<2>},
-    {"GAINS", "G5", lireGain<3>},
-    {"BASE", "AnciensTirages", lireAnciens},
-    {"INTERNET", "archive", lireAdresse<&Reglages::Archive, false>},
-    {"INTERNET", "jackpot", lireAdresse<&Reglages::Jackpot, true>},
-    {"INTERNET", "delai", lireDelai},
+     LireDecalage<&Reglages::DecalageImprimanteBordGauche>},
+    {"CONFIGURATION", "Apparence", LireApparence},
+    {"CONFIGURATION", "Fenetre", LireFenetre},
+    {"MISES", "montants", LireMises},
+    {"MONNAIE", "symbole", LireSymbole},
+    {"MONNAIE", "taux", LireTaux},
+    {"GAINS", "G2", LireGain<0>},
+    {"GAINS", "G3", LireGain<1>},
+    {"GAINS", "G4", LireGain<2>},
+    {"GAINS", "G5", LireGain<3>},
+    {"BASE", "AnciensTirages", LireAnciens},
+    {"INTERNET", "archive", LireAdresse<&Reglages::Archive, false>},
+    {"INTERNET", "jackpot", LireAdresse<&Reglages::Jackpot, true>},
+    {"INTERNET", "delai", LireDelai},
 };
 
 // --- Lines -------------------------------------------------------------------------------------
@@ -172,17 +172,17 @@ struct Ligne {
     std::string_view nom;  ///< of the section or the key
 };
 
-bool estCommande(char c) {
+bool EstCommande(char c) {
     return static_cast<unsigned char>(c) < ' ' && c != '\t';
 }
 
 /// What a line, taken without its end, is.
-Ligne classer(std::string_view texte) {
+Ligne Classer(std::string_view texte) {
     using enum Ligne::Genre;
     texte = Rogner(texte);
     if (texte.empty()) return {Vide, {}};
     if (texte.starts_with(';') || texte.starts_with('#')) return {Commentaire, {}};
-    const bool commandes = std::ranges::any_of(texte, estCommande);
+    const bool commandes = std::ranges::any_of(texte, EstCommande);
     if (texte.starts_with('[')) {
         const std::size_t fin = texte.find(']');
         if (fin == std::string_view::npos || commandes) return {SectionBrisee, {}};
@@ -194,7 +194,7 @@ Ligne classer(std::string_view texte) {
 }
 
 /// The lines of a text with their ends, so that joined they are the text again.
-std::vector<std::string> separerLignes(std::string_view texte) {
+std::vector<std::string> SeparerLignes(std::string_view texte) {
     std::vector<std::string> lignes;
     while (!texte.empty()) {
         const std::size_t fin = std::min(texte.find('\n'), texte.size() - 1) + 1;
@@ -204,7 +204,7 @@ std::vector<std::string> separerLignes(std::string_view texte) {
     return lignes;
 }
 
-bool memeNom(std::string_view a, std::string_view b) {
+bool MemeNom(std::string_view a, std::string_view b) {
     const auto minuscule = [](char c) {
         return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
     };
@@ -213,7 +213,7 @@ bool memeNom(std::string_view a, std::string_view b) {
 
 /// Length of the UTF-8 character at the start of `texte`, 0 when there is none. Overlong forms,
 /// surrogates and values beyond U+10FFFF are none.
-std::size_t longueurCaractere(std::string_view texte) {
+std::size_t LongueurCaractere(std::string_view texte) {
     const auto octet = [&](std::size_t i) {
         return i < texte.size() ? static_cast<unsigned char>(texte[i]) : 0U;
     };
@@ -234,20 +234,20 @@ std::size_t longueurCaractere(std::string_view texte) {
 }
 
 /// The start of a value for a message, cut between two characters.
-std::string citer(std::string_view texte) {
+std::string CiterValeur(std::string_view texte) {
     constexpr std::size_t montre = 40;
     std::string citation;
     while (!texte.empty()) {
-        const std::size_t longueur = std::max<std::size_t>(longueurCaractere(texte), 1);
+        const std::size_t longueur = std::max<std::size_t>(LongueurCaractere(texte), 1);
         if (citation.size() + longueur > montre) return citation + "...";
-        citation += estCommande(texte.front()) ? "?" : texte.substr(0, longueur);
+        citation += EstCommande(texte.front()) ? "?" : texte.substr(0, longueur);
         texte.remove_prefix(longueur);
     }
     return citation;
 }
 
 /// The text of the file, empty when there is none; an error when it can be no configuration.
-Resultat<std::string> lireTexte(const std::filesystem::path& fichier) {
+Resultat<std::string> LireTexte(const std::filesystem::path& fichier) {
     std::error_code ec;
     if (std::filesystem::status(fichier, ec).type() == std::filesystem::file_type::not_found) {
         return std::string();
@@ -256,7 +256,7 @@ Resultat<std::string> lireTexte(const std::filesystem::path& fichier) {
     if (!lu) return lu;
     std::string_view reste = *lu;
     while (!reste.empty()) {
-        const std::size_t longueur = reste.front() == '\0' ? 0 : longueurCaractere(reste);
+        const std::size_t longueur = reste.front() == '\0' ? 0 : LongueurCaractere(reste);
         if (longueur == 0) {
             return Erreur{fmt::format("« {} » n'est pas un fichier de texte UTF-8 (octet {}).",
                                       fichier.string(), lu->size() - reste.size() + 1)};
@@ -267,14 +267,14 @@ Resultat<std::string> lireTexte(const std::filesystem::path& fichier) {
 }
 
 /// The sections and keys of a text; bad lines go to `anomalies`.
-void charger(std::string_view texte, CSimpleIniA& ini, std::vector<std::string>& anomalies) {
+void Charger(std::string_view texte, CSimpleIniA& ini, std::vector<std::string>& anomalies) {
     using enum Ligne::Genre;
     std::string saines;
     std::size_t numero = 0;
     std::size_t autres = 0;
-    for (const std::string& ligne : separerLignes(SansMarqueOctets(texte))) {
+    for (const std::string& ligne : SeparerLignes(SansMarqueOctets(texte))) {
         ++numero;
-        const Ligne::Genre genre = classer(ligne).genre;
+        const Ligne::Genre genre = Classer(ligne).genre;
         if (genre == Section || genre == Cle) saines.append(Rogner(ligne)).append(1, '\n');
         // What stands under a broken heading belongs to no section rather than to the one before.
         if (genre == SectionBrisee) saines += "[]\n";
@@ -284,7 +284,7 @@ void charger(std::string_view texte, CSimpleIniA& ini, std::vector<std::string>&
         } else {
             anomalies.push_back(
                 fmt::format("ligne {} : « {} » n'est ni une section, ni une clé, ni un commentaire",
-                            numero, citer(Rogner(ligne))));
+                            numero, CiterValeur(Rogner(ligne))));
         }
     }
     if (autres > 0) anomalies.push_back(fmt::format("et {} autres lignes de même", autres));
@@ -292,12 +292,12 @@ void charger(std::string_view texte, CSimpleIniA& ini, std::vector<std::string>&
 }
 
 /// `texte` with one key changed; all other lines stay as they are, byte by byte.
-std::string changer(std::string_view texte, std::string_view section, std::string_view cle,
+std::string Changer(std::string_view texte, std::string_view section, std::string_view cle,
                     std::string_view valeur) {
     using enum Ligne::Genre;
     const std::string_view corps = SansMarqueOctets(texte);
     const std::string_view marque = texte.substr(0, texte.size() - corps.size());
-    std::vector<std::string> lignes = separerLignes(corps);
+    std::vector<std::string> lignes = SeparerLignes(corps);
     const char* const fin = !lignes.empty() && lignes.front().ends_with("\r\n") ? "\r\n" : "\n";
     if (!lignes.empty() && !lignes.back().ends_with('\n')) lignes.back() += fin;
 
@@ -305,13 +305,13 @@ std::string changer(std::string_view texte, std::string_view section, std::strin
     std::optional<std::size_t> apres;    // last line of the section that is not blank
     bool dedans = false;
     for (std::size_t i = 0; i < lignes.size(); ++i) {
-        const Ligne ligne = classer(lignes[i]);
+        const Ligne ligne = Classer(lignes[i]);
         if (ligne.genre == Section || ligne.genre == SectionBrisee) {
-            dedans = ligne.genre == Section && memeNom(ligne.nom, section);
+            dedans = ligne.genre == Section && MemeNom(ligne.nom, section);
         }
         if (!dedans) continue;
         if (ligne.genre != Vide) apres = i + 1;
-        if (ligne.genre == Cle && memeNom(ligne.nom, cle)) trouvee = i;
+        if (ligne.genre == Cle && MemeNom(ligne.nom, cle)) trouvee = i;
     }
     std::string nouvelle = fmt::format("{}={}{}", cle, valeur, fin);
     if (trouvee) {
@@ -338,20 +338,20 @@ Configuration& Configuration::operator=(Configuration&&) noexcept = default;
 
 Configuration::Configuration(std::filesystem::path fichier)
     : d_(std::make_unique<Donnees>(Donnees{std::move(fichier)})) {
-    const Resultat<std::string> texte = lireTexte(d_->fichier);
+    const Resultat<std::string> texte = LireTexte(d_->fichier);
     if (!texte) {
         anomalies.push_back(texte.erreur());
         return;
     }
     CSimpleIniA ini;
-    charger(*texte, ini, anomalies);
+    Charger(*texte, ini, anomalies);
     for (const Cle& cle : Cles) {
         const char* valeur = ini.GetValue(cle.section, cle.nom);
         if (valeur == nullptr) continue;
         const std::string defaut = cle.lire(valeur, reglages);
         if (!defaut.empty()) {
-            anomalies.push_back(
-                fmt::format("[{}] {} : « {} » {}", cle.section, cle.nom, citer(valeur), defaut));
+            anomalies.push_back(fmt::format("[{}] {} : « {} » {}", cle.section, cle.nom,
+                                            CiterValeur(valeur), defaut));
         }
     }
 }
@@ -359,29 +359,29 @@ Configuration::Configuration(std::filesystem::path fichier)
 Resultat<Rien> Configuration::ecrire(const std::string& section, const std::string& cle,
                                      const std::string& valeur) {
     const auto refus = [&](std::string_view cause) {
-        return Erreur{fmt::format("Impossible d'enregistrer [{}] {} : {}", citer(section),
-                                  citer(cle), cause)};
+        return Erreur{fmt::format("Impossible d'enregistrer [{}] {} : {}", CiterValeur(section),
+                                  CiterValeur(cle), cause)};
     };
     Reglages nouveaux = reglages;
     for (const Cle& connue : Cles) {
-        if (!memeNom(connue.section, section) || !memeNom(connue.nom, cle)) continue;
+        if (!MemeNom(connue.section, section) || !MemeNom(connue.nom, cle)) continue;
         const std::string defaut = connue.lire(valeur, nouveaux);
-        if (!defaut.empty()) return refus(fmt::format("« {} » {}.", citer(valeur), defaut));
+        if (!defaut.empty()) return refus(fmt::format("« {} » {}.", CiterValeur(valeur), defaut));
     }
     // The file is read anew: the user may have edited it since the start.
-    const Resultat<std::string> ancien = lireTexte(d_->fichier);
+    const Resultat<std::string> ancien = LireTexte(d_->fichier);
     if (!ancien) return refus(ancien.erreur());
-    const std::string texte = changer(*ancien, section, cle, valeur);
+    const std::string texte = Changer(*ancien, section, cle, valeur);
 
     // Nothing is written that would not be read back as it was given.
     std::vector<std::string> avant;
     std::vector<std::string> apres;
     CSimpleIniA iniAvant;
     CSimpleIniA iniApres;
-    charger(*ancien, iniAvant, avant);
-    charger(texte, iniApres, apres);
+    Charger(*ancien, iniAvant, avant);
+    Charger(texte, iniApres, apres);
     const char* relue = iniApres.GetValue(section.c_str(), cle.c_str());
-    const bool multiple = std::ranges::any_of(section + cle + valeur, estCommande);
+    const bool multiple = std::ranges::any_of(section + cle + valeur, EstCommande);
     if (relue == nullptr || relue != valeur || multiple || apres.size() != avant.size() ||
         texte.size() > TailleMax) {
         return refus("ce nom ou cette valeur ne tient pas sur une ligne du fichier.");

@@ -32,7 +32,7 @@ constexpr Bornes bornes[] = {
 /// Well above any prize ever paid, and far below where a double stops counting cents.
 constexpr double montantMax = 1e12;
 
-bool estMontant(double x) {
+bool EstMontant(double x) {
     return x >= 0.0 && x <= montantMax;
 }  // false for no number at all
 
@@ -71,11 +71,11 @@ std::string DefautTirage(const Tirage& tirage, const RapportsTirage& rapports) {
     }
     for (std::size_t r = 0; r < rapports.size(); ++r) {
         const auto [gagnants, gain] = rapports[r];
-        if (!estMontant(gagnants) || gagnants != std::floor(gagnants)) {
+        if (!EstMontant(gagnants) || gagnants != std::floor(gagnants)) {
             return fmt::format("g{} vaut {}, il faut un nombre entier de gagnants", r + 1,
                                gagnants);
         }
-        if (!estMontant(gain)) {
+        if (!EstMontant(gain)) {
             return fmt::format("r{} vaut {}, il faut un montant en euros", r + 1, gain);
         }
     }

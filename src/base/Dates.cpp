@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Dates.h"
 
-#include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "base/Textes.h"
 
@@ -16,29 +16,6 @@ constexpr std::array<std::string_view, 7> Jours = {"lundi",    "mardi",  "mercre
 constexpr std::array<std::string_view, 12> Mois = {"janvier",   "février", "mars",     "avril",
                                                    "mai",       "juin",    "juillet",  "août",
                                                    "septembre", "octobre", "novembre", "décembre"};
-
-/// Takes the first word off `texte`, with the blanks behind it.
-std::string_view prendreMot(std::string_view& texte) {
-    const std::string_view mot = texte.substr(0, texte.find(' '));
-    texte = Rogner(texte.substr(mot.size()));
-    return mot;
-}
-
-/// What a long date sorts by: yyyymmdd. A text that is no date sorts by itself.
-std::string cleDeTri(std::string_view texte) {
-    const std::string_view entier = texte = Rogner(texte);
-    if (texte == Rogner(PasEncoreSorti)) return "00001225";
-    std::string_view jour = prendreMot(texte);
-    if (std::ranges::find(Jours, jour) != Jours.end()) jour = prendreMot(texte);
-    const auto mois = std::ranges::find(Mois, prendreMot(texte));
-    if (mois == Mois.end() || jour.empty() || jour.size() > 2 || texte.size() != 4) {
-        return std::string(entier);
-    }
-    std::string cle(texte);
-    cle += FormaterMasque(mois - Mois.begin() + 1, 2);
-    if (jour.size() == 1) cle += '0';
-    return cle.append(jour);
-}
 
 }  // namespace
 
@@ -74,11 +51,6 @@ std::string DateLongue(int date) {
 std::string DateCourte(int date) {
     return FormaterMasque(date % 100, 2) + '/' + FormaterMasque(date / 100 % 100, 2) + '/' +
            FormaterMasque(date / 10000, 4);
-}
-
-int ComparerDatesFrancaises(std::string_view a, std::string_view b) {
-    const int ordre = cleDeTri(a).compare(cleDeTri(b));
-    return (ordre > 0) - (ordre < 0);
 }
 
 }  // namespace norvane

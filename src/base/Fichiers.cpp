@@ -19,7 +19,7 @@ namespace norvane {
 namespace {
 
 /// The system's reason in French, whatever the machine's language.
-std::string raison(int numero) {
+std::string Raison(int numero) {
     struct Raison {
         int numero;
         const char* texte;
@@ -44,7 +44,7 @@ std::string raison(int numero) {
     return "erreur " + std::to_string(numero) + " du système";
 }
 
-Erreur echec(const char* action, const std::filesystem::path& chemin, const std::string& cause) {
+Erreur Echec(const char* action, const std::filesystem::path& chemin, const std::string& cause) {
     return {"Impossible " + std::string(action) + " « " + chemin.string() + " » : " + cause + "."};
 }
 
@@ -67,7 +67,7 @@ class Descripteur {
     int fd_;
 };
 
-bool ecrireTout(int fd, std::string_view contenu) {
+bool EcrireTout(int fd, std::string_view contenu) {
     while (!contenu.empty()) {
         const ssize_t n = ::write(fd, contenu.data(), contenu.size());
         if (n < 0 && errno != EINTR) return false;
@@ -77,7 +77,7 @@ bool ecrireTout(int fd, std::string_view contenu) {
 }
 
 /// The file to replace: behind a link, what it points to, so that the link stays a link.
-std::filesystem::path cible(const std::filesystem::path& chemin, std::error_code& ec) {
+std::filesystem::path Cible(const std::filesystem::path& chemin, std::error_code& ec) {
     std::filesystem::path but = chemin;
     for (int saut = 0; saut < 40; ++saut) {
         const auto etat = std::filesystem::symlink_status(but, ec);
@@ -97,7 +97,7 @@ struct Temporaire {
 };
 
 /// A new file of its own in `dossier`; errno tells why when fd is negative.
-Temporaire creerTemporaire(const std::filesystem::path& dossier) {
+Temporaire CreerTemporaire(const std::filesystem::path& dossier) {
     static std::atomic<unsigned> compteur = 0;
     Temporaire temporaire;
     do {
@@ -111,13 +111,13 @@ Temporaire creerTemporaire(const std::filesystem::path& dossier) {
 }
 
 /// Permissions, and the owner where the system lets us, of the file that is replaced.
-bool reprendreDroits(int fd, const struct stat& ancien) {
+bool ReprendreDroits(int fd, const struct stat& ancien) {
     if (::fchown(fd, ancien.st_uid, ancien.st_gid) != 0) errno = 0;
     return ::fchmod(fd, ancien.st_mode & 07777) == 0;
 }
 
 /// Puts the rename itself on the disk; a file system that cannot is left to its own pace.
-void synchroniserDossier(const std::filesystem::path& dossier) {
+void SynchroniserDossier(const std::filesystem::path& dossier) {
     const Descripteur fd(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (fd.fd() >= 0 && ::fsync(fd.fd()) != 0) errno = 0;
 }
@@ -127,26 +127,26 @@ void synchroniserDossier(const std::filesystem::path& dossier) {
 Resultat<Rien> EcrireFichier(const std::filesystem::path& chemin, std::string_view contenu) {
     constexpr const char* action = "d'écrire";
     std::error_code ec;
-    const std::filesystem::path but = cible(chemin, ec);
-    if (ec) return echec(action, chemin, raison(ec.value()));
+    const std::filesystem::path but = Cible(chemin, ec);
+    if (ec) return Echec(action, chemin, Raison(ec.value()));
     struct stat ancien {};
     const bool existe = ::stat(but.c_str(), &ancien) == 0;
     if (existe && !S_ISREG(ancien.st_mode)) {
-        return echec(action, chemin, "ce nom est celui d'un dossier ou d'un appareil");
+        return Echec(action, chemin, "ce nom est celui d'un dossier ou d'un appareil");
     }
     const std::filesystem::path dossier = but.has_parent_path() ? but.parent_path() : ".";
-    const Temporaire temporaire = creerTemporaire(dossier);
-    if (temporaire.fd < 0) return echec(action, chemin, raison(errno));
+    const Temporaire temporaire = CreerTemporaire(dossier);
+    if (temporaire.fd < 0) return Echec(action, chemin, Raison(errno));
     Descripteur fd(temporaire.fd);
-    const bool ecrit = ecrireTout(fd.fd(), contenu) &&
-                       (!existe || reprendreDroits(fd.fd(), ancien)) && ::fsync(fd.fd()) == 0 &&
+    const bool ecrit = EcrireTout(fd.fd(), contenu) &&
+                       (!existe || ReprendreDroits(fd.fd(), ancien)) && ::fsync(fd.fd()) == 0 &&
                        fd.fermer() && std::rename(temporaire.chemin.c_str(), but.c_str()) == 0;
     if (!ecrit) {
         const int numero = errno;
         ::unlink(temporaire.chemin.c_str());
-        return echec(action, chemin, raison(numero));
+        return Echec(action, chemin, Raison(numero));
     }
-    synchroniserDossier(dossier);
+    SynchroniserDossier(dossier);
     return Rien{};
 }
 
@@ -155,9 +155,9 @@ Resultat<std::string> LireFichier(const std::filesystem::path& chemin, std::uint
     // O_NONBLOCK: a pipe that bears the name must not stop the program.
     const Descripteur fd(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat etat {};
-    if (fd.fd() < 0 || ::fstat(fd.fd(), &etat) != 0) return echec(action, chemin, raison(errno));
+    if (fd.fd() < 0 || ::fstat(fd.fd(), &etat) != 0) return Echec(action, chemin, Raison(errno));
     if (!S_ISREG(etat.st_mode)) {
-        return echec(action, chemin, "ce nom est celui d'un dossier ou d'un appareil");
+        return Echec(action, chemin, "ce nom est celui d'un dossier ou d'un appareil");
     }
     std::string contenu;
     contenu.reserve(std::min(static_cast<std::uint64_t>(etat.st_size), tailleMax));
@@ -165,11 +165,11 @@ Resultat<std::string> LireFichier(const std::filesystem::path& chemin, std::uint
     for (;;) {
         const ssize_t n = ::read(fd.fd(), tampon.data(), tampon.size());
         if (n < 0 && errno == EINTR) continue;
-        if (n < 0) return echec(action, chemin, raison(errno));
+        if (n < 0) return Echec(action, chemin, Raison(errno));
         if (n == 0) return contenu;
         contenu.append(tampon.data(), static_cast<std::size_t>(n));
         if (contenu.size() > tailleMax) {
-            return echec(
+            return Echec(
                 action, chemin,
                 "il dépasse la taille permise de " + std::to_string(tailleMax) + " octets");
         }

@@ -47,7 +47,7 @@ constexpr int NbEntiers = std::tuple_size_v<Entiers>;
 
 /// A sum over the records in use. SQLite sees a damaged structure but not a damaged value: a file
 /// that lost its last byte, or one with a bit turned, would give another prize without a word.
-std::int64_t somme(const Base& base) {
+std::int64_t Somme(const Base& base) {
     std::uint64_t total = 0xCBF29CE484222325;
     const auto meler = [&total](std::uint64_t valeur) {
         total = std::rotl((total ^ valeur) * 0x100000001B3, 23);
@@ -65,7 +65,7 @@ std::int64_t somme(const Base& base) {
     return std::bit_cast<std::int64_t>(total);
 }
 
-void migrer(Connexion& connexion, std::int64_t depuis) {
+void Migrer(Connexion& connexion, std::int64_t depuis) {
     for (auto i = static_cast<std::size_t>(depuis); i < Migrations.size(); ++i) {
         connexion.executer(Migrations[i]);
     }
@@ -74,7 +74,7 @@ void migrer(Connexion& connexion, std::int64_t depuis) {
 
 /// Tells a sound file of ours from all others, and brings an older one up to date. Inside a
 /// transaction.
-void reconnaitre(Connexion& connexion) {
+void Reconnaitre(Connexion& connexion) {
     if (connexion.entier("PRAGMA application_id") != IdentiteFichier) {
         throw EchecStockage(Genre::Abime, "ce n'est pas une base de Norvane");
     }
@@ -86,17 +86,17 @@ void reconnaitre(Connexion& connexion) {
     if (version < 1 || connexion.texte("PRAGMA integrity_check(1)") != "ok") {
         throw EchecStockage(Genre::Abime, "son contrôle d'intégrité échoue");
     }
-    if (version < VersionSchema) migrer(connexion, version);
+    if (version < VersionSchema) Migrer(connexion, version);
 }
 
-std::int64_t lireMeta(Connexion& connexion, const char* cle) {
+std::int64_t LireMeta(Connexion& connexion, const char* cle) {
     return connexion.entier(fmt::format("SELECT valeur FROM meta WHERE cle='{}'", cle));
 }
 
 /// All records of the file, each one checked.
-Base lireTout(Connexion& connexion) {
+Base LireTout(Connexion& connexion) {
     Base base;
-    const std::int64_t nombre = lireMeta(connexion, "NbTirages");
+    const std::int64_t nombre = LireMeta(connexion, "NbTirages");
     if (nombre != connexion.entier("SELECT count(*) FROM tirages") || nombre > NbTiragesMax) {
         throw EchecStockage(Genre::Abime, "son nombre de tirages est faux");
     }
@@ -116,15 +116,15 @@ Base lireTout(Connexion& connexion) {
         base.Rapports.push_back(rapports);
     }
     base.NbTirages = static_cast<std::int32_t>(nombre);
-    base.AnciensTirages = lireMeta(connexion, "AnciensTirages") != 0;
-    const std::int64_t anciens = lireMeta(connexion, "NbAnciensTirages");
+    base.AnciensTirages = LireMeta(connexion, "AnciensTirages") != 0;
+    const std::int64_t anciens = LireMeta(connexion, "NbAnciensTirages");
     // Kept out of range when it is, for the check below to tell.
     base.NbAnciensTirages =
         static_cast<std::int32_t>(std::clamp<std::int64_t>(anciens, -1, nombre + 1));
     if (const std::string defaut = DefautBase(base); !defaut.empty()) {
         throw EchecStockage(Genre::Abime, defaut);
     }
-    if (lireMeta(connexion, "Somme") != somme(base)) {
+    if (LireMeta(connexion, "Somme") != Somme(base)) {
         throw EchecStockage(Genre::Abime, "sa somme de contrôle est fausse");
     }
     // An insertion does not move the count while the flag is set: a fresh load counts anew.
@@ -132,7 +132,7 @@ Base lireTout(Connexion& connexion) {
     return base;
 }
 
-void ecrireTout(Connexion& connexion, const Base& base) {
+void EcrireTout(Connexion& connexion, const Base& base) {
     connexion.executer("DELETE FROM tirages");
     std::string sql = "INSERT INTO tirages VALUES(?";
     for (int i = 0; i < NbEntiers + 2 * NbRangsLoto; ++i) sql += ",?";
@@ -152,11 +152,11 @@ void ecrireTout(Connexion& connexion, const Base& base) {
     connexion.executer(fmt::format(
         "INSERT OR REPLACE INTO meta VALUES('NbTirages',{}),"
         "('NbAnciensTirages',{}),('AnciensTirages',{}),('Somme',{})",
-        base.NbTirages, base.NbAnciensTirages, base.AnciensTirages ? 1 : 0, somme(base)));
+        base.NbTirages, base.NbAnciensTirages, base.AnciensTirages ? 1 : 0, Somme(base)));
 }
 
 /// Opens an existing file; a name that is no plain file, or no file at all, is not ours to touch.
-Connexion ouvrir(const fs::path& fichier) {
+Connexion Ouvrir(const fs::path& fichier) {
     std::error_code ec;
     if (fs::status(fichier, ec).type() != fs::file_type::regular) {
         throw EchecStockage(Genre::Inaccessible,
@@ -165,18 +165,18 @@ Connexion ouvrir(const fs::path& fichier) {
     return Connexion(fichier);
 }
 
-Base lireFichier(const fs::path& fichier) {
-    Connexion connexion = ouvrir(fichier);
+Base LireBaseGardee(const fs::path& fichier) {
+    Connexion connexion = Ouvrir(fichier);
     connexion.executer("BEGIN");
-    reconnaitre(connexion);
-    Base base = lireTout(connexion);
+    Reconnaitre(connexion);
+    Base base = LireTout(connexion);
     connexion.executer("COMMIT");
     return base;
 }
 
 /// The records of both bases in their order; where both hold a draw, that of `dessus` counts.
 /// The result is a base with the old game's draws.
-Base fusionner(const Base& dessous, std::size_t nombreDessous, const Base& dessus) {
+Base Fusionner(const Base& dessous, std::size_t nombreDessous, const Base& dessus) {
     Base base;
     const auto ajouter = [&base](const Base& source, std::size_t i) {
         base.Tirages.push_back(source.Tirages[i]);
@@ -199,8 +199,8 @@ Base fusionner(const Base& dessous, std::size_t nombreDessous, const Base& dessu
 }
 
 /// `base` with the draws of the old game that `stockee` holds.
-Base fusionnerAnciens(const Base& stockee, const Base& base) {
-    Base fusion = fusionner(
+Base FusionnerAnciens(const Base& stockee, const Base& base) {
+    Base fusion = Fusionner(
         stockee, static_cast<std::size_t>(CompterAnciensTirages(stockee.enUsage())), base);
     if (fusion.NbTirages > NbTiragesMax) {
         throw EchecStockage(Genre::Inaccessible,
@@ -210,7 +210,7 @@ Base fusionnerAnciens(const Base& stockee, const Base& base) {
 }
 
 /// Without the draws of the old game, which stay in the file.
-void retirerAnciens(Base& base) {
+void RetirerAnciens(Base& base) {
     const auto anciens = CompterAnciensTirages(base.enUsage());
     base.Tirages.erase(base.Tirages.begin(), base.Tirages.begin() + anciens);
     base.Rapports.erase(base.Rapports.begin(), base.Rapports.begin() + anciens);
@@ -224,7 +224,7 @@ constexpr std::array<const char*, 3> Annexes = {"-journal", "-wal", "-shm"};
 
 /// Moves a file of no use out of the way, with what belongs to it, and gives its new name; an
 /// empty path when it cannot be moved.
-fs::path mettreDeCote(const fs::path& fichier) {
+fs::path MettreDeCote(const fs::path& fichier) {
     const auto maintenant = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     const std::string base =
         fmt::format("{}.abimee-{:%Y%m%d-%H%M%S}", fichier.string(), fmt::localtime(maintenant));
@@ -241,7 +241,7 @@ fs::path mettreDeCote(const fs::path& fichier) {
     return nom;
 }
 
-std::string avertir(const fs::path& fichier, const EchecStockage& echec) {
+std::string Avertir(const fs::path& fichier, const EchecStockage& echec) {
     constexpr const char* suite = "la base fournie avec le programme est utilisée";
     const std::string nom = fichier.string();
     if (echec.genre() == Genre::TropRecent) {
@@ -256,7 +256,7 @@ std::string avertir(const fs::path& fichier, const EchecStockage& echec) {
             "au fichier puis relancez Norvane.",
             nom, echec.what(), suite);
     }
-    const fs::path cote = mettreDeCote(fichier);
+    const fs::path cote = MettreDeCote(fichier);
     if (cote.empty()) {
         return fmt::format(
             "Le fichier « {} » est inutilisable ({}) et n'a pas pu être mis de "
@@ -269,12 +269,12 @@ std::string avertir(const fs::path& fichier, const EchecStockage& echec) {
         nom, echec.what(), cote.filename().string(), suite);
 }
 
-Resultat<Rien> creer(const Base& base, const fs::path& fichier) {
+Resultat<Rien> Creer(const Base& base, const fs::path& fichier) {
     Connexion connexion;
     connexion.executer("BEGIN");
     connexion.executer(fmt::format("PRAGMA application_id={}", IdentiteFichier));
-    migrer(connexion, 0);
-    ecrireTout(connexion, base);
+    Migrer(connexion, 0);
+    EcrireTout(connexion, base);
     connexion.executer("COMMIT");
     std::error_code ec;  // without their file they are worth nothing, and mostly they are not there
     for (const char* annexe : Annexes) fs::remove(fichier.string() + annexe, ec);
@@ -282,20 +282,20 @@ Resultat<Rien> creer(const Base& base, const fs::path& fichier) {
 }
 
 /// Replaces the records of an existing file in one transaction.
-void remplacer(const Base& base, const fs::path& fichier) {
-    Connexion connexion = ouvrir(fichier);
+void Remplacer(const Base& base, const fs::path& fichier) {
+    Connexion connexion = Ouvrir(fichier);
     connexion.executer("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; BEGIN IMMEDIATE");
-    reconnaitre(connexion);
+    Reconnaitre(connexion);
     if (base.AnciensTirages) {
-        ecrireTout(connexion, base);
+        EcrireTout(connexion, base);
     } else {
-        const Base stockee = lireTout(connexion);
-        ecrireTout(connexion, stockee.AnciensTirages ? fusionnerAnciens(stockee, base) : base);
+        const Base stockee = LireTout(connexion);
+        EcrireTout(connexion, stockee.AnciensTirages ? FusionnerAnciens(stockee, base) : base);
     }
     connexion.executer("COMMIT");
 }
 
-Erreur echecSauvegarde(const fs::path& fichier, const char* cause, const char* conseil) {
+Erreur EchecSauvegarde(const fs::path& fichier, const char* cause, const char* conseil) {
     return {fmt::format("La base n'est pas enregistrée dans « {} » ({}) ; {}.", fichier.string(),
                         cause, conseil)};
 }
@@ -304,7 +304,7 @@ Erreur echecSauvegarde(const fs::path& fichier, const char* cause, const char* c
 
 Resultat<Base> LireStockage(const fs::path& fichier) {
     try {
-        return lireFichier(fichier);
+        return LireBaseGardee(fichier);
     } catch (const EchecStockage& echec) {
         return Erreur{fmt::format("La base « {} » ne peut pas être lue : {}.", fichier.string(),
                                   echec.what())};
@@ -317,14 +317,14 @@ BaseChargee ChargerBase(const fs::path& repertoire, bool globale) {
     std::error_code ec;
     if (fs::status(fichier, ec).type() != fs::file_type::not_found) {
         try {
-            Base base = lireFichier(fichier);
-            if (globale && !base.AnciensTirages) base = fusionnerAnciens(BaseIntegree(true), base);
-            if (!globale && base.AnciensTirages) retirerAnciens(base);
+            Base base = LireBaseGardee(fichier);
+            if (globale && !base.AnciensTirages) base = FusionnerAnciens(BaseIntegree(true), base);
+            if (!globale && base.AnciensTirages) RetirerAnciens(base);
             chargee.base = std::move(base);
             chargee.depuisFichier = true;
             return chargee;
         } catch (const EchecStockage& echec) {
-            chargee.avertissement = avertir(fichier, echec);
+            chargee.avertissement = Avertir(fichier, echec);
         }
     }
     chargee.base = BaseIntegree(globale);
@@ -333,24 +333,24 @@ BaseChargee ChargerBase(const fs::path& repertoire, bool globale) {
 
 Resultat<Rien> SauverBase(const Base& base, const fs::path& fichier) {
     if (const std::string defaut = DefautBase(base); !defaut.empty()) {
-        return echecSauvegarde(fichier, defaut.c_str(), "corrigez ce tirage puis recommencez");
+        return EchecSauvegarde(fichier, defaut.c_str(), "corrigez ce tirage puis recommencez");
     }
     try {
         std::error_code ec;
-        if (fs::status(fichier, ec).type() == fs::file_type::not_found) return creer(base, fichier);
+        if (fs::status(fichier, ec).type() == fs::file_type::not_found) return Creer(base, fichier);
         try {
-            remplacer(base, fichier);
+            Remplacer(base, fichier);
             return Rien{};
         } catch (const EchecStockage& echec) {
             if (echec.genre() != Genre::Abime) throw;
-            if (mettreDeCote(fichier).empty()) {
-                return echecSauvegarde(fichier, echec.what(),
+            if (MettreDeCote(fichier).empty()) {
+                return EchecSauvegarde(fichier, echec.what(),
                                        "renommez ce fichier puis recommencez");
             }
         }
-        return creer(base, fichier);
+        return Creer(base, fichier);
     } catch (const EchecStockage& echec) {
-        return echecSauvegarde(fichier, echec.what(),
+        return EchecSauvegarde(fichier, echec.what(),
                                echec.genre() == Genre::TropRecent
                                    ? "mettez Norvane à jour puis recommencez"
                                    : "rétablissez l'accès puis recommencez");

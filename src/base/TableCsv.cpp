@@ -24,7 +24,7 @@ constexpr std::string_view Titre =
 constexpr std::size_t NbChamps = 29;
 
 /// Name of a column, as the heading has it.
-std::string_view nomChamp(std::size_t colonne) {
+std::string_view NomChamp(std::size_t colonne) {
     std::string_view reste = Titre;
     for (; colonne > 0; --colonne) reste.remove_prefix(reste.find(';') + 1);
     return reste.substr(0, reste.find(';'));
@@ -82,7 +82,7 @@ class Lecteur {
         const bool sain = lu.ec == std::errc{} && lu.ptr == champ.data() + champ.size() &&
                           champ.front() >= '0' && champ.front() <= '9';
         if (sain || manque_ || !defaut_.empty()) return;
-        defaut_ = fmt::format("{} contient « {} », il faut {}", nomChamp(colonne_ - 1),
+        defaut_ = fmt::format("{} contient « {} », il faut {}", NomChamp(colonne_ - 1),
                               Citer(champ), attendu);
     }
 
@@ -94,7 +94,7 @@ class Lecteur {
 };
 
 /// Reads one line into the record and its prizes; gives the complaint.
-std::string lireLigne(std::string_view ligne, Tirage& tirage, RapportsTirage& rapports) {
+std::string LireLigne(std::string_view ligne, Tirage& tirage, RapportsTirage& rapports) {
     Lecteur lecteur(ligne);
     tirage.DateTirage = lecteur.entier();
     tirage.SousTirage = lecteur.entier();
@@ -112,7 +112,7 @@ std::string lireLigne(std::string_view ligne, Tirage& tirage, RapportsTirage& ra
 }
 
 /// Takes the next line off `texte`, without its end.
-std::string_view prendreLigne(std::string_view& texte) {
+std::string_view PrendreLigne(std::string_view& texte) {
     const std::size_t fin = std::min(texte.find('\n'), texte.size());
     std::string_view ligne = texte.substr(0, fin);
     texte.remove_prefix(std::min(fin + 1, texte.size()));
@@ -120,14 +120,14 @@ std::string_view prendreLigne(std::string_view& texte) {
     return ligne;
 }
 
-Erreur refus(std::size_t ligne, std::string_view defaut) {
+Erreur Refus(std::size_t ligne, std::string_view defaut) {
     return {
         fmt::format("La table des tirages est refusée à la ligne {} : {} ; corrigez cette "
                     "ligne puis recommencez.",
                     ligne, defaut)};
 }
 
-void ajouterMontant(std::string& texte, double x) {
+void AjouterMontant(std::string& texte, double x) {
     std::array<char, 400> tampon;
     const auto ecrit =
         std::to_chars(tampon.data(), tampon.data() + tampon.size(), x, std::chars_format::fixed);
@@ -139,8 +139,8 @@ void ajouterMontant(std::string& texte, double x) {
 Resultat<Base> LireTableCsv(std::string_view texte) {
     texte = SansMarqueOctets(texte);
     std::size_t numero = 1;
-    if (prendreLigne(texte) != Titre) {
-        return refus(numero, fmt::format("le titre attendu est « {} »", Titre));
+    if (PrendreLigne(texte) != Titre) {
+        return Refus(numero, fmt::format("le titre attendu est « {} »", Titre));
     }
     Base base;
     const auto lignes = static_cast<std::size_t>(std::ranges::count(texte, '\n')) + 1;
@@ -150,13 +150,13 @@ Resultat<Base> LireTableCsv(std::string_view texte) {
         ++numero;
         Tirage tirage{};
         RapportsTirage rapports{};
-        const std::string defaut = lireLigne(prendreLigne(texte), tirage, rapports);
-        if (!defaut.empty()) return refus(numero, defaut);
+        const std::string defaut = LireLigne(PrendreLigne(texte), tirage, rapports);
+        if (!defaut.empty()) return Refus(numero, defaut);
         if (!base.Tirages.empty() && !EstApres(base.Tirages.back(), tirage)) {
-            return refus(numero, "le tirage ne vient pas après celui de la ligne précédente");
+            return Refus(numero, "le tirage ne vient pas après celui de la ligne précédente");
         }
         if (base.Tirages.size() == NbTiragesMax) {
-            return refus(numero, fmt::format("la base est limitée à {} tirages", NbTiragesMax));
+            return Refus(numero, fmt::format("la base est limitée à {} tirages", NbTiragesMax));
         }
         base.Tirages.push_back(tirage);
         base.Rapports.push_back(rapports);
@@ -181,9 +181,9 @@ void EcrireTableCsv(std::ostream& flux, const Base& base, int premier, int derni
         if (t.Joker != JokerAbsent) fmt::format_to(suite, "{:07}", t.Joker);
         for (const Rapport& rapport : base.Rapports[indice]) {
             texte += ';';
-            ajouterMontant(texte, rapport.Gagnants);
+            AjouterMontant(texte, rapport.Gagnants);
             texte += ';';
-            ajouterMontant(texte, rapport.Gain);
+            AjouterMontant(texte, rapport.Gain);
         }
         texte += '\n';
     }

@@ -21,7 +21,7 @@ constexpr std::array<std::string_view, 5> Blancs = {" ", "\t", "\u00A0", "\u202F
 constexpr std::array<std::string_view, 12> Monnaies = {
     "€", "euros", "euro", "Euros", "Euro", "EUR", "eur", "F", "FRF", "$", "£", "CHF"};
 
-bool estChiffre(char c) {
+bool EstChiffre(char c) {
     return c >= '0' && c <= '9';
 }
 
@@ -34,7 +34,7 @@ struct Arrondi {
 
 /// Rounds half away from zero what a person reads, that is the shortest decimal text of the
 /// number: 2.675 becomes 2,68 although the nearest binary value lies a little lower.
-Arrondi arrondir(double x) {
+Arrondi Arrondir(double x) {
     std::array<char, 400> tampon;  // the longest double in fixed notation has 309 digits
     const char* fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), std::fabs(x),
                                     std::chars_format::fixed)
@@ -60,7 +60,7 @@ Arrondi arrondir(double x) {
     return {std::signbit(x) && !nul, chiffres.substr(0, coupe), chiffres.substr(coupe)};
 }
 
-std::string separerMilliers(std::string_view chiffres) {
+std::string SeparerMilliers(std::string_view chiffres) {
     std::string texte;
     for (std::size_t i = 0; i < chiffres.size(); ++i) {
         if (i > 0 && (chiffres.size() - i) % 3 == 0) texte += EspaceMilliers;
@@ -70,19 +70,19 @@ std::string separerMilliers(std::string_view chiffres) {
 }
 
 /// Length of the blank at the start of `texte`, 0 when there is none.
-std::size_t longueurBlanc(std::string_view texte) {
+std::size_t LongueurBlanc(std::string_view texte) {
     for (const std::string_view blanc : Blancs) {
         if (texte.starts_with(blanc)) return blanc.size();
     }
     return 0;
 }
 
-void sauterBlancs(std::string_view& texte) {
-    while (const std::size_t longueur = longueurBlanc(texte)) texte.remove_prefix(longueur);
+void SauterBlancs(std::string_view& texte) {
+    while (const std::size_t longueur = LongueurBlanc(texte)) texte.remove_prefix(longueur);
 }
 
-std::string_view prendreChiffres(std::string_view& texte) {
-    const auto fin = std::ranges::find_if_not(texte, estChiffre);
+std::string_view PrendreChiffres(std::string_view& texte) {
+    const auto fin = std::ranges::find_if_not(texte, EstChiffre);
     const std::string_view chiffres =
         texte.substr(0, static_cast<std::size_t>(fin - texte.begin()));
     texte.remove_prefix(chiffres.size());
@@ -91,14 +91,14 @@ std::string_view prendreChiffres(std::string_view& texte) {
 
 /// The whole part of an amount, its thousands joined: "1 234" gives "1234". Groups behind a
 /// blank have three digits, or the text is no number: nothing.
-std::optional<std::string> prendreEntier(std::string_view& texte) {
-    std::string chiffres(prendreChiffres(texte));
+std::optional<std::string> PrendreEntier(std::string_view& texte) {
+    std::string chiffres(PrendreChiffres(texte));
     const std::size_t premier = chiffres.size();
     for (;;) {
-        const std::size_t blanc = longueurBlanc(texte);
-        if (blanc == 0 || blanc == texte.size() || !estChiffre(texte[blanc])) return chiffres;
+        const std::size_t blanc = LongueurBlanc(texte);
+        if (blanc == 0 || blanc == texte.size() || !EstChiffre(texte[blanc])) return chiffres;
         texte.remove_prefix(blanc);
-        const std::string_view groupe = prendreChiffres(texte);
+        const std::string_view groupe = PrendreChiffres(texte);
         if (groupe.size() != 3 || premier == 0 || premier > 3) return std::nullopt;
         chiffres += groupe;
     }
@@ -109,14 +109,14 @@ std::optional<std::string> prendreEntier(std::string_view& texte) {
 std::string FormaterCompte(std::int64_t n) {
     if (n == 0) return {};
     const std::string texte = std::to_string(n);
-    if (n > 0) return separerMilliers(texte);
-    return '-' + separerMilliers(std::string_view(texte).substr(1));
+    if (n > 0) return SeparerMilliers(texte);
+    return '-' + SeparerMilliers(std::string_view(texte).substr(1));
 }
 
 std::string FormaterMontant(double montant) {
-    const Arrondi arrondi = arrondir(montant);
+    const Arrondi arrondi = Arrondir(montant);
     std::string texte = arrondi.negatif ? "-" : "";
-    return texte.append(separerMilliers(arrondi.entier)).append(1, ',').append(arrondi.decimales);
+    return texte.append(SeparerMilliers(arrondi.entier)).append(1, ',').append(arrondi.decimales);
 }
 
 std::string FormaterMasque(std::int64_t n, int chiffres) {
@@ -129,7 +129,7 @@ std::string FormaterMasque(std::int64_t n, int chiffres) {
 }
 
 std::string FormaterDecimal(double x, int chiffres) {
-    const Arrondi arrondi = arrondir(x);
+    const Arrondi arrondi = Arrondir(x);
     const auto largeur = static_cast<std::size_t>(std::max(chiffres, 1));
     std::string texte = arrondi.negatif ? "-" : "";
     if (arrondi.entier.size() < largeur) texte.append(largeur - arrondi.entier.size(), '0');
@@ -137,23 +137,23 @@ std::string FormaterDecimal(double x, int chiffres) {
 }
 
 std::optional<double> LireMontant(std::string_view texte) {
-    sauterBlancs(texte);
+    SauterBlancs(texte);
     const bool negatif = texte.starts_with('-');
     if (negatif || texte.starts_with('+')) texte.remove_prefix(1);
-    std::optional<std::string> nombre = prendreEntier(texte);
+    std::optional<std::string> nombre = PrendreEntier(texte);
     if (!nombre) return std::nullopt;
     std::string_view decimales;
     if (texte.starts_with(',') || texte.starts_with('.')) {
         texte.remove_prefix(1);
-        decimales = prendreChiffres(texte);
+        decimales = PrendreChiffres(texte);
     }
     if (nombre->empty() && decimales.empty()) return std::nullopt;
-    sauterBlancs(texte);
+    SauterBlancs(texte);
     const auto monnaie = std::ranges::find_if(Monnaies, [&](std::string_view symbole) {
         std::string_view reste = texte;
         if (!reste.starts_with(symbole)) return false;
         reste.remove_prefix(symbole.size());
-        sauterBlancs(reste);
+        SauterBlancs(reste);
         return reste.empty();
     });
     if (!texte.empty() && monnaie == Monnaies.end()) return std::nullopt;
@@ -164,29 +164,6 @@ std::optional<double> LireMontant(std::string_view texte) {
                                     std::chars_format::fixed);
     if (lu.ec != std::errc{}) return std::nullopt;
     return negatif ? -valeur : valeur;
-}
-
-int ComparerAlphanumerique(std::string_view a, std::string_view b) {
-    const auto prendreNombre = [](std::string_view& texte) {
-        std::string_view chiffres = prendreChiffres(texte);
-        chiffres.remove_prefix(std::min(chiffres.find_first_not_of('0'), chiffres.size()));
-        return chiffres;
-    };
-    while (!a.empty() && !b.empty()) {
-        int ordre = 0;
-        if (estChiffre(a.front()) && estChiffre(b.front())) {
-            const std::string_view x = prendreNombre(a);
-            const std::string_view y = prendreNombre(b);
-            // Without leading zeros the longer number is the greater one.
-            ordre = x.size() == y.size() ? x.compare(y) : (x.size() < y.size() ? -1 : 1);
-        } else {
-            ordre = static_cast<unsigned char>(a.front()) - static_cast<unsigned char>(b.front());
-            a.remove_prefix(1);
-            b.remove_prefix(1);
-        }
-        if (ordre != 0) return ordre < 0 ? -1 : 1;
-    }
-    return static_cast<int>(b.empty()) - static_cast<int>(a.empty());
 }
 
 std::string_view Rogner(std::string_view texte) {

@@ -5,11 +5,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
-
-#include "base/Dates.h"
-#include "base/Textes.h"
-#include "stats/TableauStats.h"
+#include <utility>
 
 namespace norvane {
 
@@ -47,19 +43,20 @@ LigneStatsCombinaison FaireLigne(const Base& base, const ListeOccurrences& liste
                                  int sup) {
     const ResultatStats r = StatsIntervalle(liste, inf - 1, sup - 1);
     const auto nbFois = static_cast<int>(liste.size());
-    const double pourcentage = 100.0 * nbFois / (sup - inf + 1);
     const int date = liste.empty() ? 0 : base.Tirages[liste.back()].DateTirage;
+    Cellule ratio = CelluleRatio(nbFois, sup - inf + 1);
+    Cellule ecart = CelluleEntier(r.Ecart);
+    if (date != 0) ecart.cible = NumeroTirage{sup - r.Ecart};
     return {.bons = bons,
             .NbFois = nbFois,
             .date = date,
             .resultat = r,
-            .ratioGraphique = static_cast<int>(std::floor(100 * pourcentage + 0.5)),
-            .cellules = {fmt::to_string(bons), fmt::to_string(nbFois),
-                         FormaterDecimal(pourcentage, 2) + "% ",
-                         date == 0 ? JamaisSorti : DateLongue(date), fmt::to_string(r.Ecart),
-                         CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, sup),
-                         fmt::to_string(r.Suite),
-                         CelluleMaximum(r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, sup)}};
+            .ratioGraphique = static_cast<int>(ratio.cle),
+            .cellules = {CelluleEntier(bons), CelluleEntier(nbFois), std::move(ratio),
+                         CelluleDate(date, JamaisSorti, sup - r.Ecart), std::move(ecart),
+                         CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, inf - 1, sup),
+                         CelluleEntier(r.Suite),
+                         CelluleMaximum(r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, inf - 1, sup)}};
 }
 
 }  // namespace

@@ -4,49 +4,56 @@
 
 #include <fmt/format.h>
 
-#include <charconv>
-#include <cmath>
 #include <string_view>
 
 #include "base/Dates.h"
 #include "base/Textes.h"
+#include "stats/Noyau.h"
 
 namespace norvane {
 
 namespace {
 
+/// What the date of an item that never came out reads, trailing blank included.
+constexpr std::string_view PasEncoreSorti = "Pas encore sorti ";
+
 const Tirage& TirageNumero(const Base& base, int numero) {
     return base.Tirages[static_cast<std::size_t>(numero - 1)];
 }
 
-LigneStats FaireLigne(GenreStats genre, const Base& base, int element, const ResultatStats& r,
-                      int premier, int dernier) {
+/// Zero-based bounds, both inclusive.
+LigneStats FaireLigne(Element element, const Base& base, const ResultatStats& r, int premier,
+                      int dernier) {
     const int n = dernier - premier + 1;
-    const double pourcentage = r.Sorties * 100.0 / n;
     const int dernierTirage = dernier + 1;
+    const int sortie = dernierTirage - r.Ecart;  // the last appearance, when there is one
+    const bool sorti = r.Ecart != n;
+    // Half up, in whole hundredths: the table sorts by what it shows.
+    const std::int64_t ecarts = r.Sorties + 1;
+    const std::int64_t ecartMoyen = (200 * std::int64_t{r.SommeEcarts} + ecarts) / (2 * ecarts);
 
-    LigneStats ligne{.element = element,
-                     .resultat = r,
-                     .ratioGraphique = static_cast<int>(std::trunc(pourcentage * 100 + 0.5)),
-                     .present = false,
-                     .cellules = {}};
-    const auto cellule = [&](ColonneStats colonne) -> std::string& {
+    LigneStats ligne{};
+    const auto cellule = [&](ColonneStats colonne) -> Cellule& {
         return ligne.cellules[static_cast<std::size_t>(colonne)];
     };
-    cellule(ColonneStats::Num) = FormaterMasque(element, genre == GenreStats::Chances ? 2 : 1);
-    cellule(ColonneStats::NbS) = fmt::to_string(r.Sorties);
-    cellule(ColonneStats::Ratio) = FormaterDecimal(pourcentage, 2) + "% ";
+    const int chiffres = element.genre == GenreStats::Chances ? 2 : 1;
+    cellule(ColonneStats::Num) = {FormaterMasque(element.valeur, chiffres), element.valeur, {}};
+    cellule(ColonneStats::NbS) = CelluleEntier(r.Sorties);
+    cellule(ColonneStats::Ratio) = CelluleRatio(r.Sorties, n);
     cellule(ColonneStats::Date) =
-        r.Ecart == n ? std::string(PasEncoreSorti)
-                     : DateLongue(TirageNumero(base, dernierTirage - r.Ecart).DateTirage);
-    cellule(ColonneStats::E) = fmt::to_string(r.Ecart);
-    cellule(ColonneStats::EM) =
-        FormaterDecimal(static_cast<double>(r.SommeEcarts) / (r.Sorties + 1), 1);
+        CelluleDate(sorti ? TirageNumero(base, sortie).DateTirage : 0, PasEncoreSorti, sortie);
+    cellule(ColonneStats::E) = CelluleEntier(r.Ecart);
+    cellule(ColonneStats::EM) = {
+        FormaterDecimal(static_cast<double>(ecartMoyen) / 100, 1), ecartMoyen, {}};
     cellule(ColonneStats::EcartMax) =
-        CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, dernierTirage);
-    cellule(ColonneStats::S) = fmt::to_string(r.Suite);
+        CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, premier, dernierTirage);
+    cellule(ColonneStats::S) = CelluleEntier(r.Suite);
     cellule(ColonneStats::SuiteMax) =
-        CelluleMaximum(r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, dernierTirage);
+        CelluleMaximum(r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, premier, dernierTirage);
+    if (sorti) {
+        cellule(ColonneStats::Num).cible = element;
+        cellule(ColonneStats::E).cible = NumeroTirage{sortie};
+    }
     return ligne;
 }
 
@@ -58,7 +65,7 @@ std::vector<LigneStats> Remplir(GenreStats genre, const Base& base,
     lignes.reserve(N);
     const auto& presences = positions[static_cast<std::size_t>(dernier)];
     for (std::size_t k = 0; k < N; ++k) {
-        lignes.push_back(FaireLigne(genre, base, static_cast<int>(k) + 1,
+        lignes.push_back(FaireLigne({genre, static_cast<int>(k) + 1}, base,
                                     StatsIntervalle(listes[k], premier, dernier), premier,
                                     dernier));
         lignes.back().present = presences[k] >= 0;
@@ -97,35 +104,6 @@ std::vector<LigneStats> RemplirStats(GenreStats genre, const Base& base, const O
     if (genre == GenreStats::Numeros)
         return Remplir(genre, base, occ.ListeNumeros, occ.PositionNumero, premier, dernier);
     return Remplir(genre, base, occ.ListeChances, occ.PositionChance, premier, dernier);
-}
-
-std::string CelluleMaximum(int valeur, int nombre, int position, int dernierTirage) {
-    const int chiffres = dernierTirage < 10     ? 1
-                         : dernierTirage < 100  ? 2
-                         : dernierTirage < 1000 ? 3
-                                                : 4;
-    return fmt::format("{}  ({} {})", FormaterMasque(valeur, 2), FormaterMasque(nombre, 2),
-                       FormaterMasque(position, chiffres));
-}
-
-MaximumLu LireCelluleMaximum(std::string_view cellule) {
-    const auto ouvrante = cellule.find('(');
-    const auto fermante = cellule.find(')', ouvrante == cellule.npos ? 0 : ouvrante);
-    if (ouvrante == cellule.npos || fermante == cellule.npos) return {0, 0};
-    const std::string_view dedans = Rogner(cellule.substr(ouvrante + 1, fermante - ouvrante - 1));
-    const auto blanc = dedans.find(' ');
-    if (blanc == dedans.npos) return {0, 0};
-
-    const auto entier = [](std::string_view texte, int& valeur) {
-        const auto fin = texte.data() + texte.size();
-        const auto [lu, erreur] = std::from_chars(texte.data(), fin, valeur);
-        return erreur == std::errc{} && lu == fin;
-    };
-    MaximumLu lu{};
-    if (!entier(dedans.substr(0, blanc), lu.nombre) ||
-        !entier(Rogner(dedans.substr(blanc)), lu.position))
-        return {0, 0};
-    return lu;
 }
 
 std::string LibelleIntervalle(const Base& base, int inf, int sup) {

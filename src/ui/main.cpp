@@ -4,5 +4,5 @@
 #include "shell/Lancement.h"
 
 int main(int argc, char** argv) {
-    return norvane::ui::Lancer(argc, argv);
+    return norvane::ui::lancer(argc, argv);
 }

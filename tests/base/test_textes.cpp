@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <random>
 #include <sstream>
-#include <vector>
 
 #include "base/Dates.h"
 #include "base/Textes.h"
@@ -38,21 +37,6 @@ TEST(Dates, TextesFrancais) {
     EXPECT_EQ(DateLongue(20231231), "dimanche 31 décembre 2023");
     EXPECT_EQ(DateCourte(20221003), "03/10/2022");
     EXPECT_EQ(DateLongue(20221345), "45/13/2022");
-}
-
-TEST(Dates, OrdreDesTextesEstCeluiDesEntiers) {
-    std::mt19937 alea(3);
-    std::uniform_int_distribution<int> jours(2000, 22000);
-    const auto tirer = [&] { return DateEnEntier(sys_days(days(jours(alea)))); };
-    for (int i = 0; i < 3000; ++i) {
-        const int a = tirer();
-        const int b = i % 10 == 0 ? a : tirer();
-        EXPECT_EQ(ComparerDatesFrancaises("  " + DateLongue(a) + " ", DateLongue(b)),
-                  (a > b) - (a < b));
-    }
-    EXPECT_EQ(ComparerDatesFrancaises(PasEncoreSorti, DateLongue(19760519)), -1);
-    EXPECT_EQ(ComparerDatesFrancaises(DateLongue(19760519), PasEncoreSorti), 1);
-    EXPECT_EQ(ComparerDatesFrancaises(PasEncoreSorti, "Pas encore sorti"), 0);
 }
 
 TEST(Textes, Montants) {
@@ -118,28 +102,6 @@ TEST(Textes, LectureDeMontants) {
     for (std::string texte; std::getline(refus, texte, '|');)
         EXPECT_EQ(LireMontant(texte), std::nullopt) << texte;
     EXPECT_EQ(LireMontant(std::string(400, '9')), std::nullopt);
-}
-
-TEST(Textes, OrdreAlphanumerique) {
-    // In order; entries of one row are equal.
-    const std::vector<std::vector<const char*>> rangs = {{""},
-                                                         {"1", "01"},
-                                                         {"2"},
-                                                         {"2 (01 0045)"},
-                                                         {"10"},
-                                                         {"010 (2)"},
-                                                         {"99999999999999999999"},
-                                                         {"100000000000000000000"},
-                                                         {"a1", "a01"},
-                                                         {"a2"},
-                                                         {"a10"},
-                                                         {"b"},
-                                                         {"é"}};
-    for (std::size_t i = 0; i < rangs.size(); ++i)
-        for (std::size_t j = 0; j < rangs.size(); ++j)
-            for (const char* a : rangs[i])
-                for (const char* b : rangs[j])
-                    EXPECT_EQ(ComparerAlphanumerique(a, b), (i > j) - (i < j)) << a << " / " << b;
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ TEST_F(Cli, Base) {
               "Premier\t19760519\nDernier\t20240724\n");
 }
 
-TEST_F(Cli, StoredBaseIsTheDefaultAndIsLeftAlone) {
+TEST_F(Cli, LaBaseGardeeVautEtResteEnLEtat) {
     ASSERT_TRUE(SauverBase(QuatreTirages(), dossier / "norvane.db"));
     const auto avant = Contenu(dossier);
     EXPECT_EQ(lancer("tirages").out, avant.at("quatre.csv"));
@@ -88,7 +88,7 @@ TEST_F(Cli, StoredBaseIsTheDefaultAndIsLeftAlone) {
     EXPECT_EQ(Contenu(dossier), abimee);
 }
 
-TEST_F(Cli, DrawsAreTheTableByteForByte) {
+TEST_F(Cli, LesTiragesSontLaTableOctetPourOctet) {
     const std::string table = lire(NORVANE_DATA "/tirages.csv");
     EXPECT_TRUE(lancer("--globale tirages").out == table);
     EXPECT_TRUE(lancer("--base " NORVANE_DATA "/tirages.csv --de=4859 tirages").out ==
@@ -97,7 +97,7 @@ TEST_F(Cli, DrawsAreTheTableByteForByte) {
               Lignes(table, 0, 0) + Lignes(table, 17, 17));
 }
 
-TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
+TEST_F(Cli, StatistiquesDeLaBaseGlobaleParDefinition) {
     const Base base = BaseIntegree(true);
     const auto attendu = [&](int nombre, auto presencesDe, int de, int a) {
         std::string texte =
@@ -119,7 +119,7 @@ TEST_F(Cli, StatisticsOfTheGlobalBaseAgainstTheDefinitions) {
     }
 }
 
-TEST_F(Cli, PrizeRulesAndRandomTickets) {
+TEST_F(Cli, ReglesDeGainEtGrillesAuHasard) {
     const std::pair<const char*, const char*> cas[] = {
         {"regles mise 6 2", "26.4\n"},
         {"regles mise 6 2 --2nd", "31.2\n"},
@@ -144,7 +144,7 @@ TEST_F(Cli, PrizeRulesAndRandomTickets) {
     EXPECT_EQ(lancer(Args{"aleatoire", "05 + 01C", "10000"}).statut, StatutRefus);
 }
 
-TEST_F(Cli, ReportsOnTickets) {
+TEST_F(Cli, RapportsSurLesGrilles) {
     std::ostringstream csv;
     EcrireTableCsv(csv, SeptTirages(), 0, 6);
     poser(dossier / "sept.csv", csv.str());
@@ -181,7 +181,7 @@ TEST_F(Cli, ReportsOnTickets) {
     EXPECT_EQ(lancer(base + "--de 5 --a 5 bilan une.grl").out, Attendu("bilan-second-dollar"));
 }
 
-TEST_F(Cli, Refused) {
+TEST_F(Cli, Refus) {
     poser(dossier / "nonsens.csv", "a;b;c\n1;2;3\n");
     poser(dossier / "base.txt", "");
     const std::pair<const char*, const char*> cas[] = {
@@ -204,7 +204,7 @@ TEST_F(Cli, Refused) {
     for (const auto& [ligne, dit] : cas) refuse(std::string(ligne), dit);
 }
 
-TEST_F(Cli, BadUsage) {
+TEST_F(Cli, MauvaisUsage) {
     struct {
         const char *ligne, *raison, *usage;
     } const cas[] = {
@@ -238,7 +238,7 @@ TEST_F(Cli, BadUsage) {
     }
 }
 
-TEST_F(Cli, HelpAtEveryLevelAndVersion) {
+TEST_F(Cli, AideATousLesNiveauxEtVersion) {
     EXPECT_EQ(
         lancer("--help").out,
         "Les calculs de Norvane en ligne de commande, sur la base des tirages du Loto.\n"
@@ -285,7 +285,7 @@ TEST_F(Cli, HelpAtEveryLevelAndVersion) {
     }
 }
 
-TEST_F(Cli, OutputThatFails) {
+TEST_F(Cli, SortieQuiEchoue) {
     std::ostringstream out, err;
     out.setstate(std::ios::badbit);
     const Args args = {"base"};
@@ -293,7 +293,7 @@ TEST_F(Cli, OutputThatFails) {
     EXPECT_EQ(err.str(), "Les résultats n'ont pas pu être écrits sur la sortie standard.\n");
 }
 
-TEST_F(Cli, WholeOutputsOfTheCombinationCommands) {
+TEST_F(Cli, SortiesEntieresDesCommandesDeCombinaisons) {
     const struct {
         Args args;
         const char* out;
@@ -335,7 +335,7 @@ TEST_F(Cli, WholeOutputsOfTheCombinationCommands) {
     }
 }
 
-TEST_F(Cli, CombinationsRefused) {
+TEST_F(Cli, CombinaisonsRefusees) {
     const std::pair<Args, const char*> cas[] = {
         {{"comb", "extremes", "1"}, "de 2 à 10 numéros, pas 1"},
         {{"comb", "extremes", "11"}, "de 2 à 10 numéros, pas 11"},
@@ -357,7 +357,7 @@ TEST_F(Cli, CombinationsRefused) {
     for (const auto& [args, dit] : cas) refuse(args, dit);
 }
 
-TEST_F(Cli, ExtremesOfTheShippedBase) {
+TEST_F(Cli, ExtremesDeLaBaseLivree) {
     EXPECT_EQ(lancer("comb extremes 2").out, "2\t12\t51\t2\n03 13  (51)\n05 31  (12)\n");
     EXPECT_EQ(lancer("--globale comb extremes 4").out,
               "4\t0\t5\t2\n01 08 33 39  (05)\n18 30 45 46  (05)\n");

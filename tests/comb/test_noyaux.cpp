@@ -144,9 +144,11 @@ TEST(StatsCombinaison, EachRankByTheDefinition) {
     const auto lignes = StatsCombinaison(quatre.base, quatre.occ, trois, 1, 4);
     const std::array<std::string, 8> troisBons = {
         "3", "2", "50,00% ", "mercredi 5 octobre 2022", "0", "02  (01 3)", "2", "02  (01 4)"};
-    EXPECT_EQ(lignes[0].cellules, troisBons);
+    std::array<std::string, 8> textes;
+    std::ranges::transform(lignes[0].cellules, textes.begin(), &Cellule::texte);
+    EXPECT_EQ(textes, troisBons);
     EXPECT_EQ(lignes[0].ratioGraphique, 5000);
-    EXPECT_EQ(lignes[2].cellules[3], "Jamais sorti ");
+    EXPECT_EQ(lignes[2].cellules[3].texte, "Jamais sorti ");
     EXPECT_EQ(LibelleCombinaison(trois), "Combinaison à 3 numéros: 07 20 33");
 }
 

@@ -34,7 +34,7 @@ void Comparer(const ListeOccurrences& liste, const Presences& presences, int f, 
               (StatsBreves{attendu.Ecart, attendu.EcartMax, attendu.Suite, attendu.SuiteMax}));
 }
 
-TEST(Noyau, EveryPatternOfPresencesOnEveryInterval) {
+TEST(Noyau, ToutesLesPresencesSurToutIntervalle) {
     constexpr int NbMax = 11;
     for (int n = 1; n <= NbMax; ++n)
         for (int motif = 0; motif < 1 << n; ++motif) {
@@ -55,7 +55,7 @@ TEST(Noyau, EveryPatternOfPresencesOnEveryInterval) {
 
 class NoyauBaseIntegree : public testing::TestWithParam<bool> {};
 
-TEST_P(NoyauBaseIntegree, AllItemsOnRandomIntervals) {
+TEST_P(NoyauBaseIntegree, ToutElementSurDesIntervallesAuHasard) {
     const Base base = BaseIntegree(GetParam());
     Occurrences occ;
     ConstruireOccurrences(base, occ);
@@ -84,7 +84,7 @@ TEST_P(NoyauBaseIntegree, AllItemsOnRandomIntervals) {
 INSTANTIATE_TEST_SUITE_P(Bases, NoyauBaseIntegree, testing::Bool());
 
 // Worked by hand, so that the oracle itself stands on something.
-TEST(Noyau, KnownResults) {
+TEST(Noyau, ResultatsConnus) {
     const ListeOccurrences liste = {2, 3, 7, 9, 10};  // ..11...1.11.
     EXPECT_EQ(StatsIntervalle(liste, 0, 11), (ResultatStats{5, 1, 3, 1, 8, 0, 2, 2, 11, 1, 2, 7}));
     EXPECT_EQ(StatsIntervalle(liste, 0, 9), (ResultatStats{4, 0, 3, 1, 8, 1, 2, 1, 4, 1, 1, 6}));
@@ -120,7 +120,7 @@ void VerifierTout(const Base& base, const Occurrences& occ, Plage plageChances) 
                    occ.SortiesIntervalle, occ.ListeIntervalle, PresencesNumero);
 }
 
-TEST(Occurrences, BuiltKeptAndRebuiltWithTheBase) {
+TEST(Occurrences, ConstruitesGardeesEtRefaites) {
     std::mt19937 hasard(7);
     for (int n = 1; n <= 12; ++n) {
         SCOPED_TRACE(n);
@@ -140,7 +140,7 @@ TEST(Occurrences, BuiltKeptAndRebuiltWithTheBase) {
 }
 
 // The old records carry a Chance here, as no real one does, to tell the ranges apart.
-TEST(Occurrences, ChancesOfTheOldRecordsFollowTheFlag) {
+TEST(Occurrences, LesChancesAnciennesSuiventLeDrapeau) {
     std::mt19937 hasard(11);
     Base base = BaseAleatoire(hasard, 40, 49);
     base.NbAnciensTirages = 25;

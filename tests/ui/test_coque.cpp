@@ -3,9 +3,12 @@
 //
 // The main form: pages, modes, busy rule, hints, help, and every way of closing.
 
+#include <algorithm>
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
@@ -14,9 +17,13 @@
 
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
+#include "common/Mode.h"
+#include "common/Theme.h"
 #include "shell/Aide.h"
 #include "soutien/Banc.h"
 #include "widgets/EtiquetteMode.h"
+#include "widgets/PlancheNumeros.h"
+#include "widgets/VueTableau.h"
 
 using namespace norvane::ui::essais;
 
@@ -26,7 +33,7 @@ const std::string NeufLignesNeutres = QByteArray("0 0 1\n").repeated(9).toStdStr
 
 }  // namespace
 
-class TestCoque : public QObject {
+class TestCoque final : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:
@@ -67,52 +74,130 @@ class TestCoque : public QObject {
     }
 
     void modesEtClignotement() {
-        Modes m;
-        m.ModeMiseAJour = true;
-        QCOMPARE(libelleMode(m), u"Mode Normal"_s);
-        m.ModeNormal = false;
-        QCOMPARE(libelleMode(m), u"Mode Mise à jour"_s);
-        m.AjoutEnfonce = true;
-        QCOMPARE(libelleMode(m), u"Mode Ajout Libre"_s);
-        m.ModeMiseAJour = false;
-        QCOMPARE(libelleMode(m), u"Mode Sélection"_s);
-        m.ModeConsultation = m.ModeNormal = true;
-        QCOMPARE(libelleMode(m), u"Mode Consultation"_s);
+        Banc banc;
+        const auto libelle = [&banc] { return libelleMode(modeEnCours(banc.atelier)); };
+        QCOMPARE(libelle(), u"Mode Normal"_s);
+        banc.atelier.edition = Edition::MiseAJour;
+        QCOMPARE(libelle(), u"Mode Mise à jour"_s);
+        banc.atelier.edition = Edition::AjoutLibre;
+        QCOMPARE(libelle(), u"Mode Ajout Libre"_s);
+        banc.atelier.edition = Edition::Aucune;
+        banc.atelier.saisie.commencer(false);
+        QCOMPARE(libelle(), u"Mode Sélection"_s);
+        banc.atelier.saisie.arreter();
+        banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
+        QVERIFY(!banc.atelier.saisie.consulter());
+        QCOMPARE(libelle(), u"Mode Consultation"_s);
 
         EtiquetteMode etiquette;
-        QCOMPARE(etiquette.Timer2.interval(), 500);
-        etiquette.Timer2.setInterval(1);
+        auto* clignotement = etiquette.findChild<QTimer*>(u"Timer2"_s);
+        QCOMPARE(clignotement->interval(), 500);
+        clignotement->setInterval(1);
         etiquette.montrer(u"Mode Sélection"_s);
-        QSignalSpy ticks(&etiquette.Timer2, &QTimer::timeout);
+        QSignalSpy ticks(clignotement, &QTimer::timeout);
         for (int i = 0; i < 3; ++i) QVERIFY(ticks.wait());
         etiquette.montrer(u"Mode Normal"_s);  // a new transition counts from 0 again
         ticks.clear();
-        QTRY_VERIFY(!etiquette.Timer2.isActive());
+        QTRY_VERIFY(!clignotement->isActive());
         QCOMPARE(ticks.count(), 5);
         QVERIFY(!etiquette.alerte());
     }
 
     void regleDOccupation() {
         FormeOuverte f;
-        f.banc.atelier.TraitementsEnCours = 1;
-        QVERIFY(f.forme->contexte().refuserSiOccupe());
+        Activite& activite = f.banc.atelier.activite;
+        activite.TraitementsEnCours = 1;
+        f.de("BitBtnWithColor7")->click();
         QCOMPARE(f.posees.last().instruction, u"Attendez la fin du traitement en cours..."_s);
         QCOMPARE(f.posees.last().titre, u"Message"_s);
+        // An operation on the main thread keeps the window open as well.
+        activite = {};
+        activite.Disponible = false;
+        f.forme->close();
+        QVERIFY(activite.QuitterEnAttente && f.forme->isVisible() && f.posees.size() == 1);
+    }
 
-        // Closing during work: no question, then the close goes on at its end.
-        QSignalSpy arret(f.forme.get(), &TVaroMainForm::arretDemande);
-        f.forme->close();
-        QVERIFY(f.forme->isVisible() && f.banc.atelier.QuitterEnAttente);
-        QVERIFY(arret.count() == 1 && f.posees.size() == 1);
-        f.banc.scripts.messages->reponses = {CodeBouton2};
-        f.forme->finTraitement();  // refused: the wish is forgotten
-        QVERIFY(f.forme->isVisible() && !f.banc.atelier.QuitterEnAttente);
-        f.banc.atelier.Disponible = false;
-        f.forme->close();
-        QVERIFY(f.banc.atelier.QuitterEnAttente && f.forme->isVisible());
-        f.banc.atelier.Disponible = true;
-        f.forme->finTraitement();
-        QVERIFY(!f.forme->isVisible());
+    /// A double click on "Numéros" and "Chances" leads to the draw, with the item pressed.
+    void versUnTirage() {
+        FormeOuverte f;
+        auto* onglets = f.de<QTabWidget>("PageControl1");
+        for (const char* nom : {"AdvStringGrid1", "AdvStringGrid4"}) {
+            auto* table = f.de<VueTableau>(nom);
+            onglets->setCurrentIndex(table->objectName().endsWith(u'1') ? 1 : 2);
+            const QModelIndex date = table->model()->index(6, 4);
+            Q_EMIT table->celluleActivee(date);
+            QCOMPARE(onglets->currentIndex(), 0);
+            const auto tirage = std::get<NumeroTirage>(*table->modele().cellule(date).cible);
+            QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), QString::number(tirage.numero));
+            const int place = onglets->widget(1)->isAncestorOf(table) ? 7 : NumeroMax + 7;
+            auto* planche = f.de<PlancheNumeros>("Panel1");
+            QVERIFY(planche->bouton(place - 1)->enfonce());
+        }
+    }
+
+    /// Every place that one can be sent to brings its page to front.
+    void destinations() {
+        FormeOuverte f;
+        auto* onglets = f.de<QTabWidget>("PageControl1");
+        auto* relais = f.forme->findChild<Relais*>();
+        relais->aller(VersHistorique{Element{GenreStats::Chances, 3}, 20, 300});
+        QCOMPARE(onglets->currentWidget()->objectName(), u"Varo6"_s);
+        QCOMPARE(onglets->currentWidget()->findChild<QLabel*>(u"Detail"_s)->text(),
+                 u"Historique demandé : chance 3, tirages 20 à 300."_s);
+        relais->aller(VersTirage{1234, {}});
+        QCOMPARE(onglets->currentIndex(), 0);
+        QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), u"1234"_s);
+        const auto* planche = f.de<PlancheNumeros>("Panel1");
+        for (int place = 0; place < NbBoutons; ++place) QVERIFY(!planche->bouton(place)->enfonce());
+    }
+
+    void apparenceSauvee() {
+        FormeOuverte f;
+        QSignalSpy changements(f.forme->findChild<Relais*>(), &Relais::change);
+        for (const char* cle : {"sombre", "claire"}) {
+            const auto action = "Apparence_" + QByteArray(cle);
+            f.de<QAction>(action)->trigger();
+            QCOMPARE(estSombre(QApplication::palette()), QByteArray(cle) == "sombre");
+            QCOMPARE(changements.takeLast().at(0).value<Changement>(),
+                     (Changement{.reglages = true}));
+            Atelier relu(f.banc.atelier.Repertoire);
+            QCOMPARE(relu.configuration.reglages.Apparence, cle);
+            TVaroMainForm suivante(relu, f.banc.services);
+            QVERIFY(suivante.findChild<QAction*>(QString::fromLatin1(action))->isChecked());
+        }
+        QVERIFY(f.posees.isEmpty());
+        std::filesystem::remove(f.banc.chemin(NomConfiguration));
+        std::filesystem::create_directory(f.banc.chemin(NomConfiguration));
+        f.de<QAction>("Apparence_auto")->trigger();
+        QCOMPARE(f.posees.size(), 1);
+        QCOMPARE(f.posees.last().instruction, u"L'apparence choisie ne sera pas gardée."_s);
+    }
+
+    /// The real message box: what is asked, and the code of each way to answer.
+    void boiteDeMessage() {
+        MessagesEcran messages;
+        const auto repondre = [&messages](auto geste) {
+            QTimer::singleShot(0, qApp, [geste] {
+                auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (boite == nullptr) qFatal("no message box");
+                geste(*boite);
+            });
+            return messages.QuestionOuiNonAnnuler(u"instruction"_s, u"titre"_s, u"détail"_s);
+        };
+        const QStringList boutons{u"Oui"_s, u"Non"_s, u"Annuler"_s};
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(repondre([texte = boutons.at(i)](QMessageBox& boite) {
+                         const QString textes = boite.text() + boite.informativeText();
+                         QCOMPARE(textes, u"instructiondétail"_s);
+                         QCOMPARE(boite.icon(), QMessageBox::Question);
+                         QCOMPARE(boite.defaultButton()->text(), u"Oui"_s);
+                         for (auto* bouton : boite.buttons())
+                             if (bouton->text() == texte) bouton->click();
+                     }),
+                     CodeBouton1 + i);
+        }
+        QCOMPARE(repondre([](QMessageBox& boite) { QTest::keyClick(&boite, Qt::Key_Escape); }),
+                 CodeFerme);
     }
 
     void fermetureNormale() {
@@ -127,9 +212,7 @@ class TestCoque : public QObject {
         QCOMPARE(d.detail, u"Faites votre choix"_s);
         QCOMPARE(d.boutons.at(d.defaut), u"Non, je souhaite continuer à travailler"_s);
 
-        const int dix[] = {3, 14, 25, 31, 44};
-        const int une[] = {7};
-        f.banc.atelier.ListeChoix = {FaireGrille(dix, une, false)};
+        f.banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
         f.forme->close();
         QVERIFY(!f.forme->isVisible());
         QCOMPARE(f.banc.lire("Grilles&Reçus/Grlbak.grl"),
@@ -143,9 +226,7 @@ class TestCoque : public QObject {
 
     void fermetureApresAjout() {
         FormeOuverte f;
-        f.forme->modes.ModeNormal = false;
-        f.forme->modes.ModeMiseAJour = true;
-        f.forme->modes.AjoutEnfonce = true;
+        f.banc.atelier.edition = Edition::AjoutLibre;
         f.banc.ecrire(NomCombCalc, "3214 1 70\n");
         f.banc.scripts.messages->reponses = {CodeBouton2};
         f.forme->close();
@@ -191,8 +272,8 @@ class TestCoque : public QObject {
         QFETCH(int, chemin);
         FormeOuverte f;
         f.banc.atelier.FiltreActif = true;
-        f.forme->modes.ModeNormal = chemin == 0;
-        f.forme->modes.ModeMiseAJour = f.forme->modes.AjoutEnfonce = chemin == 1;
+        if (chemin == 1) f.banc.atelier.edition = Edition::AjoutLibre;
+        if (chemin == 2) f.de("SelectGrilles")->click();
         f.banc.ecrire(NomCombCalc, "filtré");
         f.banc.ecrire("Combcalc.~in", "3214 1 70\n");
         for (int n = 2; n <= 6; ++n) {
@@ -250,12 +331,13 @@ class TestCoque : public QObject {
         QStatusTipEvent indice(bouton.statusTip());
         QCoreApplication::sendEvent(f.forme.get(), &indice);
         QCOMPARE(panneau->text(), u"long"_s);
-        // Progress text of work in progress keeps its place.
-        f.banc.atelier.TraitementsEnCours = 1;
-        Q_EMIT f.de<Page>("Varo2")->texteEtat(u"Recherche en cours"_s);
+        // The text of work in progress keeps its place.
+        auto* relais = f.forme->findChild<Relais*>();
+        f.banc.atelier.activite.TraitementsEnCours = 1;
+        relais->dire(u"Recherche en cours"_s);
         QCoreApplication::sendEvent(f.forme.get(), &indice);
         QCOMPARE(panneau->text(), u"Recherche en cours"_s);
-        f.forme->finTraitement();
+        relais->dire({});
         QCoreApplication::sendEvent(f.forme.get(), &indice);
         QCOMPARE(panneau->text(), u"long"_s);
     }

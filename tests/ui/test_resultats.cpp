@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <QCalendarWidget>
 #include <QTest>
 
 #include "soutien/EssaiResultats.h"
@@ -35,7 +36,7 @@ class Peintures final : public QObject {
 
 }  // namespace
 
-class TestResultats final : public QObject {
+class TestResultats final : public EssaisQt {
     Q_OBJECT
 
  private Q_SLOTS:
@@ -82,7 +83,7 @@ class TestResultats final : public QObject {
         QCOMPARE(e.date()->date(), date);
         QCOMPARE(e.selecteur()->currentIndex(), selecteurApres);
         const int yyyymmdd = date.toString(u"yyyyMMdd"_s).toInt();
-        QCOMPARE(e.banc.modes.AucunTirageChoisi, !existe);
+
         int avant = -1;  // the last record older than the date, or the one to be shown
         for (int i = 0; i < e.base().NbTirages; ++i) {
             const Tirage& t = e.record(i);
@@ -109,13 +110,13 @@ class TestResultats final : public QObject {
         };
         const int double1999 = premierDe(19991110);
         QVERIFY(double1999 >= 0);
-        e.page->montrerTirage(double1999 + 1);
+        e.montrer(double1999 + 1);
         e.selecteur()->setCurrentIndex(1);  // the old game had 2nd draws too
         QCOMPARE(ecartAvec(e, double1999 + 1), QString());
         e.selecteur()->setCurrentIndex(0);
         QCOMPARE(ecartAvec(e, double1999), QString());
         const int simple = premierDe(20160120);  // a date with one draw only
-        e.page->montrerTirage(simple + 1);
+        e.montrer(simple + 1);
         e.selecteur()->setCurrentIndex(1);
         QCOMPARE(ecartAvec(e, simple), QString());
 
@@ -123,8 +124,8 @@ class TestResultats final : public QObject {
         std::erase_if(e.banc.atelier.base.Tirages,
                       [](const Tirage& t) { return t.SousTirage == 1 || t.DateTirage < 20191104; });
         e.banc.atelier.base.NbTirages = static_cast<int>(e.base().Tirages.size());
-        e.banc.atelier.recalculer();
-        e.page->surBaseChangee();
+        e.banc.recalculer();
+        e.page->surChange({.base = true});
         QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
         e.numero()->setText(u"99999"_s);
         QCOMPARE(ecartAvec(e, e.base().NbTirages - 1), QString());
@@ -146,6 +147,9 @@ class TestResultats final : public QObject {
         QCOMPARE(ecartAvec(e, n - 1), QString());
         edit->clear();  // an empty text does nothing
         QCOMPARE(e.texte(u"LabelTirageFixeAn"_s), u"2024"_s);
+        QTest::keyClick(edit, Qt::Key_Return);  // and the number comes back when it is left so
+        QCOMPARE(ecartAvec(e, n - 1), QString());
+        edit->clear();
         QTest::keyClicks(edit, u"a1b2-"_s);
         QCOMPARE(ecartAvec(e, 11), QString());
         const struct {
@@ -171,7 +175,7 @@ class TestResultats final : public QObject {
         QVERIFY(communs->font().bold());
         int chances = 0;
         for (int i = 0; i < e.base().NbTirages; i += i < 5400 ? 37 : 1) {
-            e.page->montrerTirage(i + 1);
+            e.montrer(i + 1);
             std::set<int> avant;
             if (i > 0) avant = boutonsDe(e.record(i - 1));
             for (int k = 0; k < NbBoules; ++k)
@@ -183,12 +187,25 @@ class TestResultats final : public QObject {
             if (commune) ++chances;
         }
         QVERIFY(chances > 0);
-        e.page->montrerTirage(1);
+        e.montrer(1);
         for (int k = 0; k < NbBoules; ++k)
             QCOMPARE(bande->cellule(k)->teinteTexte(),
                      e.page->palette().color(QPalette::WindowText));
         communs->click();
         QVERIFY(!communs->font().bold());
+    }
+
+    void calendrier() {
+        Essai e(false);
+        const auto* jours = e.date()->calendarWidget();
+        e.montrer(1);
+        e.date()->calendarWidget()->setCurrentPage(2024, 7);
+        for (int jour = 1; jour <= 31; ++jour) {
+            const QDate date(2024, 7, jour);
+            const bool tirage =
+                TirageParDate(e.base().Tirages, 20240700 + jour, e.base().NbTirages).indice >= 0;
+            QCOMPARE(jours->dateTextFormat(date).fontWeight() == QFont::Bold, tirage);
+        }
     }
 
     void eclairageIncremental() {
@@ -202,7 +219,7 @@ class TestResultats final : public QObject {
             QTest::qWait(1);
             const std::set<int> avant = e.allumes();
             peintures.comptes.clear();
-            e.page->montrerTirage(indice + 1);
+            e.montrer(indice + 1);
             QTest::qWait(20);
             const std::set<int> apres = e.allumes();
             std::set<int> attendus;
@@ -220,7 +237,7 @@ class TestResultats final : public QObject {
     void indices() {
         Essai e(true);
         for (int numero = 2; numero <= e.base().NbTirages; numero += 331) {
-            e.page->montrerTirage(numero);
+            e.montrer(numero);
             std::array<bool, NbBoutons> allumes{};
             for (const int b : boutonsDe(e.record(numero - 1)))
                 allumes[static_cast<std::size_t>(b - 1)] = true;
@@ -239,7 +256,7 @@ class TestResultats final : public QObject {
         auto& r = e.banc.atelier.base.Rapports[static_cast<std::size_t>(e.base().NbTirages - 1)];
         r[0] = {0, 0};
         r[1] = {1234, 56789.5};
-        e.page->montrerTirage(e.base().NbTirages);
+        e.page->surChange({.reglages = true});
         QCOMPARE(table->rowCount(), 4);
         const QString fine(QChar(0xA0));
         QCOMPARE(table->item(0, 1)->text(), u"0"_s);

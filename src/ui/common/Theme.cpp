@@ -150,6 +150,11 @@ void chargerRessources() {
     initRessources();
 }
 
+Apparence apparenceDe(const std::string& cle) {
+    if (cle == "claire") return Apparence::Claire;
+    return cle == "sombre" ? Apparence::Sombre : Apparence::Auto;
+}
+
 bool estSombre(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;
 }

@@ -3,8 +3,10 @@
 
 #include "common/Travaux.h"
 
+#include <algorithm>
 #include <QLabel>
 #include <QProgressBar>
+#include <stdexcept>
 #include <system_error>
 
 #include "base/Textes.h"
@@ -26,9 +28,9 @@ Travaux::~Travaux() {
     travail_.reset();  // while this can still be told of its end
 }
 
-bool Travaux::lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+bool Travaux::lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                      std::function<void(Travail&)> fin) {
-    Q_ASSERT(!travail_);
+    if (travail_) throw std::logic_error("Travaux::lancer while a work runs");
     travail->surFin = [this] {
         QMetaObject::invokeMethod(this, &Travaux::finir, Qt::QueuedConnection);
     };
@@ -48,14 +50,10 @@ bool Travaux::lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
     temps_ = vue.temps;
     pour_ = pour;
     fin_ = std::move(fin);
-    if (jauge_) {
-        jauge_->setRange(0, travail_->progres.total());
-        jauge_->setValue(0);
-    }
+    suivre();
     if (temps_) temps_->clear();
     rythme_.start();
     Q_EMIT texteEtat(vue.texte);
-    Q_EMIT commence(travail_->description);
     return true;
 }
 
@@ -64,7 +62,11 @@ void Travaux::arreter() {
 }
 
 void Travaux::suivre() {
-    if (travail_ && jauge_) jauge_->setValue(travail_->progres.fait());
+    if (!travail_ || !jauge_) return;
+    // A work may learn its length on the way.
+    const int total = travail_->progres.total();
+    jauge_->setRange(0, total);
+    jauge_->setValue(std::min(travail_->progres.fait(), total));
 }
 
 void Travaux::finir() {

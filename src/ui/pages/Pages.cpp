@@ -58,6 +58,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
 
 std::vector<Page*> creerPages(Contexte& contexte, QWidget* parent) {
     std::vector<Page*> pages;
+    pages.reserve(Fabriques.size());
     for (const Fabrique creer : Fabriques) pages.push_back(creer(contexte, parent));
     return pages;
 }

@@ -10,16 +10,16 @@ namespace norvane::ui {
 using namespace Qt::StringLiterals;
 
 Aide::Aide(Contexte& ctx, QObject* parent) : QObject(parent), contexte_(ctx) {
-    Timer4.setObjectName(u"Timer4"_s);
-    Timer4.setParent(this);
-    Timer4.setInterval(1000);
-    connect(&Timer4, &QTimer::timeout, this, &Aide::battre);
+    garde_.setObjectName(u"Timer4"_s);
+    garde_.setParent(this);
+    garde_.setInterval(1000);
+    connect(&garde_, &QTimer::timeout, this, &Aide::battre);
 }
 
 void Aide::ouvrir() {
-    if (Timer4.isActive()) return;
+    if (garde_.isActive()) return;
     battements_ = 0;
-    Timer4.start();
+    garde_.start();
     const auto fichier = contexte_.atelier.fichier(Fichier);
     std::error_code absent;
     if (!std::filesystem::is_regular_file(fichier, absent) ||
@@ -31,7 +31,7 @@ void Aide::ouvrir() {
 
 void Aide::battre() {
     if (++battements_ < 10) return;
-    Timer4.stop();
+    garde_.stop();
     Q_EMIT gardeLevee();
 }
 

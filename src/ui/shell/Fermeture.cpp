@@ -3,6 +3,7 @@
 
 #include "shell/Fermeture.h"
 
+#include "common/Mode.h"
 #include "tickets/FichiersGrilles.h"
 
 namespace norvane::ui {
@@ -17,14 +18,17 @@ bool Fermeture::demander() {
         return false;
     }
     if (atelier.base.NbTirages == 0) return true;
-    const Modes& modes = contexte_.modes;
     bool ferme = false;
-    if (!modes.ModeNormal && !modes.ModeConsultation && modes.ModeMiseAJour && modes.AjoutEnfonce) {
-        ferme = atelier.Relance || fermerApresAjout();
-    } else if (modes.ModeNormal) {
-        ferme = fermerModeNormal();
-    } else {
-        ferme = fermerSelection();
+    switch (modeEnCours(atelier)) {
+        case Mode::AjoutLibre:
+            ferme = atelier.Relance || fermerApresAjout();
+            break;
+        case Mode::Normal:
+        case Mode::Consultation:
+            ferme = fermerModeNormal();
+            break;
+        default:
+            ferme = fermerSelection();
     }
     if (!ferme) atelier.activite.QuitterEnAttente = false;
     return ferme;
@@ -45,30 +49,23 @@ bool Fermeture::fermerApresAjout() {
 }
 
 bool Fermeture::fermerModeNormal() {
-    Atelier& atelier = contexte_.atelier;
-    if (!atelier.Relance && contexte_.services.messages->QuestionQuitter(
-                                u"Souhaitez vous quitter l'application ?"_s, u"Confirmation"_s,
-                                u"Faites votre choix"_s) != CodeBouton1) {
+    if (!contexte_.atelier.Relance &&
+        contexte_.services.messages->QuestionQuitter(u"Souhaitez vous quitter l'application ?"_s,
+                                                     u"Confirmation"_s,
+                                                     u"Faites votre choix"_s) != CodeBouton1) {
         return false;
     }
-    const auto& grilles = atelier.ListeChoix.empty() ? atelier.ListeGrilles : atelier.ListeChoix;
-    return sauverGrilles(grilles) && sauverBase() && restaurerFiltre();
+    return sauverGrilles() && sauverBase() && restaurerFiltre();
 }
 
 bool Fermeture::fermerSelection() {
-    Atelier& atelier = contexte_.atelier;
-    if (contexte_.services.messages->MessageAnnuler(u"Abandonner la sélection en cours ?"_s,
-                                                    u"Confirmation"_s) != CodeBouton1) {
-        return false;
-    }
-    // The place in hand counts, whatever becomes of it.
-    const bool enCours = atelier.ListeGrilles.size() > 1 || atelier.ListeChoix.empty();
-    if (contexte_.modes.ModeSelection) rangerGrilleEnMain();
-    return sauverGrilles(enCours ? atelier.ListeGrilles : atelier.ListeChoix) && sauverBase() &&
-           restaurerFiltre();
+    return contexte_.services.messages->MessageAnnuler(u"Abandonner la sélection en cours ?"_s,
+                                                       u"Confirmation"_s) == CodeBouton1 &&
+           sauverGrilles() && sauverBase() && restaurerFiltre();
 }
 
-bool Fermeture::sauverGrilles(const std::vector<Grille>& grilles) {
+bool Fermeture::sauverGrilles() {
+    const auto grilles = contexte_.atelier.saisie.grillesSecours();
     if (grilles.empty()) return true;
     const auto ecrit = SauverGrillesSecours(grilles, contexte_.atelier.Repertoire);
     return ecrit || quitterMalgre(versQt(ecrit.erreur()));

@@ -50,7 +50,7 @@ void franciser(QApplication& app) {
 
 }  // namespace
 
-int Lancer(int argc, char** argv, const std::function<void()>& premierePeinture) {
+int lancer(int argc, char** argv, const std::function<void()>& premierePeinture) {
     Instance instance{NomInstance};
     if (!instance.seule()) return 0;
     std::error_code perdu;

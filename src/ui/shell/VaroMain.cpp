@@ -17,10 +17,12 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "common/Mode.h"
 #include "common/Theme.h"
 #include "dialogs/AboutBox.h"
 #include "pages/Pages.h"
 #include "shell/Aide.h"
+#include "stats/TableauStats.h"
 #include "widgets/EtiquetteMode.h"
 
 namespace norvane::ui {
@@ -28,8 +30,9 @@ namespace norvane::ui {
 using namespace Qt::StringLiterals;
 
 TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* instance)
-    : travaux_(atelier.activite),
-      contexte_{atelier, services, modes, travaux_, relais_},
+    : relais_(this),
+      travaux_(atelier.activite, this),
+      contexte_{atelier, services, travaux_, relais_},
       instance_(instance),
       fermeture_(contexte_) {
     setObjectName(u"TVaroMainForm"_s);
@@ -154,7 +157,7 @@ void TVaroMainForm::changerPage(int place) {
 }
 
 void TVaroMainForm::changerMode() {
-    mode_->montrer(libelleMode(modes));
+    mode_->montrer(libelleMode(modeEnCours(contexte_.atelier)));
 }
 
 void TVaroMainForm::diffuser(const Changement& changement) {
@@ -176,8 +179,12 @@ void TVaroMainForm::reprendreRepos() {
 }
 
 void TVaroMainForm::RecalculBase() {
-    contexte_.atelier.recalculer();
+    const auto recalcule = contexte_.atelier.recalculer();
     relais_.annoncer({.base = true, .intervalle = true, .listes = true});
+    if (!recalcule) {
+        contexte_.services.messages->MessageAvertissement(versQt(recalcule.erreur()),
+                                                          u"Avertissement"_s);
+    }
 }
 
 void TVaroMainForm::dire(const QString& texte) {

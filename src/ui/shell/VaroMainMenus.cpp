@@ -24,22 +24,14 @@ namespace {
 struct ChoixApparence {
     const char16_t* cle;
     const char16_t* texte;
-    Apparence apparence;
 };
 constexpr std::array<ChoixApparence, 3> Apparences = {{
-    {u"auto", u"Comme le &bureau", Apparence::Auto},
-    {u"claire", u"&Claire", Apparence::Claire},
-    {u"sombre", u"&Sombre", Apparence::Sombre},
+    {u"auto", u"Comme le &bureau"},
+    {u"claire", u"&Claire"},
+    {u"sombre", u"&Sombre"},
 }};
 
 }  // namespace
-
-Apparence apparenceDe(const std::string& cle) {
-    for (const auto& choix : Apparences) {
-        if (versQt(cle) == QString::fromUtf16(choix.cle)) return choix.apparence;
-    }
-    return Apparence::Auto;
-}
 
 void TVaroMainForm::creerMenus() {
     auto* fichier = menuBar()->addMenu(u"&Fichier"_s);

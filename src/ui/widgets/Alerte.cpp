@@ -25,9 +25,11 @@ Alerte::Alerte(QWidget* fenetre) : QWidget(fenetre) {
     setObjectName(u"Alerte"_s);
     setFocusPolicy(Qt::NoFocus);
     setToolTip(u"Cliquez pour fermer"_s);
-    Duree.setSingleShot(true);
-    Duree.setInterval(DureeMs);
-    connect(&Duree, &QTimer::timeout, this, &QWidget::hide);
+    duree_.setObjectName(u"Duree"_s);
+    duree_.setParent(this);
+    duree_.setSingleShot(true);
+    duree_.setInterval(DureeMs);
+    connect(&duree_, &QTimer::timeout, this, &QWidget::hide);
     fenetre->installEventFilter(this);
     hide();
 }
@@ -54,7 +56,7 @@ void Alerte::montrer(const QString& titre, const QString& texte) {
     raise();
     show();
     update();
-    Duree.start();
+    duree_.start();
     QAccessibleEvent annonce(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&annonce);
 }
@@ -74,7 +76,7 @@ bool Alerte::eventFilter(QObject* objet, QEvent* evenement) {
 
 void Alerte::mousePressEvent(QMouseEvent* evenement) {
     evenement->accept();
-    Duree.stop();
+    duree_.stop();
     hide();
 }
 

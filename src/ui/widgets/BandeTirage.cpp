@@ -55,8 +55,8 @@ class ImageChance final : public QWidget {
 
 }  // namespace
 
-CelluleTirage::CelluleTirage(QColor cercle, const QString& nom, QWidget* parent)
-    : QLabel(parent), cercle_(cercle), nom_(nom), chance_(cercle == QColor(CouleurChanceAllumee)) {
+CelluleTirage::CelluleTirage(GenreStats genre, const QString& nom, QWidget* parent)
+    : QLabel(parent), genre_(genre), nom_(nom) {
     setAlignment(Qt::AlignCenter);
     montrer(0, false);
 }
@@ -71,7 +71,7 @@ void CelluleTirage::montrer(int valeur, bool commune) {
 
 QColor CelluleTirage::teinteTexte() const {
     const Teintes t = teintes(palette());
-    if (commune_) return chance_ ? t.chanceCommune : t.numeroCommun;
+    if (commune_) return genre_ == GenreStats::Numeros ? t.numeroCommun : t.chanceCommune;
     return palette().color(QPalette::Active, QPalette::WindowText);
 }
 
@@ -89,7 +89,9 @@ void CelluleTirage::paintEvent(QPaintEvent*) {
     boule.setColorAt(0, sombre ? QColor(0x4A, 0x53, 0x66) : QColor(0xFF, 0xFF, 0xFF));
     boule.setColorAt(1, sombre ? QColor(0x2A, 0x30, 0x3D) : QColor(0xDD, 0xE2, 0xEC));
     p.setBrush(vide ? QBrush(Qt::NoBrush) : QBrush(boule));
-    p.setPen(QPen(vide ? teintes(palette()).bordure : cercle_, trait));
+    const QColor cercle =
+        QColor::fromRgb(genre_ == GenreStats::Numeros ? CouleurNumeroAllume : CouleurChanceAllumee);
+    p.setPen(QPen(vide ? teintes(palette()).bordure : cercle, trait));
     p.drawRoundedRect(aire, rayon, rayon);
     QFont fonte = font();
     fonte.setPixelSize(std::max(12, static_cast<int>(height() * 0.44)));
@@ -102,9 +104,9 @@ void CelluleTirage::paintEvent(QPaintEvent*) {
 BandeTirage::BandeTirage(double echelle, QWidget* parent) : QWidget(parent), echelle_(echelle) {
     for (int i = 0; i < NbBoules; ++i) {
         cellules_[static_cast<std::size_t>(i)] =
-            new CelluleTirage(QColor(CouleurNumeroAllume), u"Boule %1"_s.arg(i + 1), this);
+            new CelluleTirage(GenreStats::Numeros, u"Boule %1"_s.arg(i + 1), this);
     }
-    cellules_[NbBoules] = new CelluleTirage(QColor(CouleurChanceAllumee), u"Chance"_s, this);
+    cellules_[NbBoules] = new CelluleTirage(GenreStats::Chances, u"Chance"_s, this);
     for (std::size_t i = 0; i < cellules_.size(); ++i) {
         cellules_[i]->setObjectName(u"Label%1"_s.arg(i + 1));
     }
@@ -119,7 +121,6 @@ BandeTirage::BandeTirage(double echelle, QWidget* parent) : QWidget(parent), ech
 }
 
 void BandeTirage::disposer(bool avecChance) {
-    avecChance_ = avecChance;
     const auto px = [this](int longueur) { return qRound(longueur * echelle_); };
     const auto& gauches = avecChance ? GauchesEtroites : GauchesLarges;
     const int largeur = px(avecChance ? LargeurEtroite : LargeurLarge);
@@ -131,11 +132,13 @@ void BandeTirage::disposer(bool avecChance) {
     image_->setVisible(avecChance);
 }
 
-void BandeTirage::afficher(const Tirage& tirage, const Communs& communs) {
+void BandeTirage::afficher(const Tirage& tirage, const Cases& communs) {
     for (std::size_t i = 0; i < NbBoules; ++i) {
-        cellules_[i]->montrer(tirage.Numeros[i], communs[i]);
+        const int numero = tirage.Numeros[i];
+        cellules_[i]->montrer(numero, communs.contient(GenreStats::Numeros, numero));
     }
-    cellules_[NbBoules]->montrer(tirage.Chance, communs[NbBoules]);
+    const bool commune = tirage.Chance != 0 && communs.contient(GenreStats::Chances, tirage.Chance);
+    cellules_[NbBoules]->montrer(tirage.Chance, commune);
 }
 
 void BandeTirage::vider() {

@@ -7,7 +7,6 @@
 #include <QPixmap>
 #include <QRadialGradient>
 
-#include "base/Dates.h"
 #include "base/Textes.h"
 #include "widgets/VueTableau.h"
 
@@ -29,7 +28,6 @@ ColonneTableau chiffres(const QString& entete, const QString& sens, double large
     c.entete = entete;
     c.indice = sens + FinIndice;
     c.largeur = largeur;
-    c.comparer = ComparerAlphanumerique;
     c.alignement = Qt::AlignRight;
     c.etalon = etalon;
     return c;
@@ -40,23 +38,14 @@ ColonneTableau date() {
     c.entete = u"Date"_s;
     c.indice = u"Date de plus récente apparition"_s + FinIndice;
     c.largeur = LargeurDate;
-    c.comparer = ComparerDatesFrancaises;
     c.alignement = Qt::AlignLeft;
     c.adaptable = false;
     return c;
 }
 
-/// A rank that never came out stands before every date.
-int ComparerDatesRang(std::string_view a, std::string_view b) {
-    const auto lisible = [](std::string_view texte) {
-        return Rogner(texte) == "Jamais sorti" ? PasEncoreSorti : texte;
-    };
-    return ComparerDatesFrancaises(lisible(a), lisible(b));
-}
-
 }  // namespace
 
-std::vector<ColonneTableau> ColonnesStats(GenreStats genre) {
+std::vector<ColonneTableau> colonnesStats(GenreStats genre) {
     const bool numeros = genre == GenreStats::Numeros;
     ColonneTableau pos;
     pos.entete = u"Pos"_s;
@@ -73,7 +62,7 @@ std::vector<ColonneTableau> ColonnesStats(GenreStats genre) {
     num.alignement = Qt::AlignHCenter;
     num.police = PoliceElement;
     num.gras = true;
-    if (!numeros) num.image = ImageChance();
+    if (!numeros) num.image = imageChance();
 
     ColonneTableau ratio = chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s);
     ColonneTableau ecartMax = chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s);
@@ -90,25 +79,11 @@ std::vector<ColonneTableau> ColonnesStats(GenreStats genre) {
             suiteMax};
 }
 
-std::vector<ColonneTableau> ColonnesCouples() {
-    ColonneTableau couples = chiffres(u"Couples"_s, u"Couples"_s, 60, u"00 00"_s);
-    couples.comparer = nullptr;  // the first column is never a sort key
-    return {couples,
-            chiffres(u"Sorties"_s, u"Nombre de Sorties"_s, 48, u"000"_s),
-            chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s),
-            date(),
-            chiffres(u"Ecart"_s, u"Écart"_s, 40, u"0000"_s),
-            chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
-            chiffres(u"Suite"_s, u"Suite"_s, 36, u"00"_s),
-            chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s)};
-}
-
-std::vector<ColonneTableau> ColonnesCombinaison() {
+std::vector<ColonneTableau> colonnesCombinaison() {
     ColonneTableau sortis = chiffres(u"Sortis"_s, u"Nombre de bons numéros"_s, 40, u"0"_s);
     sortis.gras = true;
     ColonneTableau quand = date();
     quand.largeur = 100;
-    quand.comparer = ComparerDatesRang;
     quand.adaptable = true;
     quand.etalon = u"mercredi 30 septembre 2026"_s;
     return {sortis,
@@ -121,27 +96,19 @@ std::vector<ColonneTableau> ColonnesCombinaison() {
             chiffres(u"Suitemax"_s, u"Suite Max"_s, 70, u"0000  (00 0000)"_s)};
 }
 
-CelluleTableau CelluleRatio(const std::string& precis, int graphique, bool barre) {
-    CelluleTableau cellule;
-    cellule.brut = graphique;
-    cellule.barre = barre;
-    cellule.texte = barre ? std::to_string(graphique) : precis;
-    cellule.accessible = QString::fromStdString(precis);
+CelluleTableau celluleRatio(const Cellule& ratio, bool barre) {
+    CelluleTableau cellule{ratio, {}, -1, {}};
+    if (barre) cellule.barre = static_cast<int>(ratio.cle);
     return cellule;
 }
 
-ContenuBulle BulleRatio(const VueTableau& table, const QModelIndex& index, int colonneRatio) {
-    if (index.column() != colonneRatio || !table.modele().cellule(index).barre) return {};
-    const int valeur = table.modele().cellule(index).brut.toInt();
-    return {u"Ratio Précis"_s, QString::fromStdString(FormaterDecimal(valeur * 0.01, 1)) + u"% "_s};
+ContenuBulle bulleRatio(const VueTableau& table, const QModelIndex& index) {
+    const auto& barre = table.modele().cellule(index).barre;
+    if (!barre) return {};
+    return {u"Ratio Précis"_s, QString::fromStdString(FormaterDecimal(*barre * 0.01, 1)) + u"% "_s};
 }
 
-int TirageMaximum(std::string_view cellule, int inf) {
-    const MaximumLu lu = LireCelluleMaximum(cellule);
-    return lu.nombre != 0 && lu.position != inf - 1 ? lu.position : 0;
-}
-
-std::vector<DegradeCellule> DegradesStats(GenreStats genre) {
+std::vector<DegradeCellule> degradesStats(GenreStats genre) {
     const DegradeCellule absent{QColor(0x4D, 0xA6, 0xFF), QColor(0xDF, 0xEF, 0xFF), Qt::black};
     const DegradeCellule present =
         genre == GenreStats::Numeros
@@ -150,7 +117,7 @@ std::vector<DegradeCellule> DegradesStats(GenreStats genre) {
     return {absent, present};
 }
 
-QIcon ImageChance() {
+QIcon imageChance() {
     QIcon icone;
     for (const int cote : {16, 24, 32, 48, 64, 96}) {
         QPixmap image(cote, cote);

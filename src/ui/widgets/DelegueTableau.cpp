@@ -47,7 +47,7 @@ void DelegueTableau::paint(QPainter* peintre, const QStyleOptionViewItem& option
         p.fillRect(option.rect, fond);
     }
     if (cellule.barre) {
-        peindreBarre(p, option.rect, cellule.brut.toInt(), palette);
+        peindreBarre(p, option.rect, *cellule.barre, palette);
     } else {
         p.setPen(encre);
         p.setFont(index.data(Qt::FontRole).value<QFont>());

@@ -16,10 +16,10 @@ EtiquetteMode::EtiquetteMode(QWidget* parent) : QLabel(parent) {
     setAlignment(Qt::AlignCenter);
     setMinimumSize(fontMetrics().horizontalAdvance(u"Mode Consultation"_s) + 8 * Unite,
                    fontMetrics().height() + 2 * Unite);
-    Timer2.setObjectName(u"Timer2"_s);
-    Timer2.setParent(this);
-    Timer2.setInterval(500);
-    connect(&Timer2, &QTimer::timeout, this, &EtiquetteMode::battre);
+    clignotement_.setObjectName(u"Timer2"_s);
+    clignotement_.setParent(this);
+    clignotement_.setInterval(500);
+    connect(&clignotement_, &QTimer::timeout, this, &EtiquetteMode::battre);
 }
 
 void EtiquetteMode::montrer(const QString& mode) {
@@ -27,14 +27,14 @@ void EtiquetteMode::montrer(const QString& mode) {
     setAccessibleName(mode);
     battements_ = 0;
     alerte_ = false;
-    Timer2.start();
+    clignotement_.start();
     update();
 }
 
 void EtiquetteMode::battre() {
     alerte_ = !alerte_;
     if (++battements_ == 5) {
-        Timer2.stop();
+        clignotement_.stop();
         alerte_ = false;
     }
     update();

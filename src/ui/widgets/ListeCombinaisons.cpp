@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 
+#include "comb/LigneCombinaison.h"
 #include "common/Theme.h"
 
 namespace norvane::ui {
@@ -23,26 +24,11 @@ constexpr int Cadre = 3;          // pen of the selected line, in pixels
 ModeleCombinaisons::ModeleCombinaisons(const EtatCombinaisons& etat, QObject* parent)
     : QAbstractListModel(parent), etat_(etat) {}
 
-void ModeleCombinaisons::montrer(const std::vector<std::string>* lignes, const Arene* liste) {
+void ModeleCombinaisons::montrer(const Liste* liste) {
     beginResetModel();
-    lignes_ = lignes;
     liste_ = liste;
-    const std::size_t nombre =
-        lignes != nullptr ? lignes->size() : (liste != nullptr ? liste->nombre() : 0);
-    nombre_ = static_cast<int>(std::min(nombre, CapaciteListe));
+    nombre_ = liste == nullptr ? 0 : static_cast<int>(std::min(liste->nombre(), CapaciteListe));
     endResetModel();
-}
-
-void ModeleCombinaisons::montrerRien() {
-    montrer(nullptr, nullptr);
-}
-
-void ModeleCombinaisons::montrerLignes(const std::vector<std::string>& lignes) {
-    montrer(&lignes, nullptr);
-}
-
-void ModeleCombinaisons::montrerListe(const Arene& liste) {
-    montrer(nullptr, &liste);
 }
 
 void ModeleCombinaisons::poserCouleurs(bool couleurs) {
@@ -50,12 +36,11 @@ void ModeleCombinaisons::poserCouleurs(bool couleurs) {
     if (nombre_ > 0) Q_EMIT dataChanged(index(0), index(nombre_ - 1), {RoleBorne});
 }
 
-std::string ModeleCombinaisons::texte(int ligne) const {
+std::optional<Combinaison> ModeleCombinaisons::combinaison(int ligne) const {
     // The owner may have changed its list since the last showing.
     const auto i = static_cast<std::size_t>(ligne);
-    if (lignes_ != nullptr) return i < lignes_->size() ? (*lignes_)[i] : std::string();
-    if (liste_ == nullptr || i >= liste_->nombre()) return {};
-    return LigneEnregistrement((*liste_)[i], liste_->disposition);
+    if (liste_ == nullptr || i >= liste_->nombre()) return std::nullopt;
+    return liste_->combinaison(i);
 }
 
 int ModeleCombinaisons::rowCount(const QModelIndex& parent) const {
@@ -64,22 +49,18 @@ int ModeleCombinaisons::rowCount(const QModelIndex& parent) const {
 
 QVariant ModeleCombinaisons::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    switch (role) {
-        case Qt::DisplayRole:
-            return QString::fromStdString(texte(index.row()));
-        case RoleBorne:
-            return static_cast<int>(couleurs_ ? borne(texte(index.row())) : BorneLigne::Aucune);
-        default:
-            return {};
-    }
+    if (role != Qt::DisplayRole && role != RoleBorne) return {};
+    const auto ligne = combinaison(index.row());
+    if (!ligne) return {};
+    if (role == RoleBorne) return static_cast<int>(borne(*ligne));
+    return QString::fromStdString(LigneCombinaison(*ligne));
 }
 
-BorneLigne ModeleCombinaisons::borne(const std::string& ligne) const {
-    const auto lue = LireLigneCombinaison(ligne);
-    if (!lue || lue->marque) return BorneLigne::Aucune;
-    const std::size_t n = lue->numeros.size();
-    if (lue->nbFois == etat_.BorneSup[n]) return BorneLigne::Sup;
-    return lue->nbFois == etat_.BorneInf[n] ? BorneLigne::Inf : BorneLigne::Aucune;
+BorneLigne ModeleCombinaisons::borne(const Combinaison& combinaison) const {
+    if (!couleurs_ || combinaison.marque) return BorneLigne::Aucune;
+    const auto n = static_cast<std::size_t>(combinaison.numeros.taille());
+    if (combinaison.NbFois == etat_.BorneSup[n]) return BorneLigne::Sup;
+    return combinaison.NbFois == etat_.BorneInf[n] ? BorneLigne::Inf : BorneLigne::Aucune;
 }
 
 // --------------------------------------------------------------------------------------- delegate

@@ -11,6 +11,13 @@ namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
 
+LigneTableau ligneTableau(std::span<const Cellule> cellules) {
+    LigneTableau ligne;
+    ligne.reserve(cellules.size());
+    for (const Cellule& cellule : cellules) ligne.push_back({cellule, {}, -1, {}});
+    return ligne;
+}
+
 ModeleTableau::ModeleTableau(std::vector<ColonneTableau> colonnes, QObject* parent)
     : QAbstractTableModel(parent), colonnes_(std::move(colonnes)), polices_(colonnes_.size()) {}
 
@@ -42,7 +49,7 @@ void ModeleTableau::remplir(std::vector<LigneTableau> lignes) {
 }
 
 void ModeleTableau::cliquer(int c, bool secondaire) {
-    if (c < 0 || c >= columnCount() || !triable(c)) return;
+    if (c < 0 || c >= columnCount() || colonne(c).position) return;
     std::vector<CleTri> cles = cles_;
     const auto place =
         std::find_if(cles.begin(), cles.end(), [c](const CleTri& cle) { return cle.colonne == c; });
@@ -66,9 +73,9 @@ void ModeleTableau::trier(std::vector<CleTri> cles) {
     std::stable_sort(ordre_.begin(), ordre_.end(), [this](int a, int b) {
         for (const CleTri& cle : cles_) {
             const auto c = static_cast<std::size_t>(cle.colonne);
-            const int r = colonnes_[c].comparer(lignes_[static_cast<std::size_t>(a)][c].texte,
-                                                lignes_[static_cast<std::size_t>(b)][c].texte);
-            if (r != 0) return cle.croissant ? r < 0 : r > 0;
+            const std::int64_t x = lignes_[static_cast<std::size_t>(a)][c].cle;
+            const std::int64_t y = lignes_[static_cast<std::size_t>(b)][c].cle;
+            if (x != y) return cle.croissant ? x < y : x > y;
         }
         return false;
     });
@@ -97,8 +104,8 @@ QString ModeleTableau::marque(int c) const {
 }
 
 const CelluleTableau& ModeleTableau::cellule(const QModelIndex& index) const {
-    return lignes_[static_cast<std::size_t>(origine(index.row()))]
-                  [static_cast<std::size_t>(index.column())];
+    const int ligne = ordre_[static_cast<std::size_t>(index.row())];
+    return lignes_[static_cast<std::size_t>(ligne)][static_cast<std::size_t>(index.column())];
 }
 
 std::string ModeleTableau::texte(const QModelIndex& index) const {
@@ -120,14 +127,12 @@ QVariant ModeleTableau::data(const QModelIndex& index, int role) const {
     const auto teinte = static_cast<std::size_t>(c.degrade);
     switch (role) {
         case Qt::DisplayRole:
-            return QString::fromStdString(texte(index));
-        case RoleBrut:
-            return colonne(index.column()).position ? QVariant(index.row() + 1) : c.brut;
+            return c.barre ? QString::number(*c.barre) : QString::fromStdString(texte(index));
         case Qt::ToolTipRole:
         case Qt::StatusTipRole:
             return c.indice.isEmpty() ? QVariant() : c.indice;
         case Qt::AccessibleTextRole:
-            return c.accessible.isEmpty() ? QString::fromStdString(texte(index)) : c.accessible;
+            return QString::fromStdString(texte(index));
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(colonne(index.column()).alignement | Qt::AlignVCenter);
         case Qt::FontRole:

@@ -47,14 +47,6 @@ PaireIntervalle::PaireIntervalle(const QString& nomInf, const QString& nomSup,
     });
 }
 
-int PaireIntervalle::inf() const {
-    return inf_->value();
-}
-
-int PaireIntervalle::sup() const {
-    return sup_->value();
-}
-
 void PaireIntervalle::poser(int nbTirages, int inf, int sup) {
     const int maximum = std::max(1, nbTirages);
     inf_->poser(1, maximum, inf);

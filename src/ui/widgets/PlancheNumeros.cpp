@@ -38,29 +38,6 @@ std::size_t rang(int place) {
     return static_cast<std::size_t>(place);
 }
 
-/// Walks two ascending lists (zeros left out) and calls `eteindre` on what is in the old one only,
-/// `allumer` on what is in the new one only.
-template <typename Eteindre, typename Allumer>
-void fusionner(std::span<const int> avant, std::span<const int> apres, Eteindre eteindre,
-               Allumer allumer) {
-    std::size_t i = 0;
-    std::size_t j = 0;
-    while (i < avant.size() || j < apres.size()) {
-        if (i < avant.size() && avant[i] == 0) {
-            ++i;
-        } else if (j < apres.size() && apres[j] == 0) {
-            ++j;
-        } else if (j == apres.size() || (i < avant.size() && avant[i] < apres[j])) {
-            eteindre(avant[i++]);
-        } else if (i == avant.size() || apres[j] < avant[i]) {
-            allumer(apres[j++]);
-        } else {
-            ++i;
-            ++j;
-        }
-    }
-}
-
 }  // namespace
 
 PlancheNumeros::PlancheNumeros(QWidget* parent) : QFrame(parent) {
@@ -73,7 +50,8 @@ PlancheNumeros::PlancheNumeros(QWidget* parent) : QFrame(parent) {
                                     numero ? place + 1 : place - NumeroMax + 1, this);
         b->setObjectName(u"Button%1"_s.arg(place + 1));
         b->installEventFilter(this);
-        connect(b, &QAbstractButton::clicked, this, [this, place] { Q_EMIT appui(place); });
+        connect(b, &QAbstractButton::clicked, this,
+                [this, b] { Q_EMIT appui(b->genre(), b->valeur()); });
         connect(b, &BoutonPlanche::fleche, this,
                 [this, place](int dx, int dy) { naviguer(place, dx, dy); });
         boutons_[rang(place)] = b;
@@ -81,53 +59,23 @@ PlancheNumeros::PlancheNumeros(QWidget* parent) : QFrame(parent) {
     boutons_[0]->setFocusPolicy(Qt::StrongFocus);
 }
 
-void PlancheNumeros::eclairer(const Eclairage& tirage) {
-    const auto traiter = [this, &tirage](GenreStats genre, std::size_t debut, std::size_t nombre) {
-        fusionner(
-            std::span(affiche_).subspan(debut, nombre), std::span(tirage).subspan(debut, nombre),
-            [this, genre](int valeur) { changer(placeDe(genre, valeur), false); },
-            [this, genre](int valeur) { changer(placeDe(genre, valeur), true); });
-    };
-    traiter(GenreStats::Numeros, 0, NbBoules);
-    traiter(GenreStats::Chances, NbBoules, 1);
-    affiche_ = tirage;
+void PlancheNumeros::eclairer(const Cases& allumees) {
+    changer(TirageAffiche_, allumees, &BoutonPlanche::setAllume);
 }
 
-void PlancheNumeros::changer(int place, bool allume) {
-    bouton(place)->setAllume(allume);
-    if (!allume) tenir(place, durable_[rang(place)] != 0, false);
+void PlancheNumeros::tenir(const Cases& enfoncees) {
+    changer(EtatBouton_, enfoncees, &BoutonPlanche::setEnfonce);
 }
 
-std::array<bool, NbBoutons> PlancheNumeros::allumes() const {
-    std::array<bool, NbBoutons> resultat;
-    std::ranges::transform(boutons_, resultat.begin(),
-                           [](const BoutonPlanche* b) { return b->allume(); });
-    return resultat;
-}
-
-void PlancheNumeros::tenir(int place, bool enfonce, bool durable) {
-    if (durable) durable_[rang(place)] = enfonce;
-    if ((etat_[rang(place)] != 0) == enfonce) return;
-    etat_[rang(place)] = enfonce;
-    if (enfonce) {
-        ordre_.push_back(place);
-    } else {
-        std::erase(ordre_, place);
+void PlancheNumeros::changer(Cases& montrees, const Cases& voulues,
+                             void (BoutonPlanche::*poser)(bool)) {
+    const Cases differentes = montrees.ecart(voulues);
+    for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances}) {
+        for (const int valeur : differentes.de(genre)) {
+            (bouton(placeDe(genre, valeur))->*poser)(voulues.contient(genre, valeur));
+        }
     }
-    bouton(place)->setEnfonce(enfonce);
-    Q_EMIT etatChange();
-}
-
-void PlancheNumeros::relacher() {
-    for (int place = 0; place < NbBoutons; ++place) tenir(place, false, true);
-}
-
-std::vector<int> PlancheNumeros::tenus(GenreStats genre) const {
-    std::vector<int> resultat;
-    for (const int place : ordre_) {
-        if (bouton(place)->genre() == genre) resultat.push_back(bouton(place)->valeur());
-    }
-    return resultat;
+    montrees = voulues;
 }
 
 void PlancheNumeros::poserIndices(const std::array<std::string, NbBoutons>& indices) {

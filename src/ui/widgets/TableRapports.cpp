@@ -120,10 +120,11 @@ void TableRapports::vider() {
         item(rang, Gagnants)->setText({});
         poser(rang, Montants, {}, {}, {});
     }
-    setFacteurs({});
 }
 
 void TableRapports::setFacteurs(const Facteurs& facteurs) {
+    if (facteurs == facteurs_) return;
+    facteurs_ = facteurs;
     for (int rang = 0; rang < rowCount(); ++rang) {
         const int facteur = facteurs[static_cast<std::size_t>(rang)];
         QString texte, court, longue;

@@ -250,7 +250,7 @@ void VueTableau::ouvrirMenuTri(int colonne, const QPoint& place) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto ajouter = [&](const QString& texte, const QString& touche, bool secondaire) {
         auto* action = menu->addAction(texte + u'\t' + touche);
-        action->setEnabled(c.comparer != nullptr);
+        action->setEnabled(!c.position);
         connect(action, &QAction::triggered, modele_,
                 [this, colonne, secondaire] { modele_->cliquer(colonne, secondaire); });
     };

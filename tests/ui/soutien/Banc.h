@@ -18,6 +18,7 @@
 #include "common/Contexte.h"
 #include "common/Services.h"
 #include "shell/VaroMain.h"
+#include "soutien/EssaisQt.h"
 
 namespace norvane::ui::essais {
 
@@ -126,15 +127,17 @@ struct Banc {
     Atelier atelier{std::filesystem::path(dossier.path().toStdString())};
     Services services;
     Scripts scripts = Scripts::dans(services);
-    Modes modes;
     Relais relais;
     Travaux travaux{atelier.activite};
-    Contexte contexte{atelier, services, modes, travaux, relais, 1.28, 1.7075};
+    Contexte contexte{atelier, services, travaux, relais, 1.28, 1.7075};
 
     explicit Banc(const Base* base = nullptr) {
         if (base == nullptr) return;
         atelier.base = *base;
-        atelier.recalculer();
+        recalculer();
+    }
+    void recalculer() {
+        if (const auto fait = atelier.recalculer(); !fait) qFatal("%s", fait.erreur().c_str());
     }
     std::filesystem::path chemin(const std::string& nom) const { return atelier.Repertoire / nom; }
     bool existe(const std::string& nom) const { return std::filesystem::exists(chemin(nom)); }
@@ -154,7 +157,10 @@ struct FormeOuverte {
         std::make_unique<TVaroMainForm>(banc.atelier, banc.services);
     const QList<DemandeMessage>& posees = banc.scripts.messages->posees;
 
-    explicit FormeOuverte(const Base* base = nullptr) : banc(base) { forme->montrer(); }
+    explicit FormeOuverte(const Base* base = nullptr) : banc(base) {
+        eprouverModeles(*forme);
+        forme->montrer();
+    }
     template <typename T = QAbstractButton>
     T* de(const char* nom, int numero = 0) const {
         T* trouve = forme->findChild<T*>(QString::asprintf(nom, numero));

@@ -15,6 +15,7 @@
 #include <set>
 
 #include "base/BaseIntegree.h"
+#include "common/Mode.h"
 #include "resultats/PageResultats.h"
 #include "soutien/Banc.h"
 #include "widgets/PlancheNumeros.h"
@@ -28,8 +29,10 @@ struct Essai {
 
     explicit Essai(bool globale) {
         banc.atelier.base = BaseIntegree(globale);
-        banc.atelier.recalculer();
+        banc.recalculer();
         page = std::make_unique<PageResultats>(banc.contexte);
+        // As the form does.
+        QObject::connect(&banc.relais, &Relais::change, page.get(), &Page::surChange);
         page->resize(1366, 660);
         page->premierAffichage();
     }
@@ -46,6 +49,9 @@ struct Essai {
     QLineEdit* numero() const { return de<QLineEdit>(u"EditTirGlob"_s); }
     QDateEdit* date() const { return de<QDateEdit>(u"DateTimePicker"_s); }
     QComboBox* selecteur() const { return de<QComboBox>(u"ComboBox3"_s); }
+    void montrer(int numeroTirage) const { numero()->setText(QString::number(numeroTirage)); }
+    Mode mode() const { return modeEnCours(banc.atelier); }
+    Billets& billets() { return banc.atelier.billets; }
     PlancheNumeros* planche() const { return de<PlancheNumeros>(u"Panel1"_s); }
     /// Arrow 0 (up) or 1 (down) of a pair.
     void fleche(const QString& paire, int laquelle) const {
@@ -55,16 +61,12 @@ struct Essai {
         for (const int b : boutons) de(u"Button%1"_s.arg(b))->click();
     }
     /// Numbers of the buttons (1..59) in a state.
-    std::set<int> allumes() const {
+    std::set<int> allumes() const { return boutons(&BoutonPlanche::allume); }
+    std::set<int> tenus() const { return boutons(&BoutonPlanche::enfonce); }
+    std::set<int> boutons(bool (BoutonPlanche::*etat)() const) const {
         std::set<int> s;
         for (int k = 0; k < NbBoutons; ++k)
-            if (planche()->bouton(k)->fond() != QColor(0xDF, 0xDF, 0xDF)) s.insert(k + 1);
-        return s;
-    }
-    std::set<int> tenus() const {
-        std::set<int> s;
-        for (int k = 0; k < NbBoutons; ++k)
-            if (planche()->EtatBouton()[static_cast<std::size_t>(k)] != 0) s.insert(k + 1);
+            if ((planche()->bouton(k)->*etat)()) s.insert(k + 1);
         return s;
     }
     bool montre(const QString& nom) const { return !de<QWidget>(nom)->isHidden(); }

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "atelier/Cases.h"
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Travail.h"
@@ -24,8 +25,8 @@ namespace norvane {
 /// Whether the base is being edited by hand.
 enum class Edition { Aucune, MiseAJour, AjoutLibre };
 
-/// Draws that the statistics of the page "Numéros" speak of, one-based, inclusive: other pages work
-/// over them too. `sup` below `inf`: not chosen yet, the whole base.
+/// Draws that the statistics of a page speak of, one-based, inclusive: other pages work over those
+/// of "Numéros" too. `sup` below `inf`: not chosen yet, the whole base.
 struct IntervalleStats {
     int inf = 1;
     int sup = 0;
@@ -49,7 +50,7 @@ struct Atelier {
     Configuration configuration;
     Base base;
     Occurrences occurrences;
-    IntervalleStats StatsNumeros;
+    IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
 
     EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
     bool series = false;                ///< the engine looks at series of consecutive numbers alone
@@ -67,6 +68,7 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    Cases choixLibre;               ///< the free choice of numbers and chances
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;

@@ -7,7 +7,6 @@
 
 #include <chrono>
 #include <string>
-#include <string_view>
 
 namespace norvane {
 
@@ -28,12 +27,5 @@ std::string DateLongue(int date);
 
 /// "03/10/2022".
 std::string DateCourte(int date);
-
-/// What the tables show for an item that never came out, trailing blank included.
-inline constexpr std::string_view PasEncoreSorti = "Pas encore sorti ";
-
-/// Order of two long dates as text, -1, 0 or 1: both are trimmed and rebuilt as yyyymmdd;
-/// "Pas encore sorti" stands before every date.
-int ComparerDatesFrancaises(std::string_view a, std::string_view b);
 
 }  // namespace norvane

@@ -28,10 +28,6 @@ std::string FormaterDecimal(double x, int chiffres);
 /// thousands, an optional currency symbol behind; nothing when the text is no number.
 std::optional<double> LireMontant(std::string_view texte);
 
-/// Order of two cells as a person reads them: runs of digits by value, the rest by character.
-/// -1, 0 or 1.
-int ComparerAlphanumerique(std::string_view a, std::string_view b);
-
 /// Without blanks (ASCII) at both ends.
 std::string_view Rogner(std::string_view texte);
 

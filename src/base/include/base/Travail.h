@@ -39,7 +39,7 @@ struct DescriptionTravail {
 /// How far a work is: written by its threads, polled by whoever looks. Never goes back.
 class Progres {
  public:
-    /// A new end; the position goes to 0. To be called before others look.
+    /// A new end; the position goes to 0.
     void commencer(int total) {
         total_.store(total > 0 ? total : 1, std::memory_order_relaxed);
         fait_.store(0, std::memory_order_relaxed);

@@ -12,6 +12,7 @@
 #include "base/Base.h"
 #include "comb/Enregistrement.h"
 #include "comb/LigneCombinaison.h"
+#include "stats/Cellule.h"
 #include "stats/Noyau.h"
 #include "stats/Occurrences.h"
 
@@ -28,7 +29,7 @@ struct LigneStatsCombinaison {
     int date;                ///< yyyymmdd of the last of them, 0 for none
     ResultatStats resultat;  ///< the twelve results over the interval
     int ratioGraphique;      ///< 100 x 100 x NbFois / interval, rounded: of 10000
-    std::array<std::string, NbColonnesCombinaison> cellules;  ///< texts of the columns
+    std::array<Cellule, NbColonnesCombinaison> cellules;  ///< of the columns; draws as targets
 };
 
 /// Rows min(N, 5) down to 0 over draws inf..sup (one-based, inclusive). `numeros`: 2 to 10 of

@@ -5,12 +5,12 @@
 #pragma once
 
 #include <array>
-#include <span>
 #include <string>
 #include <vector>
 
 #include "base/Base.h"
-#include "stats/Noyau.h"
+#include "stats/Cellule.h"
+#include "stats/Occurrences.h"
 
 namespace norvane {
 
@@ -18,32 +18,17 @@ namespace norvane {
 enum class ColonneStats { Pos, Num, NbS, Ratio, Date, E, EM, EcartMax, S, SuiteMax };
 inline constexpr int NbColonnesStats = 10;
 
-enum class GenreStats { Numeros, Chances };
-
+/// The row of one number or one Chance.
 struct LigneStats {
-    int element;  ///< the number or the Chance, from 1
-    ResultatStats resultat;
-    int ratioGraphique;  ///< trunc(Sorties x 100 / n x 100 + 0.5), of 10000
-    bool present;        ///< the record of the upper bound holds it, by the presence tables
-    /// Texts of columns Num to SuiteMax; Pos is the place in the sort and stays empty. Ratio
-    /// holds the text form ("07,35% ").
-    std::array<std::string, NbColonnesStats> cellules;
+    bool present;  ///< the record of the upper bound holds it, by the presence tables
+    /// Pos is the place in the sort and stays empty. Num leads to the history of an item that came
+    /// out; Date, E and the two maxima of such an item lead to their draw.
+    std::array<Cellule, NbColonnesStats> cellules;
 };
 
 /// 49 or 10 rows over records premier..dernier (zero-based, inclusive), in element order.
 std::vector<LigneStats> RemplirStats(GenreStats genre, const Base& base, const Occurrences& occ,
                                      int premier, int dernier);
-
-/// "12  (02 0045)": value and count with the mask "00", the position padded to as many digits as
-/// the one-based last draw of the interval asks (1 up to 9, 2 up to 99, 3 up to 999, else 4).
-std::string CelluleMaximum(int valeur, int nombre, int position, int dernierTirage);
-
-/// What stands between the parentheses of such a cell; both 0 for a text of another form.
-struct MaximumLu {
-    int nombre;
-    int position;
-};
-MaximumLu LireCelluleMaximum(std::string_view cellule);
 
 /// "Statistiques sur n tirages\ndu <long date>\nau <long date>", or for one record
 /// "Statistiques sur 1 tirage\nle <long date>". Bounds are one-based draw numbers.

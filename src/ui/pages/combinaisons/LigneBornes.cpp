@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 
+#include "common/Contexte.h"
 #include "common/Theme.h"
-#include "pages/Page.h"
 #include "widgets/ChampNumero.h"
 
 namespace norvane::ui {
@@ -52,6 +52,11 @@ LigneBornes::Cote creerCote(int edit, int hautBas, const QString& libelle, QWidg
     return {champ, fleches};
 }
 
+QString indiceBorne(const QString& cote, const BornesAffichees& bornes) {
+    return bornes.calculee ? u"Borne %1 calculée pour %2 tirages"_s.arg(cote).arg(bornes.NbTirages)
+                           : u"Borne %1 en attente de calcul"_s.arg(cote);
+}
+
 }  // namespace
 
 LigneBornes::LigneBornes(int taille, QWidget* parent)
@@ -69,41 +74,37 @@ LigneBornes::LigneBornes(int taille, QWidget* parent)
     bouton->setMaximumHeight(hauteur * 3 / 2);
     bouton->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     poserIndice(bouton, u"Calculer les combinaisons de %1 numéros"_s.arg(taille));
-    relier(inf, false);
-    relier(sup, true);
+    relier(inf);
+    relier(sup);
 }
 
-void LigneBornes::relier(Cote& cote, bool superieur) {
-    connect(cote.edit, &QLineEdit::textChanged, this, [this, superieur] {
-        if (garde_) return;
-        superieur ? changerSup() : changerInf();
+void LigneBornes::relier(Cote& cote) {
+    connect(cote.edit, &QLineEdit::textChanged, this, [this, &cote](const QString& texte) {
+        if (!garde_) saisir(cote, texte);
     });
-    connect(cote.edit, &QLineEdit::editingFinished, this,
-            [this, superieur] { superieur ? quitterSup() : quitterInf(); });
+    connect(cote.edit, &QLineEdit::editingFinished, this, [this, &cote] { quitter(cote); });
     const auto bouger = [this, &cote](int pas) { deplacer(cote, pas); };
     connect(cote.hautBas, &HautBas::deplacement, this, bouger);
     connect(cote.edit, &ChampNumero::deplacement, this, bouger);
-    connect(cote.edit, &ChampNumero::extremite, this,
-            [this, &cote](bool derniere) { deplacer(cote, derniere ? max_ : -max_); });
+    connect(cote.edit, &ChampNumero::extremite, this, [this, &cote](bool derniere) {
+        deplacer(cote, derniere ? bornes_.BorneSup : -bornes_.BorneSup);
+    });
 }
 
 // ------------------------------------------------------------------------------------------ state
 
-bool LigneBornes::calculee() const {
-    return inf.edit->text() != QString::fromUtf16(NonCalculee);
+void LigneBornes::poser(const BornesAffichees& bornes) {
+    bornes_ = bornes;
+    inf.valeur = bornes.BorneInf;
+    sup.valeur = bornes.BorneSup;
+    for (Cote* cote : {&inf, &sup}) peindre(*cote, cote->saisie = cote->valeur);
+    poserIndice(inf.edit, indiceBorne(u"Inf"_s, bornes));
+    poserIndice(sup.edit, indiceBorne(u"Sup"_s, bornes));
+    ouvrirEdits();
 }
 
-void LigneBornes::poser(const BornesAffichees& bornes) {
-    const QScopedValueRollback garde(garde_, true);
-    min_ = bornes.min;
-    max_ = bornes.max;
-    inf.position = min_;
-    sup.position = max_;
-    inf.edit->setText(versQt(bornes.texteInf));
-    sup.edit->setText(versQt(bornes.texteSup));
-    poserIndice(inf.edit, versQt(bornes.indiceInf));
-    poserIndice(sup.edit, versQt(bornes.indiceSup));
-    ouvrirEdits();
+void LigneBornes::suivre(const BornesAffichees& bornes) {
+    if (bornes != bornes_) poser(bornes);
 }
 
 void LigneBornes::appliquerMode(ModeListe mode) {
@@ -111,19 +112,28 @@ void LigneBornes::appliquerMode(ModeListe mode) {
     ouvrirEdits();
 }
 
+bool LigneBornes::ouverte() const {
+    return mode_ == ModeListe::Bornes && bornes_.calculee;
+}
+
 void LigneBornes::ouvrirEdits() {
-    const bool ouverts = mode_ == ModeListe::Bornes && calculee();
-    for (const Cote& cote : {inf, sup}) {
-        cote.edit->setReadOnly(!ouverts);
-        cote.hautBas->setEnabled(ouverts);
-        // Blue on the palette's own ground.
-        const Teintes t = teintes(cote.edit->palette());
-        QPalette couleurs = cote.edit->palette();
-        couleurs.setColor(QPalette::Text, t.ligneSup);
-        couleurs.setColor(QPalette::Base, ouverts ? t.carte : t.fondFerme);
-        cote.edit->setPalette(couleurs);
+    for (const Cote* cote : {&inf, &sup}) {
+        cote->edit->setReadOnly(!ouverte());
+        cote->hautBas->setEnabled(ouverte());
     }
-    bouton->setEnabled(mode_ == ModeListe::Extremes || ouverts);
+    bouton->setEnabled(mode_ == ModeListe::Extremes || ouverte());
+    reteinter();
+}
+
+void LigneBornes::reteinter() {
+    for (const Cote* cote : {&inf, &sup}) {
+        // Blue on the palette's own ground.
+        QPalette couleurs = cote->edit->palette();
+        const Teintes t = teintes(couleurs);
+        couleurs.setColor(QPalette::Text, t.ligneSup);
+        couleurs.setColor(QPalette::Base, ouverte() ? t.carte : t.fondFerme);
+        cote->edit->setPalette(couleurs);
+    }
 }
 
 void LigneBornes::montrerArret(bool enCours) {
@@ -135,66 +145,40 @@ void LigneBornes::montrerArret(bool enCours) {
 
 // --------------------------------------------------------------------------------------- handlers
 
-bool LigneBornes::lisible(const Cote& cote) {
-    return cote.edit->text() != QString::fromUtf16(NonCalculee);
+/// The number typed stands as it is, but for one above the limit.
+void LigneBornes::saisir(Cote& cote, const QString& texte) {
+    cote.saisie = std::min(texte.toInt(), bornes_.BorneSup);
+    // An emptied edit is one being typed in, and so is one below the limit: mended when it is left.
+    if (texte.isEmpty()) return;
+    if (cote.saisie >= bornes_.BorneInf) choisir(cote, cote.saisie);
+    peindre(cote, cote.saisie);
 }
 
-int LigneBornes::valeur(const Cote& cote) {
-    return cote.edit->text().toInt();
-}
-
-void LigneBornes::ecrire(Cote& cote, int v) {
-    cote.edit->setText(QString::number(v));
-}
-
-/// The arrows stand where their edit does, unless that reads no value of theirs.
-int LigneBornes::position(Cote& cote) {
-    bool nombre = false;
-    const int v = cote.edit->text().toInt(&nombre);
-    if (nombre && v >= min_ && v <= max_) cote.position = v;
-    return cote.position;
-}
-
-void LigneBornes::changerInf() {
-    // An emptied edit is one being typed in: it is read when it is left.
-    if (!lisible(inf) || inf.edit->text().isEmpty()) return;
-    const int v = std::min(valeur(inf), max_);
-    if (v > position(sup)) ecrire(sup, v);
-    ecrire(inf, v);
-}
-
-void LigneBornes::quitterInf() {
-    if (!lisible(inf)) return;
-    int v = valeur(inf);
-    if (v < min_) {
-        v = min_;
-        if (min_ > position(sup)) ecrire(sup, min_);
-    }
-    ecrire(inf, v);
-}
-
-void LigneBornes::changerSup() {
-    if (!lisible(sup) || sup.edit->text().isEmpty()) return;
-    const int v = std::min(valeur(sup), max_);
-    if (v < valeur(inf) && v >= min_) ecrire(inf, v);
-    ecrire(sup, v);
-}
-
-void LigneBornes::quitterSup() {
-    if (!lisible(sup)) return;
-    ecrire(sup, valeur(sup) < min_ ? position(inf) : valeur(sup));
+void LigneBornes::quitter(Cote& cote) {
+    if (!bornes_.calculee) return;
+    const int repli = &cote == &inf ? bornes_.BorneInf : inf.valeur;
+    choisir(cote, cote.saisie < bornes_.BorneInf ? repli : cote.saisie);
 }
 
 void LigneBornes::deplacer(Cote& cote, int pas) {
-    if (!cote.hautBas->isEnabled()) return;
-    ecrire(cote, std::clamp(position(cote) + pas, min_, max_));
-    // The one that is passed goes along.
-    if (position(inf) > position(sup)) ecrire(pas > 0 ? sup : inf, position(cote));
+    if (!ouverte()) return;
+    choisir(cote, std::clamp(cote.valeur + pas, bornes_.BorneInf, bornes_.BorneSup));
+}
+
+void LigneBornes::choisir(Cote& cote, int v) {
+    Cote& autre = &cote == &inf ? sup : inf;
+    peindre(cote, cote.valeur = cote.saisie = v);
+    if (inf.valeur > sup.valeur) peindre(autre, autre.valeur = autre.saisie = v);
+}
+
+void LigneBornes::peindre(const Cote& cote, int v) {
+    const QScopedValueRollback garde(garde_, true);
+    cote.edit->setText(bornes_.calculee ? QString::number(v) : u"NC"_s);
 }
 
 void LigneBornes::valider() {
-    quitterInf();
-    quitterSup();
+    quitter(inf);
+    quitter(sup);
 }
 
 }  // namespace norvane::ui

@@ -4,10 +4,9 @@
 // The controls of one combination size: its button and the two bounds of its count.
 #pragma once
 
-#include <array>
 #include <QObject>
 
-#include "comb/Moteur.h"
+#include "atelier/Moteur.h"
 
 class QPushButton;
 
@@ -16,10 +15,8 @@ namespace norvane::ui {
 class ChampNumero;
 class HautBas;
 
-/// A bound that was not computed reads this.
-inline constexpr const char16_t* NonCalculee = u"NC";
-
-/// The controls of a size; the owner of their parent lays them out.
+/// The bounds chosen are values; the edits paint them and are read only for what is typed. The
+/// owner of their parent lays the controls out.
 class LigneBornes final : public QObject {
     Q_OBJECT
 
@@ -30,46 +27,43 @@ class LigneBornes final : public QObject {
     struct Cote {
         ChampNumero* edit;
         HautBas* hautBas;
-        int position = 0;  ///< last value within the limits
+        int valeur = 0;  ///< the bound, always within the limits
+        int saisie = 0;  ///< what is being typed; may still lie below the lower limit
     };
     Cote inf;
     Cote sup;
 
     int taille() const { return taille_; }
-    /// False while the edits read "NC".
-    bool calculee() const;
 
-    /// Limits, texts, positions and hints.
+    /// New limits and hints; the bounds chosen go to both ends.
     void poser(const BornesAffichees& bornes);
+    /// The same where these are not the limits already: what the user chose stays otherwise.
+    void suivre(const BornesAffichees& bornes);
     /// What can be pressed and changed in a list mode.
     void appliquerMode(ModeListe mode);
-    /// The caption: "STOP" while its worker runs.
+    /// The caption: "STOP" while the search of this size runs.
     void montrerArret(bool enCours);
+    /// Colours after a change of the palette.
+    void reteinter();
 
     /// As when both edits are left: what is no value of the range is mended.
     void valider();
-    /// The bounds chosen: what the edits read, or the last value where that is none.
-    int valeurInf() { return position(inf); }
-    int valeurSup() { return position(sup); }
 
  private:
-    void relier(Cote& cote, bool superieur);
-    void changerInf();
-    void changerSup();
-    void quitterInf();
-    void quitterSup();
+    void relier(Cote& cote);
+    void saisir(Cote& cote, const QString& texte);
+    void quitter(Cote& cote);
     void deplacer(Cote& cote, int pas);
-    int position(Cote& cote);
-    static bool lisible(const Cote& cote);
-    static int valeur(const Cote& cote);
-    static void ecrire(Cote& cote, int v);
+    /// `cote` takes `v`, and the other one goes along where it is passed.
+    void choisir(Cote& cote, int v);
+    void peindre(const Cote& cote, int v);
+    bool ouverte() const;
     void ouvrirEdits();
 
     const int taille_;
-    int min_ = 0;
-    int max_ = 0;
+    BornesAffichees bornes_;
     ModeListe mode_ = ModeListe::Extremes;
-    bool garde_ = false;  // values are being set from outside: the handlers sleep
+    bool garde_ = false;  // an edit is being painted: nobody types
 };
 
 }  // namespace norvane::ui

@@ -1,30 +1,22 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// The controls of the page and where they stand.
 
 #include "combinaisons/PageCombinaisons.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QEvent>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QStackedWidget>
 
+#include "base/Textes.h"
+#include "combinaisons/Cahier.h"
 #include "combinaisons/LigneBornes.h"
+#include "combinaisons/PanneauCombinaison.h"
+#include "combinaisons/PanneauListe.h"
+#include "combinaisons/PanneauTailles.h"
+#include "combinaisons/PanneauTri.h"
 #include "common/Theme.h"
-#include "widgets/ChampNumero.h"
-#include "widgets/ColonnesStats.h"
+#include "widgets/Alerte.h"
 #include "widgets/Fiche.h"
 #include "widgets/ListeCombinaisons.h"
-#include "widgets/VueTableau.h"
 
 namespace norvane::ui {
 
@@ -32,57 +24,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int RythmeMs = 33;      // steps of the gauge, at most thirty a second
-constexpr auto ColonneRatio = 2;  // of AdvStringGrid2
-constexpr double FacteurListe = 1.08;
+/// What the empty list says, by ModeListe.
+constexpr std::array<const char16_t*, 3> Invites = {
+    u"Cliquez sur COMB 2 à COMB 10\npour lister les combinaisons\nles plus ou moins sorties",
+    u"Choisissez les bornes d'une taille\npuis cliquez sur son bouton", u"Aucune liste en mémoire"};
 
-/// A small square in a colour that follows the palette.
-class Pastille final : public QWidget {
- public:
-    Pastille(QColor Teintes::*couleur, QWidget* parent) : QWidget(parent), couleur_(couleur) {
-        setFixedSize(fontMetrics().height(), fontMetrics().height());
-    }
-
- protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setPen(Qt::NoPen);
-        p.setBrush(teintes(palette()).*couleur_);
-        p.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 3, 3);
-    }
-
- private:
-    QColor Teintes::*couleur_;
-};
+/// Sizes whose bounds, once computed, make the mode of the bounds the first one shown.
+constexpr int TailleCouranteMax = NbBoules;
 
 }  // namespace
 
 PageCombinaisons::PageCombinaisons(Contexte& ctx, QWidget* parent)
-    : Page(ctx, u"Varo3"_s, u"Combinaisons N"_s, parent),
-      moteur_(std::make_unique<Moteur>(ctx.atelier.base, ctx.atelier.occurrences,
-                                       ctx.atelier.combinaisons, ctx.atelier.Repertoire,
-                                       ctx.atelier.activite.TraitementsEnCours,
-                                       ctx.atelier.activite.Disponible)) {
+    : Page(ctx, u"Varo3"_s, u"Combinaisons N"_s, parent), moteur_(ctx.atelier) {
     construire();
     relier();
     poserOrdreTabulation();
-    entrerMode();
-}
-
-PageCombinaisons::~PageCombinaisons() {
-    // Its worker calls back to this page: it ends first.
-    moteur_.reset();
+    suivreBase();
 }
 
 void PageCombinaisons::construire() {
-    auto* gauche = creerFicheTailles();
-    auto* milieu = creerFicheListe();
+    auto* gauche = new Fiche(this);
+    gauche->pile->addWidget(tailles_ = new PanneauTailles(gauche));
+    auto* milieu = new Fiche(this);
+    const Atelier& a = contexte.atelier;
+    liste_ = new PanneauListe(ListePrincipale, a.ListeMemoire, a.combinaisons, milieu);
+    milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
+    milieu->pile->addWidget(liste_, 1);
+    milieu->pile->addWidget(tri_ = new PanneauTri(milieu));
+    auto* choisie = new Fiche(this);
+    combinaison_ = new PanneauCombinaison(contexte, CombinaisonChoisie, choisie);
+    choisie->pile->addWidget(combinaison_);
+
     auto* droite = new QVBoxLayout;
     droite->setSpacing(2 * Unite);
-    droite->addWidget(creerFicheCombinaison());
-    cahier_ = creerCahier();
-    droite->addWidget(cahier_, 1);
+    droite->addWidget(choisie);
+    droite->addWidget(cahier_ = new Cahier(this), 1);
     auto* page = new QHBoxLayout(this);
     page->setContentsMargins(2 * Unite, 2 * Unite, 2 * Unite, 2 * Unite);
     page->setSpacing(2 * Unite);
@@ -91,273 +67,193 @@ void PageCombinaisons::construire() {
     page->addLayout(droite, 1);
 }
 
-// --------------------------------------------------------------------------------------- left card
-
-Fiche* PageCombinaisons::creerFicheTailles() {
-    auto* fiche = new Fiche(this);
-    ComboBox1 = new QComboBox(fiche);
-    ComboBox1->setObjectName(u"ComboBox1"_s);
-    ComboBox1->addItems({u"Combinaisons les plus ou moins sorties"_s,
-                         u"Combinaisons selon les bornes"_s, u"Manipulation de listes"_s});
-    ComboBox1->setAccessibleName(u"Mode de la liste"_s);
-    ComboBox1->setMinimumHeight(ComboBox1->fontMetrics().height() + 2 * Unite);
-    poserIndice(ComboBox1, u"Choix du mode de la liste"_s);
-    fiche->pile->addWidget(ComboBox1);
-    fiche->pile->addSpacing(Unite);
-    fiche->pile->addLayout(creerTailles(fiche), 4);
-    fiche->pile->addStretch(1);
-    fiche->pile->addWidget(creerStockage(fiche));
-    CGauge = new QProgressBar(fiche);
-    CGauge->setObjectName(u"CGauge"_s);
-    CGauge->setAccessibleName(u"Avancement du calcul"_s);
-    CGauge->setRange(0, 1);
-    CGauge->setValue(0);
-    CGauge->setTextVisible(false);
-    LabelTemps = legende({}, fiche);
-    LabelTemps->setObjectName(u"LabelTemps"_s);
-    // Its line stays free, so that nothing moves when it comes.
-    LabelTemps->setMinimumHeight(LabelTemps->fontMetrics().height());
-    fiche->pile->addWidget(CGauge);
-    fiche->pile->addWidget(LabelTemps);
-    return fiche;
-}
-
-QGridLayout* PageCombinaisons::creerTailles(QWidget* parent) {
-    auto* grille = new QGridLayout;
-    grille->setHorizontalSpacing(Unite / 2);
-    grille->setVerticalSpacing(Unite - 1);
-    grille->setColumnStretch(0, 1);
-    grille->setColumnMinimumWidth(1, Unite);
-    grille->setColumnMinimumWidth(4, Unite);
-    for (const auto& [libelle, place] : {std::pair{u"Inf"_s, 2}, std::pair{u"Sup"_s, 5}}) {
-        auto* entete = legende(libelle, parent);
-        entete->setFixedHeight(entete->sizeHint().height());
-        grille->addWidget(entete, 0, place, 1, 2, Qt::AlignHCenter);
-    }
-    for (int taille = TailleCombMin; taille <= TailleCombMax; ++taille) {
-        auto* bornes = new LigneBornes(taille, parent);
-        lignes_[static_cast<std::size_t>(taille - TailleCombMin)] = bornes;
-        const int rang = taille - TailleCombMin + 1;
-        grille->addWidget(bornes->bouton, rang, 0);
-        int place = 2;
-        for (const LigneBornes::Cote* cote : {&bornes->inf, &bornes->sup}) {
-            const int hauteur = bornes->bouton->minimumHeight();
-            cote->edit->setFixedHeight(hauteur);
-            cote->hautBas->setFixedHeight(hauteur);
-            grille->addWidget(cote->edit, rang, place);
-            grille->addWidget(cote->hautBas, rang, place + 1);
-            place += 3;
-        }
-    }
-    return grille;
-}
-
-QGroupBox* PageCombinaisons::creerStockage(QWidget* parent) {
-    auto* groupe = new QGroupBox(u"Stocker en mémoire :"_s, parent);
-    groupe->setObjectName(u"RadioGroup1"_s);
-    auto* pile = new QVBoxLayout(groupe);
-    pile->setSpacing(Unite / 2);
-    stockage_ = new QButtonGroup(groupe);
-    int item = 0;
-    for (const QString& texte :
-         {u"Le premier rang"_s, u"Tous les rangs"_s, u"Les rangs de gain"_s}) {
-        auto* choix = new QRadioButton(texte, groupe);
-        choix->setObjectName(u"RadioGroup1Item%1"_s.arg(item));
-        poserIndice(choix,
-                    u"Rangs gardés pour chaque combinaison de la prochaine liste selon les "
-                    u"bornes"_s);
-        stockage_->addButton(choix, item++);
-        pile->addWidget(choix);
-    }
-    stockage_->button(0)->setChecked(true);
-    return groupe;
-}
-
-// --------------------------------------------------------------------------------------- the list
-
-Fiche* PageCombinaisons::creerFicheListe() {
-    auto* fiche = new Fiche(this);
-    LabelCombEnListe = valeur(u"LabelCombEnListe"_s, u"Combinaisons en liste"_s, fiche);
-    RxLabelIndice = valeur(u"RxLabelIndice"_s, u"Indice de la ligne choisie"_s, fiche);
-    // The captions and the list stay where they are when the numbers come and go.
-    for (QLabel* nombre : {LabelCombEnListe, RxLabelIndice}) {
-        nombre->setMinimumHeight(nombre->fontMetrics().height());
-    }
-    RxLabelIndice->setAlignment(Qt::AlignRight);
-    auto* tete = new QHBoxLayout;
-    tete->addLayout(colonne(u"Combinaisons en liste"_s, rangee({LabelCombEnListe}), fiche));
-    tete->addStretch(1);
-    auto* indice = colonne(u"Indice"_s, rangee({RxLabelIndice}), fiche);
-    indice->itemAt(0)->setAlignment(Qt::AlignRight);
-    tete->addLayout(indice);
-    fiche->pile->addLayout(tete);
-
-    ListBox = new ListeCombinaisons(u"ListBox"_s, contexte.atelier.combinaisons, fiche);
-    ListBox->setAccessibleName(u"Liste des combinaisons"_s);
-    QFont fonte = ListBox->font();
-    fonte.setPixelSize(qRound(ListBox->fontInfo().pixelSize() * FacteurListe));
-    ListBox->setFont(fonte);
-    fiche->setFixedWidth(ListBox->largeurLigne() + 4 * Unite);
-    fiche->pile->addWidget(ListBox, 1);
-
-    LabelCombEnMemoire = valeur(u"LabelCombEnMemoire"_s, u"Combinaisons en mémoire"_s, fiche);
-    LabelCombEnMemoire->setMinimumHeight(LabelCombEnMemoire->fontMetrics().height());
-    fiche->pile->addLayout(
-        colonne(u"Combinaisons en mémoire"_s, rangee({LabelCombEnMemoire}), fiche));
-    stocke_ = legende({}, fiche);
-    stocke_->setObjectName(u"LabelStockage"_s);
-    Label25 = legende({}, fiche);
-    Label25->setObjectName(u"Label25"_s);
-    for (QLabel* etiquette : {stocke_, Label25}) {
-        etiquette->setWordWrap(true);
-        etiquette->setMinimumHeight(etiquette->fontMetrics().height());
-        fiche->pile->addWidget(etiquette);
-    }
-    // Two lines: the longest text of the three that the label shows.
-    Label25->setMinimumHeight(2 * Label25->fontMetrics().height());
-    Label25->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    return fiche;
-}
-
-// --------------------------------------------------------------------------------- the combination
-
-Fiche* PageCombinaisons::creerFicheCombinaison() {
-    auto* fiche = new Fiche(this);
-    libelle_ = valeur(u"LabelCombinaison"_s, {}, fiche);
-    libelle_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    libelle_->setMinimumHeight(libelle_->fontMetrics().height());
-    libelle_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    poserIndice(libelle_, u"Combinaison de la ligne choisie"_s);
-
-    AdvStringGrid2 = new VueTableau(ColonnesCombinaison(), 1, contexte.Echelle, fiche);
-    AdvStringGrid2->setObjectName(u"AdvStringGrid2"_s);
-    AdvStringGrid2->setAccessibleName(u"Statistiques de la combinaison choisie"_s);
-    poserIndice(AdvStringGrid2,
-                u"Double cliquez sur une date, un écart ou une suite pour afficher "
-                u"le tirage correspondant"_s);
-    AdvStringGrid2->modele().poserTriDepart({0, false});
-    AdvStringGrid2->poserBulle(
-        [this](const QModelIndex& i) { return BulleRatio(*AdvStringGrid2, i, ColonneRatio); });
-    // Room for the six rows of the larger sizes from the start.
-    AdvStringGrid2->reserverLignes(NbBoules + 1);
-
-    LabelTirages = legende({}, fiche);
-    LabelTirages->setObjectName(u"LabelTirages"_s);
-    CheckBoxRN = new QCheckBox(u"Ratio graphique"_s, fiche);
-    CheckBoxRN->setObjectName(u"CheckBoxRN"_s);
-    poserIndice(CheckBoxRN, u"Afficher le ratio sous forme de barre"_s);
-    ButtonPosition = bouton(u"ButtonPosition"_s, u"&Position"_s,
-                            u"Position de cette combinaison dans la liste en mémoire"_s, fiche);
-    auto* pied = new QHBoxLayout;
-    pied->setSpacing(3 * Unite);
-    pied->addWidget(LabelTirages);
-    pied->addStretch(1);
-    pied->addWidget(CheckBoxRN);
-    pied->addWidget(ButtonPosition);
-    fiche->pile->addWidget(libelle_);
-    fiche->pile->addWidget(AdvStringGrid2);
-    fiche->pile->addLayout(pied);
-    return fiche;
-}
-
-QStackedWidget* PageCombinaisons::creerCahier() {
-    auto* cahier = new QStackedWidget(this);
-    cahier->setObjectName(u"Cahier"_s);
-    cahier->addWidget(creerLegende(cahier));
-    auto* listes = new Fiche(cahier);
-    auto* promesse = new QLabel(
-        u"Les listes tampons I, II et III prendront place ici : copie, déplacement et réunion de "
-        u"combinaisons avec la liste en mémoire."_s,
-        listes);
-    promesse->setObjectName(u"PromesseListes"_s);
-    promesse->setWordWrap(true);
-    listes->pile->addWidget(promesse);
-    listes->pile->addStretch(1);
-    cahier->addWidget(listes);
-    return cahier;
-}
-
-Fiche* PageCombinaisons::creerLegende(QWidget* parent) {
-    auto* fiche = new Fiche(parent);
-    aideMode_ = new QLabel(fiche);
-    aideMode_->setObjectName(u"AideMode"_s);
-    aideMode_->setWordWrap(true);
-    fiche->pile->addWidget(aideMode_);
-    fiche->pile->addSpacing(Unite);
-    struct Couleur {
-        QColor Teintes::*teinte;
-        QString sens;
-    };
-    for (const Couleur& c :
-         {Couleur{&Teintes::ligneSup, u"Nombre de sorties égal à la borne Sup"_s},
-          Couleur{&Teintes::ligneInf, u"Nombre de sorties égal à la borne Inf"_s}}) {
-        auto* rang = rangee({new Pastille(c.teinte, fiche), new QLabel(c.sens, fiche)});
-        rang->setSpacing(Unite);
-        rang->addStretch(1);
-        fiche->pile->addLayout(rang);
-    }
-    fiche->pile->addWidget(legende(u"NC : borne non calculée"_s, fiche));
-    fiche->pile->addStretch(1);
-    return fiche;
-}
-
-// ------------------------------------------------------------------------------------------ wiring
-
 void PageCombinaisons::relier() {
-    connect(ComboBox1, &QComboBox::currentIndexChanged, this, &PageCombinaisons::ComboBox1Change);
-    connect(stockage_, &QButtonGroup::idClicked, this, &PageCombinaisons::RadioGroup1Click);
-    for (LigneBornes* bornes : lignes_) {
-        connect(bornes->bouton, &QPushButton::clicked, this,
-                [this, bornes] { CombSearchClick(bornes->taille()); });
-    }
-    connect(ListBox, &ListeCombinaisons::ligneChoisie, this, &PageCombinaisons::ListBoxClick);
-    connect(AdvStringGrid2, &VueTableau::celluleActivee, this, &PageCombinaisons::surActivation);
-    connect(CheckBoxRN, &QCheckBox::toggled, this, &PageCombinaisons::afficherCombinaison);
-    connect(ButtonPosition, &QPushButton::clicked, this, &PageCombinaisons::ButtonPositionClick);
-
-    moteur_->surProgression = [this](int valeur) {
-        progression_.store(valeur, std::memory_order_relaxed);
-    };
-    moteur_->surFin = [this] {
-        QMetaObject::invokeMethod(this, &PageCombinaisons::TraitementTermine, Qt::QueuedConnection);
-    };
-    rythme_.setInterval(RythmeMs);
-    connect(&rythme_, &QTimer::timeout, this,
-            [this] { CGauge->setValue(progression_.load(std::memory_order_relaxed)); });
+    connect(tailles_, &PanneauTailles::modeChoisi, this, &PageCombinaisons::ComboBox1Change);
+    connect(tailles_, &PanneauTailles::stockageChoisi, this, &PageCombinaisons::RadioGroup1Click);
+    connect(tailles_, &PanneauTailles::tailleCliquee, this, &PageCombinaisons::CombSearchClick);
+    connect(liste_, &PanneauListe::combinaisonChoisie, this,
+            [this](const Combinaison& c) { combinaison_->montrer(c.numeros); });
+    connect(combinaison_, &PanneauCombinaison::positionDemandee, this,
+            &PageCombinaisons::ButtonPositionClick);
 }
 
 void PageCombinaisons::poserOrdreTabulation() {
-    QWidget* precedent = ComboBox1;
-    const auto ensuite = [&precedent](QWidget* suivant) {
-        setTabOrder(precedent, suivant);
-        precedent = suivant;
-    };
-    for (const LigneBornes* bornes : lignes_) {
-        ensuite(bornes->bouton);
-        ensuite(bornes->inf.edit);
-        ensuite(bornes->sup.edit);
-    }
-    for (QAbstractButton* choix : stockage_->buttons()) ensuite(choix);
-    ensuite(ListBox);
-    ensuite(AdvStringGrid2);
-    ensuite(CheckBoxRN);
-    ensuite(ButtonPosition);
-}
-
-void PageCombinaisons::changeEvent(QEvent* evenement) {
-    Page::changeEvent(evenement);
-    if (evenement->type() != QEvent::PaletteChange || ComboBox1 == nullptr) return;
-    // The edits carry colours of their own, which follow the palette by hand.
-    for (LigneBornes* bornes : lignes_) bornes->appliquerMode(moteur_->modeListe);
-}
-
-void PageCombinaisons::hideEvent(QHideEvent* evenement) {
-    AdvStringGrid2->cacherBulle();
-    Page::hideEvent(evenement);
+    const QList<QWidget*> ordre = tailles_->ordreTabulation() + QList<QWidget*>{&liste_->boite()} +
+                                  combinaison_->ordreTabulation();
+    for (qsizetype i = 1; i < ordre.size(); ++i) setTabOrder(ordre[i - 1], ordre[i]);
 }
 
 void PageCombinaisons::surDepart() {
-    AdvStringGrid2->cacherBulle();
+    combinaison_->cacherBulle();
+}
+
+// -------------------------------------------------------------------------------- modes, storage
+
+void PageCombinaisons::premierAffichage() {
+    // On a fresh start nothing is computed: the first entry is then the one of use.
+    for (int taille = TailleCombMin; taille <= TailleCouranteMax; ++taille) {
+        if (!moteur_.AfficherBornes(taille).calculee) return;
+    }
+    ComboBox1Change(ModeListe::Bornes);
+}
+
+void PageCombinaisons::ComboBox1Change(ModeListe mode) {
+    Atelier& a = contexte.atelier;
+    if (mode == a.modeListe) return;
+    if (contexte.refuserSiOccupe()) {
+        tailles_->montrerMode(a.modeListe);
+        return;
+    }
+    a.modeListe = mode;
+    if (mode == ModeListe::Extremes) {
+        // The list of before is shown again by a click alone, and the bounds are those computed.
+        Vider(a.ListeExtremes);
+        tri_->vider();
+        tailles_->poserBornes(moteur_.RafraichirBornes());
+    }
+    contexte.relais.annoncer({.listes = true});
+}
+
+void PageCombinaisons::RadioGroup1Click(ModeStockage mode) {
+    if (!contexte.refuserSiOccupe()) contexte.atelier.modeStockage = mode;
+    tailles_->montrerStockage(contexte.atelier.modeStockage);
+}
+
+// --------------------------------------------------------------------------------------- searches
+
+int PageCombinaisons::recherche() const {
+    const auto& enCours = contexte.atelier.activite.enCours;
+    const bool cherche = enCours && (enCours->genre == GenreTravail::Extremes ||
+                                     enCours->genre == GenreTravail::Bornes);
+    return cherche ? enCours->taille : 0;
+}
+
+void PageCombinaisons::CombSearchClick(int taille) {
+    if (recherche() == taille) {
+        contexte.travaux.arreter();
+        return;
+    }
+    LigneBornes& bornes = tailles_->ligne(taille);
+    if (!contexte.atelier.activite.occupe()) bornes.valider();
+    ReponseClic reponse = moteur_.Cliquer(taille, bornes.inf.valeur, bornes.sup.valeur);
+    switch (reponse.genre) {
+        case ReponseClic::Genre::Lance:
+            lancer(taille, std::move(reponse));
+            return;
+        case ReponseClic::Genre::Affiche:
+            contexte.relais.annoncer({.listes = true});
+            break;
+        case ReponseClic::Genre::Refuse:
+            break;
+    }
+    if (!reponse.message.empty()) {
+        contexte.services.messages->MessageInfo(versQt(reponse.message), u"Message"_s);
+    }
+}
+
+void PageCombinaisons::lancer(int taille, ReponseClic reponse) {
+    const VueTravail vue{u"Calcul des combinaisons de %1 numéros en cours..."_s.arg(taille),
+                         &tailles_->jauge(), &tailles_->temps()};
+    if (contexte.travaux.lancer(std::move(reponse.travail), vue, this,
+                                [this](Travail& travail) { TraitementTermine(travail); })) {
+        tailles_->montrerRecherche(recherche());
+        AfficherListe();
+        return;
+    }
+    moteur_.TraitementTermine(*reponse.travail);
+    contexte.services.messages->MessageInfo(contexte.travaux.erreur(), u"Message"_s);
+}
+
+void PageCombinaisons::TraitementTermine(Travail& travail) {
+    const FinTraitement fin = moteur_.TraitementTermine(travail);
+    tailles_->montrerRecherche(recherche());
+    if (!fin.secondes) tailles_->temps().clear();
+    if (travail.description.genre == GenreTravail::Bornes) tri_->montrerTriSimple();
+    contexte.relais.annoncer({.listes = true});
+    // A window that waits for the end of the work closes now, without a word on it.
+    if (!contexte.atelier.activite.QuitterEnAttente) direFin(travail.description.taille, fin);
+}
+
+void PageCombinaisons::direFin(int taille, const FinTraitement& fin) {
+    if (!fin.message.empty()) {
+        contexte.services.messages->MessageAvertissement(versQt(fin.message), u"Message"_s);
+        return;
+    }
+    if (alerte_ == nullptr) alerte_ = new Alerte(window());
+    const QString temps = fin.secondes
+                              ? u"Temps de calcul : "_s + versQt(FormaterDecimal(*fin.secondes, 1))
+                              : QString();
+    alerte_->montrer(fin.arrete ? u"Traitement arrêté"_s : u"Traitement terminé"_s,
+                     u"Combinaisons de %1 numéros\n"_s.arg(taille) + temps);
+    if (fin.debordement) {
+        contexte.services.messages->MessageInfo(
+            u"Passez au Mode \"Combinaisons selon les bornes\" afin de stocker en mémoire et "
+            u"compter le nombre de combinaisons ayant atteint la limite supérieure..."_s,
+            u"La liste a atteint sa capacité maximum..."_s);
+    }
+}
+
+void PageCombinaisons::ButtonPositionClick() {
+    if (contexte.refuserSiOccupe()) return;
+    const auto place =
+        Position(contexte.atelier.ListeMemoire, NumerosTries(combinaison_->numeros()));
+    contexte.services.messages->MessageInfo(
+        place ? u"Position dans la liste en mémoire :\n\nIndice :    %1   !! \n\n"_s.arg(*place + 1)
+              : u"Cette combinaison n'est pas en mémoire..."_s,
+        u"Message"_s);
+}
+
+// -------------------------------------------------------------------------- the controls follow
+
+void PageCombinaisons::surChange(const Changement& changement) {
+    if (changement.base) {
+        suivreBase();
+        return;
+    }
+    if (changement.intervalle) suivreIntervalle();
+    if (changement.listes) suivreMode();
+    if (changement.intervalle || changement.listes) suivreBornes();
+}
+
+void PageCombinaisons::suivreBase() {
+    tri_->vider();
+    tailles_->temps().clear();
+    tailles_->poserBornes(moteur_.RafraichirBornes());
+    combinaison_->montrer({});
+    suivreIntervalle();
+    suivreMode();
+    suivreBornes();
+}
+
+void PageCombinaisons::suivreIntervalle() {
+    const Occurrences& occ = contexte.atelier.occurrences;
+    combinaison_->poserIntervalle(occ.IntervalleInf, occ.IntervalleSup);
+}
+
+void PageCombinaisons::suivreMode() {
+    const Atelier& a = contexte.atelier;
+    tailles_->montrerMode(a.modeListe);
+    tailles_->montrerStockage(a.modeStockage);
+    cahier_->montrerMode(a.modeListe);
+    liste_->poserInvite(QString::fromUtf16(Invites[static_cast<std::size_t>(a.modeListe)]));
+    AfficherListe();
+}
+
+void PageCombinaisons::suivreBornes() {
+    // While a search runs, the bounds of its size are not those of a list yet.
+    if (recherche() == 0) tailles_->suivreBornes(moteur_.RafraichirBornes());
+    liste_->colorer(contexte.atelier.modeListe != ModeListe::Manipulation);
+}
+
+void PageCombinaisons::AfficherListe() {
+    const Atelier& a = contexte.atelier;
+    const bool extremes = a.modeListe == ModeListe::Extremes;
+    // A search for extremes starts from an empty list.
+    if (extremes && recherche() != 0) {
+        liste_->afficher(nullptr);
+    } else {
+        liste_->afficher(extremes ? &a.ListeExtremes : &a.ListeMemoire);
+    }
 }
 
 }  // namespace norvane::ui

@@ -5,11 +5,10 @@
 
 #include <algorithm>
 #include <memory>
-#include <QProgressBar>
-#include <QPushButton>
 
 #include "base/Fichiers.h"
-#include "pages/Page.h"
+#include "common/Contexte.h"
+#include "resultats/Refus.h"
 #include "tickets/Bilan.h"
 #include "tickets/Verification.h"
 
@@ -19,77 +18,42 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct TextesAction {
-    const char16_t* titre;
-    const char16_t* indice;
-};
-/// By Action.
-constexpr TextesAction Textes[] = {
-    {u"&Vérifier gains",
-     u"Calcul des gains pour toutes les grilles (voir le fichier \"Lotoveri.dat\")\n"},
-    {u"&Bilan Gains",
-     u"Bilan des gains pour toutes les grilles (voir le fichier \"Bilan.dat\")|Bilan effectué "
-     u"selon "
-     u"l'intervalle des tirages choisi dans l'onglet \"Numéros\""},
-    {u"STOP", u"Arrêter le bilan des gains"},
-};
-
 Monnaie monnaieDe(const Reglages& reglages) {
     return {reglages.SymboleMonnaie, reglages.TauxConversion};
 }
 
 }  // namespace
 
-CalculGains::CalculGains(Contexte& ctx, QPushButton& VerifGains, QProgressBar& jauge)
-    : contexte_(ctx), VerifGains_(VerifGains), jauge_(jauge) {
-    poser(Action::Verifier);
-}
+CalculGains::CalculGains(Contexte& ctx, QProgressBar* jauge, QObject* parent)
+    : QObject(parent), contexte_(ctx), jauge_(jauge) {}
 
-CalculGains::~CalculGains() = default;
-
-void CalculGains::poser(Action action) {
-    action_ = action;
-    const TextesAction& textes = Textes[static_cast<int>(action)];
-    VerifGains_.setText(QString::fromUtf16(textes.titre));
-    poserIndice(&VerifGains_, QString::fromUtf16(textes.indice));
-    jauge_.setVisible(action == Action::Arreter);
-    Q_EMIT actionChange();
-}
-
-void CalculGains::poserBilan(bool bilan) {
-    const Action action = bilan ? Action::Bilan : Action::Verifier;
-    if (action_ != Action::Arreter && action_ != action) poser(action);
+bool CalculGains::enCours() const {
+    const Travail* travail = contexte_.travaux.enCours();
+    return travail != nullptr && travail->description.genre == GenreTravail::Bilan;
 }
 
 void CalculGains::VerifGainsClick(int tirage) {
-    if (action_ == Action::Arreter) {
-        arreter();
-        return;
-    }
-    if (contexte_.refuserSiOccupe()) return;
-    if (action_ == Action::Bilan) {
-        lancerBilan();
-    } else {
-        verifier(tirage);
+    if (enCours()) {
+        contexte_.travaux.arreter();
+    } else if (!contexte_.refuserSiOccupe()) {
+        if (contexte_.atelier.saisie.bilan()) {
+            lancerBilan();
+        } else {
+            verifier(tirage);
+        }
     }
 }
 
 void CalculGains::verifier(int tirage) {
-    Messages& messages = *contexte_.services.messages;
     const Atelier& atelier = contexte_.atelier;
-    if (tirage < 0) {
-        messages.MessageAvertissement(u"Il faut d'abord sélectionner un tirage en mémoire..."_s,
-                                      u"Avertissement"_s);
+    if (const Reponse refus = atelier.saisie.peutVerifier(tirage >= 0)) {
+        direRefus(*contexte_.services.messages, *refus);
         return;
     }
-    if (atelier.ListeGrilles.empty()) {
-        messages.MessageInfo(u"Aucune grille sélectionnée..."_s, u"Message"_s,
-                             u"Cliquez sur le bouton Sélection afin de saisir des grilles."_s);
-        return;
-    }
-    publier(NomVerification,
-            RedigerVerification(atelier.base, tirage + 1, atelier.ListeGrilles, atelier.ListeJoker,
-                                monnaieDe(atelier.configuration.reglages)));
+    publier(
+        NomVerification,
+        RedigerVerification(atelier.base, tirage + 1, atelier.billets.ListeGrilles,
+                            atelier.billets.ListeJoker, monnaieDe(atelier.configuration.reglages)));
 }
 
 /// Writes a report and opens it with the desktop's viewer.
@@ -107,33 +71,31 @@ void CalculGains::publier(const char* nom, const std::string& texte) {
 }
 
 void CalculGains::lancerBilan() {
-    Atelier& atelier = contexte_.atelier;
+    const Atelier& atelier = contexte_.atelier;
     const int n = atelier.base.NbTirages;
     if (n < 1) return;
     const int inf = std::clamp(atelier.StatsNumeros.inf, 1, n);
     const int sup = atelier.StatsNumeros.sup < inf ? n : std::min(atelier.StatsNumeros.sup, n);
-    // The busy rule keeps base and configuration as they are until the end.
     const auto texte = std::make_shared<std::string>();
+    // The busy rule keeps base and configuration as they are until the end.
     auto travail = FaireTravail(
         {GenreTravail::Bilan},
-        [texte, inf, sup, &base = atelier.base, grilles = atelier.ListeGrilles,
+        [texte, inf, sup, &base = atelier.base, grilles = atelier.billets.ListeGrilles,
          monnaie =
              monnaieDe(atelier.configuration.reglages)](const Suivi& suivi) -> Resultat<Rien> {
-            SuiviBilan bilan{[&suivi](int pourcent) { suivi.poser(pourcent); }, suivi.arret, 0};
-            *texte = RedigerBilan(base, inf, sup, grilles, monnaie, bilan).value_or(std::string());
+            *texte = RedigerBilan(base, inf, sup, grilles, monnaie, suivi).value_or(std::string());
             return Rien{};
         });
-    if (contexte_.travaux.lancer(std::move(travail),
-                                 {u"Bilan des gains en cours..."_s, &jauge_, nullptr}, this,
-                                 [this, texte](Travail& fini) { finirBilan(*texte, fini); })) {
-        poser(Action::Arreter);
-    } else {
+    if (!contexte_.travaux.lancer(std::move(travail),
+                                  {u"Bilan des gains en cours..."_s, jauge_, nullptr}, this,
+                                  [this, texte](Travail& fini) { finirBilan(*texte, fini); })) {
         contexte_.services.messages->MessageErreur(contexte_.travaux.erreur(), u"Erreur"_s);
     }
+    Q_EMIT enCoursChange();
 }
 
 void CalculGains::finirBilan(const std::string& texte, const Travail& travail) {
-    poser(Action::Bilan);
+    Q_EMIT enCoursChange();
     // A window that waits for the end of the work closes now, without a word on it.
     if (contexte_.atelier.activite.QuitterEnAttente) return;
     if (!travail.erreur().empty()) {
@@ -141,10 +103,6 @@ void CalculGains::finirBilan(const std::string& texte, const Travail& travail) {
     } else if (!travail.arrete()) {
         publier(NomBilan, texte);
     }
-}
-
-void CalculGains::arreter() {
-    contexte_.travaux.arreter();
 }
 
 }  // namespace norvane::ui

@@ -9,7 +9,6 @@
 #include <string>
 
 class QProgressBar;
-class QPushButton;
 
 namespace norvane {
 class Travail;
@@ -23,34 +22,26 @@ class CalculGains final : public QObject {
     Q_OBJECT
 
  public:
-    /// What a click does; the caption of the button follows.
-    enum class Action { Verifier, Bilan, Arreter };
+    CalculGains(Contexte& ctx, QProgressBar* jauge, QObject* parent);
 
-    CalculGains(Contexte& ctx, QPushButton& VerifGains, QProgressBar& jauge);
-    ~CalculGains() override;
-
-    Action action() const { return action_; }
-    /// The button gives the balance, or the verification. Not during work.
-    void poserBilan(bool bilan);
-    /// `tirage`: the record on show, -1 for none.
+    /// The balance is being worked out.
+    bool enCours() const;
+    /// Stops the balance under way; without one, writes the report that the tickets on show ask
+    /// for. `tirage`: the record on show, -1 for none.
     void VerifGainsClick(int tirage);
-    void arreter();
 
  Q_SIGNALS:
-    /// The work began or is over: commands follow.
-    void actionChange();
+    /// The balance began or is over.
+    void enCoursChange();
 
  private:
-    void poser(Action action);
     void verifier(int tirage);
     void lancerBilan();
     void finirBilan(const std::string& texte, const Travail& travail);
     void publier(const char* nom, const std::string& texte);
 
     Contexte& contexte_;
-    QPushButton& VerifGains_;
-    QProgressBar& jauge_;
-    Action action_ = Action::Verifier;
+    QProgressBar* jauge_;
 };
 
 }  // namespace norvane::ui

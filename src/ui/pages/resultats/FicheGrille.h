@@ -5,34 +5,22 @@
 #pragma once
 
 #include <QWidget>
-#include <vector>
 
-#include "widgets/RangeeGrille.h"
+#include "atelier/Cases.h"
+#include "base/Configuration.h"
+#include "tickets/SaisieBillets.h"
 
 class QCheckBox;
 class QLabel;
 class QLayout;
 class QPropertyAnimation;
-class QPushButton;
 class QRadioButton;
 class QStackedWidget;
 
 namespace norvane::ui {
 
 class ChampNumero;
-class Fiche;
-class HautBas;
-
-/// One ticket as the card shows it.
-struct VueGrille {
-    std::vector<CaseGrille> numeros, chances;
-    QString mise, francs;  ///< the stake and its hint
-    QString sortis, gain, gainFrancs;
-    QString note;           ///< what keeps the ticket from being complete
-    int numero = 0;         ///< its place in the list, one-based
-    int nombre = 0;         ///< places in the list
-    bool resultat = false;  ///< the ticket is checked: sortis and gain have a meaning
-};
+class RangeeGrille;
 
 class FicheGrille final : public QWidget {
     Q_OBJECT
@@ -42,42 +30,56 @@ class FicheGrille final : public QWidget {
 
     /// A title and some lines, no ticket.
     void montrerTexte(const QString& titre, const QString& texte);
-    /// One ticket. Edit1 follows without a word to the others.
-    void montrerGrille(const QString& titre, const VueGrille& vue);
+    /// One ticket, in the colour of its place in the list when it is `enMain`; `sorties`: what of
+    /// it came out.
+    void montrerGrille(const QString& titre, const CarteGrille& carte, const Cases& sorties,
+                       bool enMain, const Reglages& reglages);
+    void montrerOption(bool option2nd);
+    void montrerListe(bool recu);
     /// Lets "Plus de Grilles en mémoire" appear and fade, or takes it away.
     void annoncerVide(bool vide);
 
-    // Read and connected by the entry; their object names are their own.
-    QLabel* LabelSelection = nullptr;
-    ChampNumero* Edit1 = nullptr;
-    HautBas* UpDown = nullptr;
-    QCheckBox* CheckBox2ND = nullptr;
-    QRadioButton* RadioButtonJeu = nullptr;
-    QRadioButton* RadioButtonSimple = nullptr;
-    QPushButton* AddGrille = nullptr;
-    QPushButton* SupprGrille = nullptr;
-    QPushButton* SupprAllGrilles = nullptr;
+ Q_SIGNALS:
+    void AddGrilleClick();
+    void SupprGrilleClick();
+    void SupprAllGrillesClick();
+    void optionChoisie(bool option2nd);
+    void listeChoisie(bool recu);
+    /// Another ticket is asked for, by its number or one as far as `pas` from the one on show.
+    void numeroDemande(int numero);
+    void deplacement(int pas);
 
  private:
     QLayout* creerTete(QWidget* parent);
     QWidget* creerGrille(QWidget* parent);
+    QLayout* creerMise(QWidget* parent);
+    QWidget* creerNotes(QWidget* parent);
+    QWidget* creerResultat(QWidget* parent);
     QLayout* creerPied(QWidget* parent);
+    QWidget* creerChoixListe(QWidget* parent);
+    void montrerResultat(const ResultatGrille& resultat, const Reglages& reglages);
 
+    int nombre_ = 0;  ///< places in the list on show
     QStackedWidget* corps_ = nullptr;
+    QLabel* titre_ = nullptr;
     QLabel* texte_ = nullptr;
     QWidget* grille_ = nullptr;
     QWidget* choix_ = nullptr;
+    ChampNumero* numero_ = nullptr;
     QLabel* surGrilles_ = nullptr;
-    RangeeGrille* Panel3 = nullptr;
-    RangeeGrille* Panel5 = nullptr;
-    QLabel* LabelCompteGrille = nullptr;
-    QLabel* LabelMiseF = nullptr;
-    QStackedWidget* ligneResultat_ = nullptr;  // note or result
+    RangeeGrille* numeros_ = nullptr;
+    RangeeGrille* chances_ = nullptr;
+    QLabel* type_ = nullptr;
+    QLabel* mise_ = nullptr;
+    QCheckBox* option_ = nullptr;
+    QStackedWidget* ligneResultat_ = nullptr;  ///< note or result
     QLabel* note_ = nullptr;
-    QLabel* LabelNumSortis = nullptr;
-    QLabel* LabelGainF = nullptr;
-    QLabel* LabelGrillesVides = nullptr;
+    QLabel* sortis_ = nullptr;
+    QLabel* gain_ = nullptr;
+    QLabel* vides_ = nullptr;
     QPropertyAnimation* fondu_ = nullptr;
+    QRadioButton* recu_ = nullptr;
+    QRadioButton* grilles_ = nullptr;
 };
 
 }  // namespace norvane::ui

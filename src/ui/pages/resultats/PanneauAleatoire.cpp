@@ -22,6 +22,7 @@ namespace norvane::ui {
 using namespace Qt::StringLiterals;
 
 PanneauAleatoire::PanneauAleatoire(QWidget* parent) : QWidget(parent) {
+    setObjectName(u"PanneauAleatoire"_s);
     auto* pile = new QVBoxLayout(this);
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(Unite);
@@ -50,26 +51,28 @@ QWidget* PanneauAleatoire::creerTypes() {
 }
 
 QLayout* PanneauAleatoire::creerNombre() {
-    ButtonAleatoire =
-        bouton(u"ButtonAleatoire"_s, u"Grille(s) &Aléatoire(s)"_s,
-               u"Une grille sur la planche, ou plusieurs ajoutées à la liste"_s, this);
-    ButtonAleatoire->setMinimumHeight(ButtonAleatoire->minimumHeight() - Unite);
-    Edit24 = new ChampNumero(u"Edit24"_s, this);
-    Edit24->setAccessibleName(u"Nombre de grilles aléatoires"_s);
-    Edit24->setFixedWidth(Edit24->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
-    UpDown24 = new HautBas(u"UpDown24"_s, this);
-    for (QWidget* w : {static_cast<QWidget*>(Edit24), static_cast<QWidget*>(UpDown24)}) {
+    tirer_ = bouton(u"ButtonAleatoire"_s, u"Grille(s) &Aléatoire(s)"_s,
+                    u"Une grille sur la planche, ou plusieurs ajoutées à la liste"_s, this);
+    tirer_->setMinimumHeight(tirer_->minimumHeight() - Unite);
+    nombre_ = new ChampNumero(u"Edit24"_s, this);
+    nombre_->setAccessibleName(u"Nombre de grilles aléatoires"_s);
+    nombre_->setFixedWidth(nombre_->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
+    auto* fleches = new HautBas(u"UpDown24"_s, this);
+    for (QWidget* w : {static_cast<QWidget*>(nombre_), static_cast<QWidget*>(fleches)}) {
         poserIndice(w, u"Sélection du nombre de grilles à générer aléatoirement"_s);
     }
     surReste_ = legende({}, this);
     surReste_->setObjectName(u"LabelReste"_s);
-    connect(ButtonAleatoire, &QPushButton::clicked, this, &PanneauAleatoire::ButtonAleatoireClick);
-    connect(Edit24, &QLineEdit::textChanged, this, &PanneauAleatoire::borner);
-    connect(Edit24, &ChampNumero::deplacement, this, &PanneauAleatoire::deplacer);
-    connect(Edit24, &ChampNumero::extremite, this,
-            [this](bool dernier) { Edit24->setText(QString::number(dernier ? reste_ : 1)); });
-    connect(UpDown24, &HautBas::deplacement, this, &PanneauAleatoire::deplacer);
-    auto* ligne = rangee({ButtonAleatoire, Edit24, UpDown24, surReste_});
+    connect(tirer_, &QPushButton::clicked, this, [this] {
+        Q_EMIT ButtonAleatoireClick(TypesVendus[static_cast<std::size_t>(types_->checkedId())],
+                                    nombre());
+    });
+    connect(nombre_, &QLineEdit::textChanged, this, &PanneauAleatoire::borner);
+    connect(nombre_, &ChampNumero::deplacement, this, &PanneauAleatoire::deplacer);
+    connect(nombre_, &ChampNumero::extremite, this,
+            [this](bool dernier) { nombre_->setText(QString::number(dernier ? reste_ : 1)); });
+    connect(fleches, &HautBas::deplacement, this, &PanneauAleatoire::deplacer);
+    auto* ligne = rangee({tirer_, nombre_, fleches, surReste_});
     ligne->insertSpacing(1, Unite);
     ligne->addStretch(1);
     return ligne;
@@ -79,24 +82,20 @@ void PanneauAleatoire::poserReste(int reste) {
     if (reste == reste_) return;
     reste_ = reste;
     surReste_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(reste))));
-    Edit24->setText(QString::number(reste));
-}
-
-TypeGrille PanneauAleatoire::type() const {
-    return TypesVendus[static_cast<std::size_t>(types_->checkedId())];
+    nombre_->setText(QString::number(reste));
 }
 
 int PanneauAleatoire::nombre() const {
-    return Edit24->text().toInt();
+    return nombre_->text().toInt();
 }
 
 void PanneauAleatoire::deplacer(int pas) {
-    Edit24->setText(QString::number(std::clamp(nombre() + pas, 0, reste_)));
+    nombre_->setText(QString::number(std::clamp(nombre() + pas, 0, reste_)));
 }
 
 void PanneauAleatoire::borner() {
-    if (nombre() > reste_) Edit24->setText(QString::number(reste_));
-    ButtonAleatoire->setEnabled(!Edit24->text().isEmpty());
+    if (nombre() > reste_) nombre_->setText(QString::number(reste_));
+    tirer_->setEnabled(!nombre_->text().isEmpty());
 }
 
 }  // namespace norvane::ui

@@ -26,24 +26,23 @@ class PanneauAleatoire final : public QWidget {
 
     /// At most `reste` tickets can be asked for; Edit24 shows that figure.
     void poserReste(int reste);
-    TypeGrille type() const;
-    int nombre() const;
 
  Q_SIGNALS:
-    void ButtonAleatoireClick();
+    /// So many tickets of that type are asked for.
+    void ButtonAleatoireClick(norvane::TypeGrille type, int nombre);
 
  private:
     QWidget* creerTypes();
     QLayout* creerNombre();
+    int nombre() const;
     void deplacer(int pas);
     void borner();
 
     int reste_ = 0;
     QButtonGroup* types_ = nullptr;
-    ChampNumero* Edit24 = nullptr;
-    HautBas* UpDown24 = nullptr;
+    ChampNumero* nombre_ = nullptr;
     QLabel* surReste_ = nullptr;
-    QPushButton* ButtonAleatoire = nullptr;
+    QPushButton* tirer_ = nullptr;
 };
 
 }  // namespace norvane::ui

@@ -27,12 +27,9 @@ namespace {
 constexpr int Simple = 0;  // items of the ratio group
 constexpr int Graphique = 1;
 
+constexpr auto Pos = static_cast<int>(ColonneStats::Pos);
 constexpr auto Num = static_cast<int>(ColonneStats::Num);
 constexpr auto Ratio = static_cast<int>(ColonneStats::Ratio);
-constexpr auto Date = static_cast<int>(ColonneStats::Date);
-constexpr auto E = static_cast<int>(ColonneStats::E);
-constexpr auto EMax = static_cast<int>(ColonneStats::EcartMax);
-constexpr auto SMax = static_cast<int>(ColonneStats::SuiteMax);
 
 constexpr double LargeurReglages = 300;  // design units, at most
 
@@ -87,12 +84,13 @@ PageStats::PageStats(Contexte& ctx, GenreStats genre, QWidget* parent)
     : Page(ctx, textesDe(genre).page, genre == GenreStats::Numeros ? u"Numéros"_s : u"Chances"_s,
            parent),
       genre_(genre),
-      textes_(textesDe(genre)) {
-    table_ = new VueTableau(ColonnesStats(genre), 2, ctx.Echelle, this);
+      textes_(textesDe(genre)),
+      bornes_(genre == GenreStats::Numeros ? ctx.atelier.StatsNumeros : ctx.atelier.StatsChances) {
+    table_ = new VueTableau(colonnesStats(genre), 2, ctx.Echelle, this);
     table_->setObjectName(textes_.table);
     table_->setAccessibleName(u"Statistiques sur "_s + textes_.objet);
-    table_->modele().poserDegrades(DegradesStats(genre));
-    table_->poserBulle([this](const QModelIndex& i) { return BulleRatio(*table_, i, Ratio); });
+    table_->modele().poserDegrades(degradesStats(genre));
+    table_->poserBulle([this](const QModelIndex& i) { return bulleRatio(*table_, i); });
     connect(table_, &VueTableau::celluleActivee, this, &PageStats::surActivation);
 
     auto* corps = new QHBoxLayout(this);
@@ -100,10 +98,6 @@ PageStats::PageStats(Contexte& ctx, GenreStats genre, QWidget* parent)
     corps->setSpacing(3 * Unite);
     auto* colonne = new QVBoxLayout;
     colonne->addWidget(table_, 1);
-    if (genre == GenreStats::Chances) {
-        construireCouples();
-        colonne->addWidget(tableCouples_);
-    }
     // A table shorter than the page stays at its top.
     colonne->addStretch(0);
     corps->addLayout(colonne, 0);
@@ -129,8 +123,7 @@ QLayout* PageStats::construireReglages() {
     dedans->setSpacing(2 * Unite);
     dedans->addWidget(intervalle_);
     dedans->addWidget(libelle_);
-    connect(intervalle_, &PaireIntervalle::intervalleChange, this,
-            [this] { remplirParControles(); });
+    connect(intervalle_, &PaireIntervalle::intervalleChange, this, &PageStats::changerBornes);
 
     auto* reglages = new QVBoxLayout;
     reglages->setContentsMargins(0, 0, 0, 0);
@@ -158,7 +151,12 @@ QGroupBox* PageStats::construireRatio() {
     }
     rangee->addStretch(1);
     ratio_->button(Graphique)->setChecked(true);
-    connect(ratio_, &QButtonGroup::idClicked, this, [this] { remplirParControles(); });
+    // One stop of the tab key, at the choice made; the toolkit sees to it from the first focus on.
+    ratio_->button(Simple)->setFocusPolicy(Qt::ClickFocus);
+    connect(ratio_, &QButtonGroup::idClicked, this, [this](int choisi) {
+        graphique_ = choisi == Graphique;
+        remplirBornes();
+    });
     return groupe;
 }
 
@@ -192,7 +190,7 @@ QGroupBox* PageStats::construireLegende() {
         grille->addWidget(signe, rang, 0, Qt::AlignCenter);
         grille->addWidget(new QLabel(sens, groupe), rang, 1);
     };
-    const std::vector<DegradeCellule> degrades = DegradesStats(genre_);
+    const std::vector<DegradeCellule> degrades = degradesStats(genre_);
     for (const bool present : {true, false}) {
         const DegradeCellule& d = degrades[present ? 1 : 0];
         const int cote = fontMetrics().height();
@@ -221,18 +219,6 @@ QGroupBox* PageStats::construireLegende() {
     return groupe;
 }
 
-void PageStats::construireCouples() {
-    tableCouples_ = new VueTableau(ColonnesCouples(), 1, contexte.Echelle, this);
-    tableCouples_->setObjectName(u"AdvStringGrid5"_s);
-    std::vector<LigneTableau> vides(56, LigneTableau(tableCouples_->modele().colonnes().size()));
-    for (LigneTableau& ligne : vides) {
-        ligne.front().indice =
-            u"Double cliquez sur ce libellé pour afficher l'historique correspondant..."_s;
-    }
-    tableCouples_->remplir(std::move(vides));
-    tableCouples_->hide();
-}
-
 void PageStats::poserOrdreTabulation() {
     QWidget* precedent = table_;
     for (QWidget* suivant :
@@ -251,10 +237,10 @@ void PageStats::poserOrdreTabulation() {
 void PageStats::reposerBornes() {
     const Base& base = contexte.atelier.base;
     const int n = base.NbTirages;
+    bornes_ = {1, n};
     intervalle_->poser(n, 1, n);
     intervalle_->poserAttenteSaisie(genre_ == GenreStats::Chances && !base.AnciensTirages);
     intervalle_->setEnabled(n >= 2);
-    direIntervalle();
     boutonSauver_->setEnabled(n >= 2);
     boutonImprimer_->setEnabled(n >= 2);
     if (n >= 2) {
@@ -262,14 +248,14 @@ void PageStats::reposerBornes() {
         return;
     }
     libelle_->clear();
-    lignes_.clear();
     table_->remplir({});
 }
 
-/// Other pages work over the interval of "Numéros".
-void PageStats::direIntervalle() {
-    if (genre_ != GenreStats::Numeros) return;
-    contexte.atelier.StatsNumeros = {intervalle_->inf(), intervalle_->sup()};
+void PageStats::changerBornes(int inf, int sup) {
+    const bool autres = bornes_ != IntervalleStats{inf, sup};
+    bornes_ = {inf, sup};
+    remplirBornes();
+    if (autres) contexte.relais.annoncer({.intervalle = true});
 }
 
 void PageStats::remplirDemarrage() {
@@ -280,19 +266,18 @@ void PageStats::remplirDemarrage() {
 void PageStats::surChange(const Changement& changement) {
     if (!changement.base) return;
     reposerBornes();
-    remplirParControles();
+    remplirBornes();
 }
 
 void PageStats::surDepart() {
     table_->cacherBulle();
 }
 
-void PageStats::remplirParControles() {
+void PageStats::remplirBornes() {
     const Base& base = contexte.atelier.base;
     if (base.NbTirages < 2) return;
-    direIntervalle();
-    libelle_->setText(versQt(LibelleIntervalle(base, intervalle_->inf(), intervalle_->sup())));
-    remplir(intervalle_->sup() - 1, intervalle_->inf() - 1);
+    libelle_->setText(versQt(LibelleIntervalle(base, bornes_.inf, bornes_.sup)));
+    remplir(bornes_.sup - 1, bornes_.inf - 1);
 }
 
 void PageStats::remplir(int dernier, int premier) {
@@ -304,96 +289,52 @@ void PageStats::remplir(int dernier, int premier) {
 }
 
 void PageStats::RemplirStatsNumeros(const Occurrences& occ, int dernier, int premier) {
-    poserLignes(RemplirStats(GenreStats::Numeros, contexte.atelier.base, occ, premier, dernier),
-                dernier, premier);
+    poserLignes(RemplirStats(GenreStats::Numeros, contexte.atelier.base, occ, premier, dernier));
 }
 
 void PageStats::RemplirStatsChances(const Occurrences& occ, int dernier, int premier) {
-    poserLignes(RemplirStats(GenreStats::Chances, contexte.atelier.base, occ, premier, dernier),
-                dernier, premier);
+    poserLignes(RemplirStats(GenreStats::Chances, contexte.atelier.base, occ, premier, dernier));
 }
 
-void PageStats::poserLignes(std::vector<LigneStats> lignes, int dernier, int premier) {
-    lignes_ = std::move(lignes);
-    premier_ = premier;
-    dernier_ = dernier;
+void PageStats::poserLignes(const std::vector<LigneStats>& lignes) {
     std::vector<LigneTableau> rangees;
-    rangees.reserve(lignes_.size());
-    for (const LigneStats& ligne : lignes_) {
-        const ResultatStats& r = ligne.resultat;
-        // Raw values of columns Pos to SuiteMax; the texts carry what else stands in the cells.
-        const int bruts[NbColonnesStats] = {ligne.element,
-                                            ligne.element,
-                                            r.Sorties,
-                                            ligne.ratioGraphique,
-                                            dernier + 1 - r.Ecart,
-                                            r.Ecart,
-                                            r.SommeEcarts,
-                                            r.EcartMax,
-                                            r.Suite,
-                                            r.SuiteMax};
-        LigneTableau rangee(NbColonnesStats);
-        for (std::size_t c = 0; c < rangee.size(); ++c) {
-            rangee[c].texte = ligne.cellules[c];
-            rangee[c].brut = bruts[c];
-            if (c <= static_cast<std::size_t>(Num)) rangee[c].degrade = ligne.present ? 1 : 0;
-        }
-        rangee[static_cast<std::size_t>(Num)].indice = textes_.indiceElement;
-        rangee[static_cast<std::size_t>(Ratio)] = CelluleRatio(
-            ligne.cellules[static_cast<std::size_t>(Ratio)], ligne.ratioGraphique, graphique());
+    rangees.reserve(lignes.size());
+    for (const LigneStats& ligne : lignes) {
+        LigneTableau rangee = ligneTableau(ligne.cellules);
+        rangee[Pos].degrade = rangee[Num].degrade = ligne.present ? 1 : 0;
+        rangee[Num].indice = textes_.indiceElement;
+        rangee[Ratio] = celluleRatio(ligne.cellules[Ratio], graphique_);
         rangees.push_back(std::move(rangee));
     }
     table_->remplir(std::move(rangees));
 }
 
-bool PageStats::graphique() const {
-    return ratio_->checkedId() == Graphique;
-}
-
 // ---------------------------------------------------------------------------------------- commands
 
 void PageStats::surActivation(const QModelIndex& index) {
-    const LigneStats& ligne =
-        lignes_[static_cast<std::size_t>(table_->modele().origine(index.row()))];
-    switch (index.column()) {
-        case Num:
-            ouvrirHistorique(ligne);
-            break;
-        case Date:
-        case E:
-            if (ligne.resultat.Ecart != dernier_ - premier_ + 1) {
-                demanderTirage(dernier_ + 1 - ligne.resultat.Ecart, ligne);
-            }
-            break;
-        case EMax:
-        case SMax:
-            demanderTirage(TirageMaximum(table_->modele().texte(index), intervalle_->inf()), ligne);
-            break;
-        default:
-            break;
-    }
-}
-
-void PageStats::ouvrirHistorique(const LigneStats& ligne) {
-    if (ligne.resultat.Sorties == 0) {
-        contexte.services.messages->MessageInfo(textes_.nonSorti, u"Message"_s);
+    const ModeleTableau& modele = table_->modele();
+    const auto& element = modele.cellule(index.siblingAtColumn(Num)).cible;
+    if (!element) {  // never came out: no cell leads anywhere
+        if (index.column() == Num) {
+            contexte.services.messages->MessageInfo(textes_.nonSorti, u"Message"_s);
+        }
         return;
     }
-    contexte.relais.aller(
-        VersHistorique{Element{genre_, ligne.element}, intervalle_->inf(), intervalle_->sup()});
-}
-
-void PageStats::demanderTirage(int numero, const LigneStats& ligne) {
-    if (numero < 1 || numero > contexte.atelier.base.NbTirages) return;
-    contexte.relais.aller(VersTirage{numero, Element{genre_, ligne.element}});
+    const auto& cible = modele.cellule(index).cible;
+    if (!cible) return;
+    if (const auto* tirage = std::get_if<NumeroTirage>(&*cible)) {
+        contexte.relais.aller(VersTirage{tirage->numero, std::get<Element>(*element)});
+    } else {
+        contexte.relais.aller(VersHistorique{std::get<Element>(*cible), bornes_.inf, bornes_.sup});
+    }
 }
 
 TableauExporte PageStats::tableauExporte() const {
     TableauExporte sortie;
     sortie.titre.push_back("Statistiques sur " + textes_.objet.toStdString());
-    for (const QString& ligne : libelle_->text().split(u'\n')) {
-        sortie.titre.push_back(ligne.toStdString());
-    }
+    const QString libelle =
+        versQt(LibelleIntervalle(contexte.atelier.base, bornes_.inf, bornes_.sup));
+    for (const QString& ligne : libelle.split(u'\n')) sortie.titre.push_back(ligne.toStdString());
     const ModeleTableau& modele = table_->modele();
     for (const ColonneTableau& c : modele.colonnes()) {
         sortie.entetes.push_back(c.entete.toStdString());
@@ -403,9 +344,7 @@ TableauExporte PageStats::tableauExporte() const {
         std::vector<std::string> cellules;
         cellules.reserve(NbColonnesStats);
         for (int c = 0; c < NbColonnesStats; ++c) {
-            cellules.push_back(c == Ratio ? lignes_[static_cast<std::size_t>(modele.origine(l))]
-                                                .cellules[static_cast<std::size_t>(Ratio)]
-                                          : modele.texte(modele.index(l, c)));
+            cellules.push_back(modele.texte(modele.index(l, c)));
         }
         sortie.lignes.push_back(std::move(cellules));
     }

@@ -10,6 +10,7 @@
 
 #include "pages/Page.h"
 #include "stats/ExportTableau.h"
+#include "stats/TableauStats.h"
 
 class QButtonGroup;
 class QGroupBox;
@@ -38,30 +39,25 @@ class PageStats final : public Page {
     void RemplirStatsNumeros(const Occurrences& occ, int dernier, int premier);
     void RemplirStatsChances(const Occurrences& occ, int dernier, int premier);
 
-    /// The table on show, in its order, with the ratio as its precise text.
-    TableauExporte tableauExporte() const;
-
  private:
     QLayout* construireReglages();
     QGroupBox* construireRatio();
     QLayout* construireBoutons();
     QGroupBox* construireLegende();
-    void construireCouples();
     void poserOrdreTabulation();
 
     /// The first table of a run: the controls read the whole base while the table leaves its
     /// first record out, until a control or the ratio group is used.
     void remplirDemarrage();
     void reposerBornes();
-    void direIntervalle();
-    void remplirParControles();
+    void changerBornes(int inf, int sup);
+    void remplirBornes();
     void remplir(int dernier, int premier);
-    void poserLignes(std::vector<LigneStats> lignes, int dernier, int premier);
-    bool graphique() const;
+    void poserLignes(const std::vector<LigneStats>& lignes);
 
     void surActivation(const QModelIndex& index);
-    void ouvrirHistorique(const LigneStats& ligne);
-    void demanderTirage(int numero, const LigneStats& ligne);
+    /// The table on show, in its order, with the ratio as its exact text. Two draws at least.
+    TableauExporte tableauExporte() const;
     void sauver();
     void imprimer();
 
@@ -70,17 +66,14 @@ class PageStats final : public Page {
 
     const GenreStats genre_;
     const Textes& textes_;
+    IntervalleStats& bornes_;  // of this page, in the atelier
+    bool graphique_ = true;    // the ratio as a bar
     VueTableau* table_ = nullptr;
-    VueTableau* tableCouples_ = nullptr;  // "Chances" only
     PaireIntervalle* intervalle_ = nullptr;
     QLabel* libelle_ = nullptr;
     QButtonGroup* ratio_ = nullptr;
     QPushButton* boutonSauver_ = nullptr;
     QPushButton* boutonImprimer_ = nullptr;
-
-    std::vector<LigneStats> lignes_;  // in element order
-    int premier_ = 0;                 // records that the table on show speaks of
-    int dernier_ = -1;
 };
 
 }  // namespace norvane::ui

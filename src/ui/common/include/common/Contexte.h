@@ -10,7 +10,6 @@
 #include <string>
 
 #include "atelier/Atelier.h"
-#include "common/Modes.h"
 #include "common/Relais.h"
 #include "common/Services.h"
 #include "common/Travaux.h"
@@ -20,7 +19,6 @@ namespace norvane::ui {
 struct Contexte {
     Atelier& atelier;
     Services& services;
-    Modes& modes;
     Travaux& travaux;
     Relais& relais;
     double Echelle = 1.0;         ///< screen height / 600: factor of every size set in pixels

@@ -9,18 +9,10 @@
 #include <vector>
 
 #include "base/Ensemble.h"
-#include "stats/TableauStats.h"
+#include "stats/Cellule.h"
 #include "tickets/Grille.h"
 
 namespace norvane::ui {
-
-/// A number, or a Chance.
-struct Element {
-    GenreStats genre;
-    int valeur;
-
-    friend bool operator==(const Element&, const Element&) = default;
-};
 
 /// The page "Résultats" on a draw, whatever was going on there; `appuyer` is pressed if it is up.
 struct VersTirage {

@@ -22,7 +22,7 @@ void chargerRessources();
 /// Sets style, palette, fonts and style sheet of the whole application. `Auto` follows the desktop.
 void appliquerTheme(QApplication& app, Apparence apparence);
 
-/// The look that a word of the configuration names: auto, claire or sombre.
+/// The look that a word of the configuration names: claire, sombre, and auto for any other.
 Apparence apparenceDe(const std::string& cle);
 
 /// True when a palette is a dark one.

@@ -35,9 +35,10 @@ class Travaux final : public QObject {
 
     /// Starts `travail`. `fin` is called on the main thread when it is through, however it ended,
     /// and no longer counts; never when `pour` is gone by then. At most one work runs at a time:
-    /// the busy rule is the caller's to ask first (Contexte::refuserSiOccupe). False, with a
-    /// sentence in erreur(), when the machine could not start it.
-    bool lancer(PtrTravail travail, const VueTravail& vue, QObject* pour,
+    /// the busy rule is the caller's to ask first (Contexte::refuserSiOccupe); std::logic_error,
+    /// and nothing changed, where one runs all the same. False, with a sentence in erreur(), when
+    /// the machine could not start it: it stays the caller's then.
+    bool lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                 std::function<void(Travail&)> fin);
 
     /// Asks the work in hand to stop; does nothing without one.
@@ -50,7 +51,6 @@ class Travaux final : public QObject {
     double duree() const { return duree_; }
 
  Q_SIGNALS:
-    void commence(const norvane::DescriptionTravail& description);
     /// Text for the status bar: of the work in hand, empty at its end.
     void texteEtat(const QString& texte);
     /// The work is through, its end was delivered and the program is at rest again.

@@ -22,8 +22,6 @@ class Aide final : public QObject {
     /// Opens the help; ignored until the tenth tick of the timer after the last opening.
     void ouvrir();
 
-    QTimer Timer4;  ///< one tick a second, runs from an opening to its tenth tick
-
  Q_SIGNALS:
     /// The tenth tick: the balloons go too.
     void gardeLevee();
@@ -32,6 +30,7 @@ class Aide final : public QObject {
     void battre();
 
     Contexte& contexte_;
+    QTimer garde_;  // "Timer4": one tick a second, runs from an opening to its tenth tick
     int battements_ = 0;
 };
 

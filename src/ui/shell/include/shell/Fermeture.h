@@ -16,8 +16,6 @@ class Fermeture {
 
     /// Asks the running worker to stop; called when the window is closed during its work.
     std::function<void()> arreterTraitement = [] {};
-    /// In the entry of tickets: puts the one on show into the list, or drops it.
-    std::function<void()> rangerGrilleEnMain = [] {};
 
     /// Asks what has to be asked and saves what has to be saved. True when the window may close;
     /// on false everything is as it was.
@@ -27,7 +25,7 @@ class Fermeture {
     bool fermerApresAjout();
     bool fermerModeNormal();
     bool fermerSelection();
-    bool sauverGrilles(const std::vector<Grille>& grilles);
+    bool sauverGrilles();
     bool sauverBase();
     bool restaurerFiltre();
     /// Tells a failed save and asks whether to leave all the same.

@@ -14,6 +14,6 @@ inline constexpr const char* NomInstance = "norvane-atelier-du-loto";
 /// Runs the program and gives its exit code back: 0, also when another instance runs, in which
 /// case nothing shows at all. `premierePeinture` is called once when the main window has been
 /// painted.
-int Lancer(int argc, char** argv, const std::function<void()>& premierePeinture = {});
+int lancer(int argc, char** argv, const std::function<void()>& premierePeinture = {});
 
 }  // namespace norvane::ui

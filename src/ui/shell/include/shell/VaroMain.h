@@ -36,9 +36,6 @@ class TVaroMainForm final : public QMainWindow {
     /// Shows the window at its place, or ends the program at once on a base below two records.
     void montrer();
 
-    Contexte& contexte() { return contexte_; }
-    Modes modes;
-
     /// Closes the window with all its questions.
     void ExitClick() { close(); }
     /// Brings everything in line after the base in memory changed.

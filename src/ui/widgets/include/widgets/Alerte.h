@@ -18,10 +18,6 @@ class Alerte final : public QWidget {
 
     void montrer(const QString& titre, const QString& texte);
 
-    QString titre() const { return titre_; }
-    QString texte() const { return texte_; }
-    QTimer Duree;  ///< single shot, running while it shows
-
     QSize sizeHint() const override;
 
  protected:
@@ -33,6 +29,7 @@ class Alerte final : public QWidget {
     void placer();
     QFont policeTitre() const;
 
+    QTimer duree_;  // single shot, running while it shows
     QString titre_;
     QString texte_;
 };

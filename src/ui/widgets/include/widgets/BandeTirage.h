@@ -5,18 +5,17 @@
 #pragma once
 
 #include <array>
-#include <QColor>
 #include <QLabel>
 #include <QWidget>
 
-#include "base/Tirage.h"
+#include "atelier/Cases.h"
 
 namespace norvane::ui {
 
 /// One ball. Its text is the number, empty for none.
 class CelluleTirage final : public QLabel {
  public:
-    CelluleTirage(QColor cercle, const QString& nom, QWidget* parent);
+    CelluleTirage(GenreStats genre, const QString& nom, QWidget* parent);
 
     /// Writes the value (0 for none); `commune` shows it in the colour of its kind of common value.
     void montrer(int valeur, bool commune);
@@ -28,9 +27,8 @@ class CelluleTirage final : public QLabel {
     void paintEvent(QPaintEvent* evenement) override;
 
  private:
-    QColor cercle_;
+    GenreStats genre_;
     QString nom_;
-    bool chance_;
     bool commune_ = false;
 };
 
@@ -44,18 +42,15 @@ class BandeTirage final : public QWidget {
 
     /// Five narrow cells with the Chance, or five wide ones without it.
     void disposer(bool avecChance);
-    bool avecChance() const { return avecChance_; }
 
-    /// Which of the six values are shown as common with the record before.
-    using Communs = std::array<bool, NbBoules + 1>;
-    void afficher(const Tirage& tirage, const Communs& communs);
+    /// `communs`: the values that are shown as common with the record before.
+    void afficher(const Tirage& tirage, const Cases& communs);
     void vider();
 
     const CelluleTirage* cellule(int i) const { return cellules_[static_cast<std::size_t>(i)]; }
 
  private:
     double echelle_;
-    bool avecChance_ = true;
     std::array<CelluleTirage*, NbBoules + 1> cellules_{};
     QWidget* image_;
 };

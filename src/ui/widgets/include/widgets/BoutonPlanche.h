@@ -7,7 +7,7 @@
 #include <QAbstractButton>
 #include <QColor>
 
-#include "stats/TableauStats.h"
+#include "stats/Cellule.h"
 
 namespace norvane::ui {
 

@@ -19,9 +19,6 @@ class Bulle final : public QWidget {
     /// room; with an empty text nothing shows.
     void montrer(const QString& titre, const QString& texte, const QRect& cible);
 
-    QString titre() const { return titre_; }
-    QString texte() const { return texte_; }
-
     QSize sizeHint() const override;
 
  protected:

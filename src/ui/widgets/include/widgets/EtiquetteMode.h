@@ -20,14 +20,13 @@ class EtiquetteMode final : public QLabel {
     /// True while the label stands in its other colour.
     bool alerte() const { return alerte_; }
 
-    QTimer Timer2;  ///< 500 ms; five ticks, the last sets the normal colour
-
  protected:
     void paintEvent(QPaintEvent* evenement) override;
 
  private:
     void battre();
 
+    QTimer clignotement_;  // "Timer2": 500 ms; five ticks, the last sets the normal colour
     int battements_ = 0;
     bool alerte_ = false;
 };

@@ -1,53 +1,48 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The list of combinations on show. It reads the engine's own lines or records and copies nothing.
+// A list of combinations on show. It reads the records where they lie and copies nothing.
 #pragma once
 
+#include <optional>
 #include <QAbstractListModel>
 #include <QListView>
 #include <QStyledItemDelegate>
-#include <string>
-#include <vector>
 
 #include "comb/EtatCombinaisons.h"
-#include "comb/LigneCombinaison.h"
+#include "lists/Liste.h"
 
 namespace norvane::ui {
 
 /// Which bound the count of a line reaches.
 enum class BorneLigne { Aucune, Inf, Sup };
 
+/// The lines of a list in its order, the first CapaciteListe of them.
 class ModeleCombinaisons final : public QAbstractListModel {
     Q_OBJECT
 
  public:
     static constexpr int RoleBorne = Qt::UserRole + 1;  ///< BorneLigne as an integer
 
+    /// Lines are coloured by the bounds of `etat`.
     ModeleCombinaisons(const EtatCombinaisons& etat, QObject* parent);
 
-    // What is shown stays the owner's: after it changed, show it again. At most CapaciteListe
-    // lines.
-    void montrerRien();
-    void montrerLignes(const std::vector<std::string>& lignes);
-    void montrerListe(const Arene& liste);
-    /// Without colours every line is an ordinary one.
+    /// Null: no line. The list stays its owner's: after it changed, show it again.
+    void montrer(const Liste* liste);
+    /// Without colours every line is an ordinary one. To be called too when the bounds changed.
     void poserCouleurs(bool couleurs);
 
-    bool montreListe() const { return liste_ != nullptr; }
-    /// The text of line `ligne`; empty when it is no more.
-    std::string texte(int ligne) const;
+    /// Nothing for a line that is no more.
+    std::optional<Combinaison> combinaison(int ligne) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
  private:
-    void montrer(const std::vector<std::string>* lignes, const Arene* liste);
-    BorneLigne borne(const std::string& ligne) const;
+    BorneLigne borne(const Combinaison& combinaison) const;
 
     const EtatCombinaisons& etat_;
-    const std::vector<std::string>* lignes_ = nullptr;
-    const Arene* liste_ = nullptr;
+    const Liste* liste_ = nullptr;
     int nombre_ = 0;
     bool couleurs_ = true;
 };

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The model behind a table on show: texts with their raw values, sorted by one or two keys.
+// The model behind a table on show: rows of cells, sorted by the keys of one or two columns.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -11,25 +11,23 @@
 #include <QIcon>
 #include <QString>
 #include <QVariant>
+#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
-namespace norvane::ui {
+#include "stats/Cellule.h"
 
-/// Order of two cell texts, -1, 0 or 1.
-using Comparateur = int (*)(std::string_view, std::string_view);
+namespace norvane::ui {
 
 /// One column of a table.
 struct ColonneTableau {
     QString entete;
-    QString indice;                  ///< hint of the header
-    double largeur = 0;              ///< design units, multiplied by Echelle
-    Comparateur comparer = nullptr;  ///< null: the column cannot be sorted
+    QString indice;      ///< hint of the header
+    double largeur = 0;  ///< design units, multiplied by Echelle
     Qt::Alignment alignement = Qt::AlignHCenter;
     double police = 7.5;    ///< font size in points, multiplied by Echelle
     bool gras = false;      ///< bold
-    bool position = false;  ///< shows the place of the row in the sort, from 1; needs no texts
+    bool position = false;  ///< shows the place of the row in the sort, from 1; is never a key
     bool adaptable = true;  ///< may grow beyond `largeur` when `etalon` or the header asks for it
     QString etalon;         ///< the widest text that the column is made for
     QIcon image;            ///< drawn in the header instead of its text
@@ -42,15 +40,16 @@ struct DegradeCellule {
     QColor texte;
 };
 
-struct CelluleTableau {
-    std::string texte;   ///< UTF-8: what is shown, compared and saved
-    QVariant brut;       ///< the value behind the text
-    QString indice;      ///< tool tip and status tip, may be empty
-    QString accessible;  ///< what a screen reader says instead of `texte`, may be empty
-    int degrade = -1;    ///< index into the table's gradients, -1 for the ordinary colours
-    bool barre = false;  ///< drawn as a bar: `brut` is then an integer of 0..BarreMax
+/// A cell and how it is shown.
+struct CelluleTableau : Cellule {
+    QString indice;            ///< tool tip and status tip, may be empty
+    int degrade = -1;          ///< index into the table's gradients, -1 for the ordinary colours
+    std::optional<int> barre;  ///< drawn as a bar of this length, 0..BarreMax, in place of the text
 };
 using LigneTableau = std::vector<CelluleTableau>;  ///< as many cells as there are columns
+
+/// A row of plain cells.
+LigneTableau ligneTableau(std::span<const Cellule> cellules);
 
 inline constexpr int BarreMax = 10000;
 
@@ -65,8 +64,6 @@ class ModeleTableau final : public QAbstractTableModel {
     Q_OBJECT
 
  public:
-    static constexpr int RoleBrut = Qt::UserRole + 1;  ///< CelluleTableau::brut
-
     explicit ModeleTableau(std::vector<ColonneTableau> colonnes, QObject* parent = nullptr);
 
     const std::vector<ColonneTableau>& colonnes() const { return colonnes_; }
@@ -79,7 +76,7 @@ class ModeleTableau final : public QAbstractTableModel {
     void remplir(std::vector<LigneTableau> lignes);
 
     /// A click on a header: the column becomes the primary key, or turns its direction when it is
-    /// already; with `secondaire` the same for the second key. Columns without comparison do
+    /// already; with `secondaire` the same for the second key. The column of places does
     /// nothing.
     void cliquer(int colonne, bool secondaire);
     /// Sorts by these keys (at most two); rows that are equal by all keys keep their first order.
@@ -90,10 +87,8 @@ class ModeleTableau final : public QAbstractTableModel {
     /// "1▲", "2▼", or nothing.
     QString marque(int colonne) const;
 
-    /// The index, in the rows given to remplir(), of the row on show at `ligne`.
-    int origine(int ligne) const { return ordre_[static_cast<std::size_t>(ligne)]; }
     const CelluleTableau& cellule(const QModelIndex& index) const;
-    /// Text on show, place in the sort included.
+    /// What is read in a cell, place in the sort included; of a bar its exact text.
     std::string texte(const QModelIndex& index) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -104,7 +99,6 @@ class ModeleTableau final : public QAbstractTableModel {
 
  private:
     const ColonneTableau& colonne(int c) const { return colonnes_[static_cast<std::size_t>(c)]; }
-    bool triable(int c) const { return colonne(c).comparer != nullptr; }
 
     std::vector<ColonneTableau> colonnes_;
     std::vector<QFont> polices_;

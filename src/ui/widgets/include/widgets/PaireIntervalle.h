@@ -18,8 +18,6 @@ class PaireIntervalle final : public QWidget {
     PaireIntervalle(const QString& nomInf, const QString& nomSup, const QString& indice,
                     QWidget* parent);
 
-    int inf() const;
-    int sup() const;
     SpinTirage& controleInf() { return *inf_; }
     SpinTirage& controleSup() { return *sup_; }
 

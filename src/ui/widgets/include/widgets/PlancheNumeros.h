@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The board: 49 numbers and 10 chances, lit by a draw and held down by the user.
+// The board: 49 numbers and 10 chances, lit and held down as its owner says.
 #pragma once
 
 #include <array>
-#include <functional>
 #include <QFrame>
-#include <span>
 #include <string>
-#include <vector>
 
+#include "atelier/Cases.h"
 #include "widgets/BoutonPlanche.h"
 
 namespace norvane::ui {
@@ -27,28 +25,11 @@ class PlancheNumeros final : public QFrame {
     Q_OBJECT
 
  public:
-    /// Five numbers, ascending, and the Chance; zeros light nothing.
-    using Eclairage = std::array<int, NbBoules + 1>;
-
     explicit PlancheNumeros(QWidget* parent = nullptr);
 
-    /// Lights a draw in place of the one on show. The two sorted lists are merged, so that only
-    /// buttons that differ are touched: one that goes out returns to its lasting state (up, unless
-    /// it was held down with `durable`).
-    void eclairer(const Eclairage& tirage);
-    /// The draw that is lit now, all zeros when the board is dark.
-    const Eclairage& TirageAffiche() const { return affiche_; }
-    std::array<bool, NbBoutons> allumes() const;
-
-    /// Holds a button down or lets it up. A durable hold outlives the lighting of the button.
-    void tenir(int place, bool enfonce, bool durable);
-    /// Lets every button up.
-    void relacher();
-    /// 1 where a button is held down.
-    const std::array<std::uint8_t, NbBoutons>& EtatBouton() const { return etat_; }
-    /// Values held down, in the order in which they went down.
-    std::vector<int> tenus(GenreStats genre) const;
-
+    /// Lights these tiles, and holds these down: only tiles that differ are touched.
+    void eclairer(const Cases& allumees);
+    void tenir(const Cases& enfoncees);
     /// One hint "court|long" a button.
     void poserIndices(const std::array<std::string, NbBoutons>& indices);
 
@@ -59,9 +40,7 @@ class PlancheNumeros final : public QFrame {
 
  Q_SIGNALS:
     /// A button was pressed, by mouse or key. Nothing changes but by the receiver's will.
-    void appui(int place);
-    /// EtatBouton changed.
-    void etatChange();
+    void appui(norvane::GenreStats genre, int valeur);
 
  protected:
     void resizeEvent(QResizeEvent* evenement) override;
@@ -71,14 +50,12 @@ class PlancheNumeros final : public QFrame {
  private:
     void placer();
     void naviguer(int place, int dx, int dy);
-    void changer(int place, bool allume);
+    void changer(Cases& montrees, const Cases& voulues, void (BoutonPlanche::*poser)(bool));
 
     std::array<BoutonPlanche*, NbBoutons> boutons_{};
-    std::array<std::uint8_t, NbBoutons> etat_{};
-    std::array<std::uint8_t, NbBoutons> durable_{};
-    std::vector<int> ordre_;  // places held down, oldest first
-    Eclairage affiche_{};
-    int courant_ = 0;  // the one button in the tab order
+    Cases TirageAffiche_;  // lit
+    Cases EtatBouton_;     // held down
+    int courant_ = 0;      // the one button in the tab order
     QRectF titreNumeros_, titreChances_;
 };
 

@@ -8,7 +8,8 @@
 #include <QFrame>
 #include <vector>
 
-#include "stats/TableauStats.h"
+#include "base/Tirage.h"
+#include "stats/Cellule.h"
 
 namespace norvane::ui {
 

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <QTableWidget>
-#include <span>
 
 #include "base/Configuration.h"
 #include "base/Tirage.h"
@@ -28,7 +27,7 @@ class TableRapports final : public QTableWidget {
 
     /// Winners, amounts with the currency symbol, and the value in francs as hint of the amount.
     void afficher(const RapportsTirage& rapports, const Reglages& reglages);
-    /// Every cell of winners, amounts and N empty.
+    /// Every cell of winners and amounts empty.
     void vider();
     /// Column N and the hints of the rows that are won.
     void setFacteurs(const Facteurs& facteurs);
@@ -39,6 +38,8 @@ class TableRapports final : public QTableWidget {
  private:
     void poser(int rang, Colonne colonne, const QString& texte, const QString& court,
                const QString& longue);
+
+    Facteurs facteurs_{};
 };
 
 }  // namespace norvane::ui

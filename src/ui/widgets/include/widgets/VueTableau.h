@@ -39,7 +39,6 @@ class VueTableau final : public QTableView {
 
     void poserBulle(std::function<ContenuBulle(const QModelIndex&)> bulle);
     void cacherBulle();
-    const Bulle& bulle() const { return *bulle_; }
 
     /// Keeps the height that this many rows need, however many there are.
     void reserverLignes(int nombre);

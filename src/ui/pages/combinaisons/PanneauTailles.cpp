@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "combinaisons/PanneauTailles.h"
+
+#include <algorithm>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "combinaisons/LigneBornes.h"
+#include "common/Contexte.h"
+#include "common/Theme.h"
+#include "widgets/ChampNumero.h"
+#include "widgets/Fiche.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct ItemStockage {
+    ModeStockage mode;
+    const char16_t* texte;
+};
+constexpr std::array<ItemStockage, 3> ItemsStockage = {
+    {{ModeStockage::PremierRang, u"Le premier rang"},
+     {ModeStockage::TousLesRangs, u"Tous les rangs"},
+     {ModeStockage::RangsDeGain, u"Les rangs de gain"}}};
+
+}  // namespace
+
+PanneauTailles::PanneauTailles(QWidget* parent)
+    : QWidget(parent),
+      modeListe_(creerModes()),
+      jauge_(new QProgressBar(this)),
+      temps_(legende({}, this)) {
+    jauge_->setObjectName(u"CGauge"_s);
+    jauge_->setAccessibleName(u"Avancement du calcul"_s);
+    jauge_->setRange(0, 1);
+    jauge_->setValue(0);
+    jauge_->setTextVisible(false);
+    temps_->setObjectName(u"LabelTemps"_s);
+    // Its line stays free, so that nothing moves when it comes.
+    temps_->setMinimumHeight(temps_->fontMetrics().height());
+
+    auto* pile = new QVBoxLayout(this);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(Unite);
+    pile->addWidget(modeListe_);
+    pile->addSpacing(Unite);
+    pile->addLayout(creerTailles(), 4);
+    pile->addStretch(1);
+    pile->addWidget(creerStockage());
+    pile->addWidget(jauge_);
+    pile->addWidget(temps_);
+}
+
+QComboBox* PanneauTailles::creerModes() {
+    auto* modes = new QComboBox(this);
+    modes->setObjectName(u"ComboBox1"_s);
+    modes->addItems({u"Combinaisons les plus ou moins sorties"_s,
+                     u"Combinaisons selon les bornes"_s, u"Manipulation de listes"_s});
+    modes->setAccessibleName(u"Mode de la liste"_s);
+    modes->setMinimumHeight(modes->fontMetrics().height() + 2 * Unite);
+    poserIndice(modes, u"Choix du mode de la liste"_s);
+    connect(modes, &QComboBox::currentIndexChanged, this,
+            [this](int index) { Q_EMIT modeChoisi(static_cast<ModeListe>(index)); });
+    return modes;
+}
+
+QGridLayout* PanneauTailles::creerTailles() {
+    auto* grille = new QGridLayout;
+    grille->setHorizontalSpacing(Unite / 2);
+    grille->setVerticalSpacing(Unite - 1);
+    grille->setColumnStretch(0, 1);
+    grille->setColumnMinimumWidth(1, Unite);
+    grille->setColumnMinimumWidth(4, Unite);
+    for (const auto& [libelle, place] : {std::pair{u"Inf"_s, 2}, std::pair{u"Sup"_s, 5}}) {
+        auto* entete = legende(libelle, this);
+        entete->setFixedHeight(entete->sizeHint().height());
+        grille->addWidget(entete, 0, place, 1, 2, Qt::AlignHCenter);
+    }
+    for (int taille = TailleCombMin; taille <= TailleCombMax; ++taille) {
+        auto* bornes = new LigneBornes(taille, this);
+        lignes_[static_cast<std::size_t>(taille - TailleCombMin)] = bornes;
+        connect(bornes->bouton, &QPushButton::clicked, this,
+                [this, taille] { Q_EMIT tailleCliquee(taille); });
+        const int rang = taille - TailleCombMin + 1;
+        grille->addWidget(bornes->bouton, rang, 0);
+        int place = 2;
+        for (const LigneBornes::Cote* cote : {&bornes->inf, &bornes->sup}) {
+            const int hauteur = bornes->bouton->minimumHeight();
+            cote->edit->setFixedHeight(hauteur);
+            cote->hautBas->setFixedHeight(hauteur);
+            grille->addWidget(cote->edit, rang, place);
+            grille->addWidget(cote->hautBas, rang, place + 1);
+            place += 3;
+        }
+    }
+    return grille;
+}
+
+QGroupBox* PanneauTailles::creerStockage() {
+    auto* groupe = new QGroupBox(u"Stocker en mémoire :"_s, this);
+    groupe->setObjectName(u"RadioGroup1"_s);
+    auto* pile = new QVBoxLayout(groupe);
+    pile->setSpacing(Unite / 2);
+    stockage_ = new QButtonGroup(groupe);
+    for (const ItemStockage& item : ItemsStockage) {
+        const auto id = static_cast<int>(&item - ItemsStockage.data());
+        auto* choix = new QRadioButton(QString::fromUtf16(item.texte), groupe);
+        choix->setObjectName(u"RadioGroup1Item%1"_s.arg(id));
+        poserIndice(choix,
+                    u"Rangs gardés pour chaque combinaison de la prochaine liste selon les "
+                    u"bornes"_s);
+        stockage_->addButton(choix, id);
+        pile->addWidget(choix);
+    }
+    connect(stockage_, &QButtonGroup::idClicked, this, [this](int id) {
+        Q_EMIT stockageChoisi(ItemsStockage.at(static_cast<std::size_t>(id)).mode);
+    });
+    return groupe;
+}
+
+// ------------------------------------------------------------------------------------------ state
+
+void PanneauTailles::poserBornes(const BornesTailles& bornes) {
+    for (std::size_t i = 0; i < NbTailles; ++i) lignes_[i]->poser(bornes[i]);
+}
+
+void PanneauTailles::suivreBornes(const BornesTailles& bornes) {
+    for (std::size_t i = 0; i < NbTailles; ++i) lignes_[i]->suivre(bornes[i]);
+}
+
+void PanneauTailles::montrerMode(ModeListe mode) {
+    modeListe_->setCurrentIndex(static_cast<int>(mode));
+    for (LigneBornes* bornes : lignes_) bornes->appliquerMode(mode);
+}
+
+void PanneauTailles::montrerStockage(ModeStockage mode) {
+    const auto* item = std::ranges::find(ItemsStockage, mode, &ItemStockage::mode);
+    stockage_->button(static_cast<int>(item - ItemsStockage.begin()))->setChecked(true);
+}
+
+void PanneauTailles::montrerRecherche(int taille) {
+    for (LigneBornes* bornes : lignes_) bornes->montrerArret(bornes->taille() == taille);
+    modeListe_->setEnabled(taille == 0);
+}
+
+QList<QWidget*> PanneauTailles::ordreTabulation() const {
+    QList<QWidget*> ordre{modeListe_};
+    for (const LigneBornes* bornes : lignes_) {
+        ordre << bornes->bouton << bornes->inf.edit << bornes->sup.edit;
+    }
+    for (QAbstractButton* choix : stockage_->buttons()) ordre << choix;
+    return ordre;
+}
+
+void PanneauTailles::changeEvent(QEvent* evenement) {
+    QWidget::changeEvent(evenement);
+    if (evenement->type() != QEvent::PaletteChange) return;
+    // The edits carry colours of their own, which follow the palette by hand.
+    for (LigneBornes* bornes : lignes_)
+        if (bornes != nullptr) bornes->reteinter();
+}
+
+}  // namespace norvane::ui

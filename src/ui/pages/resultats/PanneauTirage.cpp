@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "resultats/PanneauTirage.h"
+
+#include <algorithm>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QScopedValueRollback>
+#include <QTextCharFormat>
+
+#include "base/Textes.h"
+#include "common/Contexte.h"
+#include "common/Theme.h"
+#include "resultats/ChampJoker.h"
+#include "widgets/BandeTirage.h"
+#include "widgets/ChampNumero.h"
+#include "widgets/Fiche.h"
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QDate enQDate(int date) {
+    return QDate(date / 10000, date / 100 % 100, date % 100);
+}
+
+int enEntier(QDate date) {
+    return date.year() * 10000 + date.month() * 100 + date.day();
+}
+
+QDateEdit* creerDate(QWidget* parent) {
+    auto* date = new QDateEdit(parent);
+    date->setObjectName(u"DateTimePicker"_s);
+    date->setLocale(QLocale(QLocale::French, QLocale::France));
+    date->setDisplayFormat(u"dddd d MMMM yyyy"_s);
+    date->setCalendarPopup(true);
+    date->setAccessibleName(u"Date du tirage"_s);
+    poserIndice(date, u"Sélection de tirages par date"_s);
+    QCalendarWidget* calendrier = date->calendarWidget();
+    calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendrier->setFirstDayOfWeek(Qt::Monday);
+    // Only the days of draws stand out, see marquerCalendrier.
+    calendrier->setWeekdayTextFormat(Qt::Saturday, {});
+    calendrier->setWeekdayTextFormat(Qt::Sunday, {});
+    // The longest date keeps the control from moving with each draw.
+    date->setMinimumWidth(date->fontMetrics().horizontalAdvance(u"mercredi 24 septembre 2024"_s) +
+                          54);
+    return date;
+}
+
+}  // namespace
+
+PanneauTirage::PanneauTirage(Contexte& ctx, QWidget* parent)
+    : QWidget(parent), contexte_(ctx), choix_(ctx.atelier.base) {
+    auto* dehors = new QHBoxLayout(this);
+    dehors->setContentsMargins(0, 0, 0, 0);
+    auto* fiche = new Fiche(this);
+    dehors->addWidget(fiche);
+    fiche->pile->addLayout(creerChoix(fiche));
+    fiche->pile->addSpacing(Unite);
+    fiche->pile->addLayout(creerBoules(fiche));
+    relier();
+    poserLimites();
+}
+
+QLayout* PanneauTirage::creerChoix(QWidget* fiche) {
+    date_ = creerDate(fiche);
+    selecteur_ = new QComboBox(fiche);
+    selecteur_->setObjectName(u"ComboBox3"_s);
+    selecteur_->addItems({u"1er"_s, u"2nd"_s});
+    selecteur_->setAccessibleName(u"1er ou 2nd Tirage"_s);
+    poserIndice(selecteur_, u"Sélection du 1er ou 2nd Tirage"_s);
+
+    numero_ = new ChampNumero(u"EditTirGlob"_s, fiche);
+    numero_->setAccessibleName(u"Numéro du tirage"_s);
+    numero_->setFixedWidth(numero_->fontMetrics().horizontalAdvance(u"000000"_s) + 16);
+    fleches_ = new HautBas(u"UpDown1"_s, fiche);
+    for (QWidget* w : {static_cast<QWidget*>(numero_), static_cast<QWidget*>(fleches_)}) {
+        poserIndice(w, u"Sélection de tirages par numéro"_s);
+    }
+    surTotal_ = legende({}, fiche);
+
+    numeroAnnee_ = valeur(u"LabelTirageFixeNum"_s, u"N° dans l'année"_s, fiche);
+    annee_ = valeur(u"LabelTirageFixeAn"_s, u"Année"_s, fiche);
+    numeroAnnee_->setMinimumWidth(numeroAnnee_->fontMetrics().horizontalAdvance(u"000"_s));
+    annee_->setMinimumWidth(annee_->fontMetrics().horizontalAdvance(u"0000"_s));
+
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(3 * Unite);
+    ligne->addLayout(colonne(u"Date"_s, rangee({date_}), fiche));
+    ligne->addLayout(colonne(u"Tirage"_s, rangee({selecteur_}), fiche));
+    ligne->addLayout(colonne(u"Numéro"_s, rangee({numero_, fleches_, surTotal_}), fiche));
+    ligne->addStretch(1);
+    ligne->addLayout(colonne(u"N°"_s, rangee({numeroAnnee_}), fiche));
+    ligne->addLayout(colonne(u"Année"_s, rangee({annee_}), fiche));
+    return ligne;
+}
+
+QLayout* PanneauTirage::creerBoules(QWidget* fiche) {
+    bande_ = new BandeTirage(contexte_.Echelle, fiche);
+    joker_ = champJoker(u"MaskEdit1"_s, fiche);
+    joker_->setReadOnly(true);
+    // The place stays while the entry of a receipt shows a field of its own.
+    auto* caseJoker = new QWidget(fiche);
+    caseJoker->setObjectName(u"CaseJoker"_s);
+    caseJoker->setMinimumWidth(joker_->width());
+    caseJoker->setLayout(colonne(u"Joker+"_s, rangee({joker_}), caseJoker));
+    caseJoker->layout()->setContentsMargins(0, 0, 0, 0);
+    QSizePolicy garde = caseJoker->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    caseJoker->setSizePolicy(garde);
+    auto* boules = new QHBoxLayout;
+    boules->setSpacing(0);
+    boules->addWidget(bande_, 0, Qt::AlignBottom);
+    boules->addStretch(1);
+    boules->addWidget(caseJoker);
+    return boules;
+}
+
+void PanneauTirage::relier() {
+    connect(date_, &QDateEdit::dateChanged, this, [this](QDate date) {
+        if (garde_) return;
+        choix_.ChoisirParDate(enEntier(date));
+        montrer();
+    });
+    connect(selecteur_, &QComboBox::currentIndexChanged, this, [this](int place) {
+        if (garde_) return;
+        choix_.ChoisirSousTirage(place + 1);
+        montrer();
+    });
+    connect(numero_, &QLineEdit::textChanged, this, [this](const QString& texte) {
+        if (garde_ || texte.isEmpty()) return;
+        choix_.ChoisirParNumero(texte.toInt());
+        montrer();
+    });
+    connect(numero_, &QLineEdit::editingFinished, this, [this] {
+        // An emptied field takes the draw on show back.
+        if (numero_->text().isEmpty()) montrer();
+    });
+    const auto pas = [this](int n) {
+        choix_.deplacer(n);
+        montrer();
+        numero_->selectAll();
+    };
+    connect(numero_, &ChampNumero::deplacement, this, pas);
+    connect(fleches_, &HautBas::deplacement, this, pas);
+    connect(numero_, &ChampNumero::extremite, this, [this](bool derniere) {
+        montrerTirage(derniere ? contexte_.atelier.base.NbTirages : 1);
+    });
+    connect(date_->calendarWidget(), &QCalendarWidget::currentPageChanged, this,
+            &PanneauTirage::marquerCalendrier);
+}
+
+void PanneauTirage::reprendre() {
+    poserLimites();
+    choix_.reprendre();
+    montrer();
+}
+
+void PanneauTirage::montrerTirage(int numero) {
+    choix_.montrer(numero);
+    montrer();
+}
+
+void PanneauTirage::choisirDate(int date) {
+    const QDate voulue = enQDate(date);
+    if (voulue > date_->maximumDate()) date_->setMaximumDate(voulue);
+    choix_.ChoisirParDate(date);
+    montrer();
+}
+
+void PanneauTirage::montrerCommuns(bool communs) {
+    communs_ = communs;
+    montrerCellules();
+}
+
+void PanneauTirage::montrer() {
+    {
+        const QScopedValueRollback garde(garde_, true);
+        const Tirage* tirage = choix_.tirage();
+        const QString numero = tirage == nullptr ? QString() : QString::number(choix_.indice() + 1);
+        // Text that is right already keeps its cursor: the user may be typing in it.
+        if (numero_->text() != numero) numero_->setText(numero);
+        const QDate date = enQDate(choix_.date());
+        if (date_->date() != date) date_->setDate(date);
+        selecteur_->setCurrentIndex(choix_.second() ? 1 : 0);
+        bande_->disposer(choix_.avecChance());
+        montrerCellules();
+        montrerNumeroAnnee();
+    }
+    Q_EMIT tirageChange();
+}
+
+void PanneauTirage::montrerCellules() {
+    const Tirage* tirage = choix_.tirage();
+    if (tirage == nullptr) {
+        bande_->vider();
+        return;
+    }
+    Cases communs;
+    const Tirage* avant = choix_.precedent();
+    if (communs_ && avant != nullptr) communs = CasesDe(*tirage).commun(CasesDe(*avant));
+    bande_->afficher(*tirage, communs);
+}
+
+/// Number in the year, year and Joker+.
+void PanneauTirage::montrerNumeroAnnee() {
+    QString annee, numero;
+    QStringList chiffres;
+    if (const Tirage* tirage = choix_.tirage(); tirage != nullptr) {
+        const NumeroAnnee na = LireNumeroAnnee(tirage->AnneeNumero);
+        annee = QString::number(na.annee);
+        numero = QString::number(na.numero);
+        if (tirage->Joker != JokerAbsent) {
+            for (const int chiffre : ChiffresJoker(tirage->Joker)) {
+                chiffres << QString::number(chiffre);
+            }
+        }
+    }
+    annee_->setText(annee);
+    numeroAnnee_->setText(numero);
+    joker_->setText(chiffres.join(u'.'));
+}
+
+void PanneauTirage::poserLimites() {
+    const QScopedValueRollback garde(garde_, true);
+    const Base& base = contexte_.atelier.base;
+    QDate fin = contexte_.services.horloge->aujourdhui();
+    // A clock that runs behind the base must not hide draws.
+    if (base.NbTirages > 0) fin = std::max(fin, enQDate(base.enUsage().back().DateTirage));
+    date_->setDateRange(enQDate(DatePremierTirage), fin);
+    surTotal_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(base.NbTirages))));
+    const QCalendarWidget* calendrier = date_->calendarWidget();
+    marquerCalendrier(calendrier->yearShown(), calendrier->monthShown());
+}
+
+/// Days with a draw stand out in the calendar.
+void PanneauTirage::marquerCalendrier(int annee, int mois) {
+    QCalendarWidget* calendrier = date_->calendarWidget();
+    calendrier->setDateTextFormat(QDate(), {});
+    QTextCharFormat format;
+    format.setFontWeight(QFont::Bold);
+    format.setForeground(teintes(palette()).accent);
+    const int debut = annee * 10000 + mois * 100;
+    const auto tirages = contexte_.atelier.base.enUsage();
+    auto t = std::ranges::lower_bound(tirages, debut, {}, &Tirage::DateTirage);
+    for (; t != tirages.end() && t->DateTirage < debut + 100; ++t) {
+        calendrier->setDateTextFormat(enQDate(t->DateTirage), format);
+    }
+}
+
+}  // namespace norvane::ui

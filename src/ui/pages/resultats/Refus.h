@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// A refusal of the state machine of tickets, told in its box.
+#pragma once
+
+#include "common/Messages.h"
+#include "tickets/SaisieBillets.h"
+
+namespace norvane::ui {
+
+void direRefus(Messages& messages, const Refus& refus);
+
+}  // namespace norvane::ui

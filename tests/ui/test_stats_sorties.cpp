@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The pages "Numéros" and "Chances": files, paper, the busy rule, and bases too small to show.
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+#include "soutien/EssaiStats.h"
+#include "stats/ExportTableau.h"
+#include "stats/TableauStats.h"
+
+using namespace norvane::ui::essais;
+
+class TestStatsSorties final : public EssaisQt {
+    Q_OBJECT
+
+ private Q_SLOTS:
+    /// Both files against the whole table, taken from the rows themselves in their sorted order.
+    void fichiersSauves() {
+        PageOuverte o(GenreStats::Chances);
+        o.inf->setValue(3000);
+        o.cliquerEntete(E);
+        auto lignes = RemplirStats(GenreStats::Chances, o.banc.atelier.base,
+                                   o.banc.atelier.occurrences, 2999, 3213);
+        std::stable_sort(lignes.begin(), lignes.end(), [](const auto& a, const auto& b) {
+            return a.cellules[E].cle < b.cellules[E].cle;
+        });
+        TableauExporte attendu{
+            {"Statistiques sur les chances"},
+            {"Pos", "Chance", "NbS", "Ratio", "Date", "E", "EM", "Ecart max", "S", "Suite max"},
+            {true, true, true, true, false, true, true, true, true, true},
+            {}};
+        for (const QString& l : o.libelle().split(u'\n')) attendu.titre.push_back(l.toStdString());
+        for (const auto& ligne : lignes) {
+            std::vector<std::string> textes{std::to_string(attendu.lignes.size() + 1)};
+            for (std::size_t c = 1; c < NbColonnesStats; ++c)
+                textes.push_back(ligne.cellules[c].texte);
+            attendu.lignes.push_back(std::move(textes));
+        }
+        auto& fichiers = *o.banc.scripts.fichiers;
+        fichiers.filtre = u"Format CSV (*.csv)"_s;
+        fichiers.reponse = versQt(o.banc.chemin("essai").string());
+        o.cliquer("BitBtnWithColor17");
+        QCOMPARE(o.banc.lire("essai.csv"), EnCsv(attendu));
+        fichiers.filtre = u"Format Texte (*.txt)"_s;
+        o.cliquer("BitBtnWithColor17");
+        const std::string texte = EnTexte(attendu);
+        QCOMPARE(o.banc.lire("essai.txt"), texte);
+
+        // A name that the appended extension turns into an existing file is asked about.
+        QVERIFY(o.posees().isEmpty());
+        o.banc.scripts.messages->reponses = {CodeBouton2};
+        o.inf->setValue(1);
+        o.cliquer("BitBtnWithColor17");
+        QCOMPARE(o.posees().size(), 1);
+        QCOMPARE(o.banc.lire("essai.txt"), texte);
+
+        fichiers.reponse = versQt(o.banc.chemin("absent/essai.txt").string());
+        o.cliquer("BitBtnWithColor17");
+        QCOMPARE(o.posees().size(), 2);
+        QCOMPARE(o.posees().last().icone, IconeMessage::Erreur);
+        QVERIFY(o.posees().last().instruction.size() > 20);
+    }
+
+    void pdfImprime() {
+        PageOuverte o(GenreStats::Numeros);
+        const QString pdf = o.banc.dossier.filePath(u"stats.pdf"_s);
+        o.banc.scripts.imprimantes->pdf = pdf;
+        o.cliquer("BitBtnWithColor6");
+        QVERIFY(o.posees().isEmpty() && QFileInfo(pdf).size() > 5000);
+        if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty()) QSKIP("pdftotext is missing");
+        QProcess lecture;
+        lecture.start(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s});
+        QVERIFY(lecture.waitForFinished());
+        const QStringList pages =
+            QString::fromUtf8(lecture.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+        QVERIFY(pages.size() >= 1 && pages.size() <= 2);
+        QString tout;
+        int numero = 0;
+        for (const QString& page : pages) {
+            QVERIFY(page.contains(u"Ecart max"_s));
+            QVERIFY(page.contains(u"Page %1 / %2"_s.arg(++numero).arg(pages.size())));
+            tout += page.simplified();
+        }
+        for (int l = 0; l < 49; ++l) QVERIFY(tout.contains(o.texte(l, EMax).simplified()));
+        QVERIFY(tout.contains(u"Statistiques sur 3214 tirages"_s));
+
+        o.banc.scripts.imprimantes->pdf = o.banc.dossier.filePath(u"absent/stats.pdf"_s);
+        const AvertissementAttendu refus(u"QPainter::begin(): Returned false"_s);
+        o.cliquer("BitBtnWithColor6");
+        QCOMPARE(o.posees().size(), 1);
+        QCOMPARE(o.posees().last().icone, IconeMessage::Erreur);
+    }
+
+    void refusePendantUnTravail() {
+        PageOuverte o(GenreStats::Numeros);
+        o.banc.atelier.activite.TraitementsEnCours = 1;
+        o.banc.scripts.fichiers->reponse = o.banc.dossier.filePath(u"a.txt"_s);
+        o.banc.scripts.imprimantes->pdf = o.banc.dossier.filePath(u"a.pdf"_s);
+        o.cliquer("BitBtnWithColor7");
+        o.cliquer("BitBtnWithColor6");
+        QCOMPARE(o.posees().size(), 2);
+        QCOMPARE(o.posees().at(1).instruction, u"Attendez la fin du traitement en cours..."_s);
+        QVERIFY(!o.banc.existe("a.txt") && !o.banc.existe("a.pdf"));
+    }
+
+    void baseTropPetiteEtRetour() {
+        Base base = QuatreTirages();
+        for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances}) {
+            for (const int n : {0, 1}) {
+                base.NbTirages = n;
+                PageOuverte o(genre, &base);
+                o.page->surChange({.base = true});
+                o.cliquer(genre == GenreStats::Numeros ? "RatioNumerosSimple"
+                                                       : "RatioEtoilesSimple");
+                QCOMPARE(o.table->model()->rowCount(), 0);
+                QTest::keyClick(o.table, Qt::Key_Return);
+                o.banc.atelier.base.NbTirages = 4;
+                o.banc.recalculer();
+                o.page->surChange({.base = true});
+                QVERIFY(o.dansLOrdre());
+                QCOMPARE(o.sup->value(), 4);
+            }
+        }
+    }
+};
+
+QTEST_MAIN(TestStatsSorties)
+#include "test_stats_sorties.moc"

@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The one service of long work, on works that the test leads by hand, and the closing of the
+// window while one runs.
+
+#include <atomic>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <stdexcept>
+#include <thread>
+
+#include "base/Textes.h"
+#include "soutien/Banc.h"
+
+using namespace norvane::ui::essais;
+
+namespace {
+
+constexpr DescriptionTravail Description{GenreTravail::Bornes, 5, QuelleListe::Tampon2};
+
+/// What the test and the work share.
+struct Meneur {
+    std::atomic<int> position{0};
+    std::atomic<int> total{40};
+    std::atomic<bool> fini{false};
+    std::atomic<bool> parti{false};
+    std::atomic<bool> arrete{false};
+};
+
+/// A work that says it is where `meneur` wants it, until it may end or must stop.
+PtrTravail travailMene(const std::shared_ptr<Meneur>& meneur) {
+    auto travail = FaireTravail(Description, [meneur](const Suivi& suivi) -> Resultat<Rien> {
+        meneur->parti = true;
+        while (!meneur->fini && !suivi.arrete()) {
+            if (suivi.progres->total() != meneur->total) suivi.progres->commencer(meneur->total);
+            suivi.poser(meneur->position);
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        meneur->arrete = suivi.arrete();
+        if (meneur->arrete) return Erreur{"arrêté"};
+        return Rien{};
+    });
+    travail->progres.commencer(meneur->total);
+    return travail;
+}
+
+/// The service with its views, and what it said so far.
+struct Etabli {
+    Activite activite;
+    std::unique_ptr<Travaux> travaux = std::make_unique<Travaux>(activite);
+    QProgressBar jauge;
+    QLabel temps{u"avant"_s};
+    QObject receveur;
+    std::shared_ptr<Meneur> meneur = std::make_shared<Meneur>();
+    QSignalSpy textes{travaux.get(), &Travaux::texteEtat};
+    QSignalSpy repos{travaux.get(), &Travaux::repos};
+    int fins = 0;
+    QString erreur;
+
+    bool lancer(QObject* pour) {
+        return travaux->lancer(travailMene(meneur), {u"En cours"_s, &jauge, &temps}, pour,
+                               [this](Travail& travail) {
+                                   ++fins;
+                                   erreur = versQt(travail.erreur());
+                               });
+    }
+    bool occupe() const { return activite.occupe() || activite.TraitementsEnCours != 0; }
+};
+
+}  // namespace
+
+class TestTravaux final : public EssaisQt {
+    Q_OBJECT
+
+ private Q_SLOTS:
+    void vieDUnTravail() {
+        Etabli e;
+        QVERIFY(e.lancer(&e.receveur));
+        QVERIFY(e.activite.TraitementsEnCours == 1 && e.activite.enCours == Description);
+        QCOMPARE(e.travaux->enCours()->description, Description);
+        QCOMPARE(e.textes.takeFirst().at(0).toString(), u"En cours"_s);
+        QVERIFY(e.jauge.minimum() == 0 && e.jauge.maximum() == 40 && e.jauge.value() == 0);
+        QVERIFY(e.temps.text().isEmpty());
+        for (const int position : {10, 30}) {
+            e.meneur->position = position;
+            QTRY_COMPARE(e.jauge.value(), position);
+        }
+        e.meneur->total = 60;  // it turns out to be longer
+        QTRY_COMPARE(e.jauge.maximum(), 60);
+        QTRY_COMPARE(e.jauge.value(), 30);
+        e.meneur->position = 75;
+        QTRY_COMPARE(e.jauge.value(), 60);
+        QVERIFY(e.fins == 0 && e.textes.isEmpty());
+
+        e.meneur->fini = true;
+        QTRY_COMPARE(e.fins, 1);
+        QVERIFY(!e.occupe() && !e.activite.enCours && e.travaux->enCours() == nullptr);
+        QCOMPARE(e.textes.takeFirst().at(0).toString(), QString());
+        QVERIFY(e.jauge.value() < 0);  // empty
+        QCOMPARE(e.temps.text(),
+                 u"Temps de calcul : "_s + versQt(FormaterDecimal(e.travaux->duree(), 1)));
+        QVERIFY(e.travaux->duree() > 0);
+        QVERIFY(e.erreur.isEmpty() && e.repos.size() == 1);
+        QTest::qWait(50);  // longer than a step of the gauge
+        QVERIFY(e.fins == 1 && e.jauge.value() < 0 && e.textes.isEmpty());
+    }
+
+    void arret() {
+        Etabli e;
+        e.travaux->arreter();  // nothing to stop
+        QVERIFY(e.lancer(&e.receveur));
+        e.travaux->arreter();
+        QTRY_COMPARE(e.fins, 1);
+        QVERIFY(e.meneur->arrete && !e.occupe());
+        QCOMPARE(e.erreur, u"arrêté"_s);
+        // The service is good for another.
+        e.meneur = std::make_shared<Meneur>();
+        QVERIFY(e.lancer(&e.receveur));
+        e.meneur->fini = true;
+        QTRY_COMPARE(e.fins, 2);
+        QVERIFY(e.erreur.isEmpty());
+    }
+
+    void receveurEtVuesPartis() {
+        Etabli e;
+        auto receveur = std::make_unique<QObject>();
+        auto jauge = std::make_unique<QProgressBar>();
+        auto temps = std::make_unique<QLabel>();
+        QVERIFY(e.travaux->lancer(travailMene(e.meneur), {{}, jauge.get(), temps.get()},
+                                  receveur.get(), [&e](Travail&) { ++e.fins; }));
+        receveur.reset();
+        jauge.reset();
+        temps.reset();
+        QTest::qWait(50);
+        e.meneur->fini = true;
+        QTRY_COMPARE(e.repos.size(), 1);
+        QVERIFY(e.fins == 0 && !e.occupe());
+    }
+
+    void unSeulALaFois() {
+        Etabli e;
+        QVERIFY(e.lancer(&e.receveur));
+        const auto second = std::make_shared<Meneur>();
+        QVERIFY_EXCEPTION_THROWN(
+            e.travaux->lancer(travailMene(second), {}, &e.receveur, [&e](Travail&) { ++e.fins; }),
+            std::logic_error);
+        QVERIFY(e.activite.TraitementsEnCours == 1 && !e.meneur->arrete && !second->parti);
+        e.meneur->fini = true;
+        QTRY_COMPARE(e.repos.size(), 1);
+        QVERIFY(e.fins == 1 && !second->parti);
+    }
+
+    /// Its end may start the next: the program is at rest after the last only.
+    void enchainement() {
+        Etabli e;
+        const auto suivant = std::make_shared<Meneur>();
+        QVERIFY(e.travaux->lancer(travailMene(e.meneur), {}, &e.receveur, [&](Travail&) {
+            QVERIFY(!e.occupe() && e.repos.isEmpty());
+            e.travaux->lancer(travailMene(suivant), {}, &e.receveur, [&](Travail&) { ++e.fins; });
+        }));
+        e.meneur->fini = true;
+        QTRY_VERIFY(suivant->parti);
+        QVERIFY(e.occupe() && e.repos.isEmpty());
+        suivant->fini = true;
+        QTRY_COMPARE(e.repos.size(), 1);
+        QCOMPARE(e.fins, 1);
+    }
+
+    void destructionPendantUnTravail() {
+        Etabli e;
+        QVERIFY(e.lancer(&e.receveur));
+        QTRY_VERIFY(e.meneur->parti);
+        e.travaux.reset();
+        QVERIFY(e.meneur->arrete && !e.occupe());
+        QCoreApplication::processEvents();
+        QCOMPARE(e.fins, 0);
+    }
+
+    /// The work is stopped and waited for, then the window closes with its ordinary question.
+    void fermeturePendantUnTravail() {
+        FormeOuverte f;
+        auto* travaux = f.forme->findChild<Travaux*>();
+        Activite& activite = f.banc.atelier.activite;
+        const auto lancer = [&](const std::shared_ptr<Meneur>& meneur) {
+            return travaux->lancer(travailMene(meneur), {u"En cours"_s, nullptr, nullptr},
+                                   f.forme.get(), [](Travail&) {});
+        };
+        auto meneur = std::make_shared<Meneur>();
+        QVERIFY(lancer(meneur));
+        QCOMPARE(f.de<QLabel>("PanneauTexte")->text(), u"En cours"_s);
+        f.forme->close();
+        QVERIFY(f.forme->isVisible() && activite.QuitterEnAttente && f.posees.isEmpty());
+        // Refused at the end: the wish is forgotten.
+        f.banc.scripts.messages->reponses = {CodeBouton2};
+        QTRY_COMPARE(f.posees.size(), 1);
+        QCOMPARE(f.posees.last().instruction, u"Souhaitez vous quitter l'application ?"_s);
+        QVERIFY(meneur->arrete && f.forme->isVisible() && !activite.QuitterEnAttente);
+        QVERIFY(f.de<QLabel>("PanneauTexte")->text().isEmpty());
+        QSignalSpy repos(travaux, &Travaux::repos);
+        meneur = std::make_shared<Meneur>();
+        QVERIFY(lancer(meneur));
+        meneur->fini = true;
+        QTRY_COMPARE(repos.size(), 1);
+        QVERIFY(f.forme->isVisible() && f.posees.size() == 1);
+
+        QVERIFY(lancer(std::make_shared<Meneur>()));
+        f.forme->close();
+        QVERIFY(f.forme->isVisible());
+        QTRY_VERIFY(!f.forme->isVisible());
+        QCOMPARE(f.posees.size(), 2);
+    }
+
+    void formeDetruitePendantUnTravail() {
+        const auto meneur = std::make_shared<Meneur>();
+        FormeOuverte f;
+        auto* travaux = f.forme->findChild<Travaux*>();
+        QVERIFY(travaux->lancer(travailMene(meneur), {}, f.forme.get(), [](Travail&) {}));
+        QTRY_VERIFY(meneur->parti);
+        f.forme.reset();
+        QVERIFY(meneur->arrete && !f.banc.atelier.activite.occupe());
+    }
+};
+
+QTEST_MAIN(TestTravaux)
+#include "test_travaux.moc"
