@@ -43,6 +43,7 @@ struct Liste {
     EtatTri tri;
     bool partielle = false;   ///< its search was stopped
     std::uint64_t total = 0;  ///< combinations found where only the first were kept; else 0
+    std::optional<double> secondes{};  ///< that its search took, where it comes from one
 
     int taille() const { return arene.disposition.taille; }
     ModeStockage mode() const { return arene.disposition.mode; }
