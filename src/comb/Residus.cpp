@@ -142,7 +142,7 @@ std::uint64_t Residus::compter(int inf, int sup, unsigned threads,
     // Far more choices hold few draws than hold many: the others are counted.
     if (inf == 0)
         return choixPossibles() -
-               (sup >= NbTiragesMax ? 0 : compter(sup + 1, NbTiragesMax, threads, arret));
+               (contientTout(sup) ? 0 : compter(sup + 1, NbTiragesMax, threads, arret));
     const auto travaux = tetes();
     std::atomic<std::uint64_t> total = 0;
     const auto utiles = std::min<std::size_t>(std::max(1U, threads), travaux.size());

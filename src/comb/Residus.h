@@ -56,6 +56,8 @@ class Residus {
     class Sondage;
 
     std::vector<Tete> tetes() const;
+    /// No choice holds more draws than these.
+    bool contientTout(int sup) const { return sup >= static_cast<int>(residus_.size()); }
 
     const Masque fixes_;
     const std::vector<int> reserve_;

@@ -106,7 +106,7 @@ Prevision Residus::prevoir(int inf, int sup, const std::stop_token& arret) const
     const std::uint64_t possibles = choixPossibles();
     if (possibles <= NbEssais) return Prevision::exactement(compter(inf, sup, 1, arret));
     if (inf == 0) {
-        if (sup >= NbTiragesMax) return Prevision::exactement(possibles);
+        if (contientTout(sup)) return Prevision::exactement(possibles);
         const Prevision autres = prevoir(sup + 1, NbTiragesMax, arret);
         return {possibles - autres.nombre, possibles - autres.maximum, possibles - autres.minimum};
     }

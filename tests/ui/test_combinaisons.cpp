@@ -37,9 +37,9 @@ class TestCombinaisons : public EssaisQt {
                 if (c == max || (paires && c == 0)) attendues.insert(LigneCombinaison(numeros, c));
             for (int i = 0, avant = max; i < e.lignes(); ++i) {
                 lues.insert(e.ligne(i));
-                const int n = e.liste()->modele().combinaison(i)->NbFois;
-                const bool haute = n == max;
-                QVERIFY(n <= std::exchange(avant, n));  // the most frequent first
+                const int nbFois = e.liste()->modele().combinaison(i)->NbFois;
+                const bool haute = nbFois == max;
+                QVERIFY(nbFois <= std::exchange(avant, nbFois));  // the most frequent first
                 QCOMPARE(e.encre(i), haute ? QColor(0, 0, 255) : QColor(0, 128, 0));
             }
             QVERIFY(lues == attendues && std::size_t(e.lignes()) == attendues.size());

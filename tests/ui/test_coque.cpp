@@ -61,16 +61,17 @@ class TestCoque final : public EssaisQt {
 
     void etatDuMoteurLu() {
         Banc banc;
-        banc.ecrire(NomCombCalc, "3214 1 70\n3200 0 9\n3214 0 4\n3214 0 2\n2000 0 3\n");
+        banc.ecrire(NomCombCalc, "3214 1 70\n3200 0 9\n3214 0 4\n3214 0 2\n3214 0 3\n3000 0 4\n");
         Atelier relu(banc.atelier.Repertoire);
         TVaroMainForm forme(relu, banc.services);
         const auto indice = [page = forme.findChild<QWidget*>(u"Varo3"_s)](int edit) {
             return page->findChild<QLineEdit*>(u"Edit%1"_s.arg(edit))->toolTip();
         };
         QCOMPARE(indice(2), u"Borne Inf calculée pour 3214 tirages"_s);
-        // A size of 6 or more is taken as current; those behind the cut were never computed.
+        // Computed on other draws, or behind the cut and never computed.
         QCOMPARE(indice(12), u"Borne Inf calculée pour 3214 tirages"_s);
         QCOMPARE(indice(14), u"Borne Inf en attente de calcul"_s);
+        QCOMPARE(indice(16), u"Borne Inf en attente de calcul"_s);
     }
 
     void modesEtClignotement() {

@@ -176,11 +176,15 @@ class TestPageCombinaisons : public EssaisQt {
             return n;
         };
         const QColor bleu(0, 0, 255), vert(0, 128, 0);
-        QVERIFY(nombre(haut, bleu) > 0 && nombre(haut - 4, bleu) == 0);
-        e.edit(6)->setText(QString::number(haut - 4));
-        e.edit(2)->setText(QString::number(haut - 7));
-        QVERIFY(nombre(haut - 4, bleu) > 0 && nombre(haut, bleu) == 0);
-        QVERIFY(nombre(haut - 7, vert) > 0 && nombre(haut, Qt::black) > 0);
+        std::size_t autre = 1;
+        while (e.a.ListeMemoire.nbFois(autre) == e.a.ListeMemoire.nbFois(0)) ++autre;
+        const auto [inf, sup] =
+            std::minmax({e.a.ListeMemoire.nbFois(0), e.a.ListeMemoire.nbFois(autre)});
+        QVERIFY(haut > sup && nombre(haut, bleu) > 0 && nombre(sup, bleu) == 0);
+        e.edit(6)->setText(QString::number(sup));
+        e.edit(2)->setText(QString::number(inf));
+        QVERIFY(nombre(sup, bleu) > 0 && nombre(haut, bleu) == 0);
+        QVERIFY(nombre(inf, vert) > 0 && nombre(haut, Qt::black) > 0);
         e.mode()->setCurrentIndex(2);
         for (int i = 0; i < 1176; ++i) QCOMPARE(e.encre(i), QColor(Qt::black));
 
