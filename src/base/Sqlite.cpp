@@ -15,6 +15,20 @@ using Genre = EchecStockage::Genre;
 /// How long to wait for another program that is writing the file.
 constexpr int AttenteMs = 3000;
 
+/// What a file from anywhere may ask for, well above what ours need.
+struct Limite {
+    int genre;
+    int valeur;
+};
+constexpr Limite Limites[] = {
+    {SQLITE_LIMIT_LENGTH, 65536},      {SQLITE_LIMIT_SQL_LENGTH, 65536},
+    {SQLITE_LIMIT_COLUMN, 64},         {SQLITE_LIMIT_EXPR_DEPTH, 32},
+    {SQLITE_LIMIT_COMPOUND_SELECT, 4}, {SQLITE_LIMIT_VDBE_OP, 25000},
+    {SQLITE_LIMIT_FUNCTION_ARG, 8},    {SQLITE_LIMIT_ATTACHED, 0},
+    {SQLITE_LIMIT_TRIGGER_DEPTH, 1},   {SQLITE_LIMIT_VARIABLE_NUMBER, 64},
+    {SQLITE_LIMIT_WORKER_THREADS, 0},
+};
+
 [[noreturn]] void echouer(sqlite3* db) {
     const int etendu = sqlite3_extended_errcode(db);
     switch (etendu & 0xFF) {
@@ -67,6 +81,7 @@ void Connexion::ouvrir(const char* nom, int options) {
         sqlite3_db_config(db, refus, 0, nullptr);
     }
     sqlite3_db_config(db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    for (const Limite& limite : Limites) sqlite3_limit(db, limite.genre, limite.valeur);
 }
 
 void Connexion::executer(const std::string& sql) {
