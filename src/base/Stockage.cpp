@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 using Genre = EchecStockage::Genre;
 
 constexpr std::int64_t IdentiteFichier = 0x4E6F7276;  ///< "Norv", in the header of the file
-/// Three times what a full base takes.
+/// Six times what a full base takes.
 constexpr std::uintmax_t TailleFichierMax = std::uintmax_t{64} << 20;
 
 /// Step i takes a file from version i to version i + 1; the first one makes it. STRICT: a column
