@@ -156,9 +156,36 @@ double UneFois(auto appel) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
 }
 
+/// How soon a list that would not fit is refused, beside a count of all of it where that does not
+/// take minutes.
+void Refus(const Donnees& d) {
+    std::printf("\nrefusal by bounds, %d draws\nsize  from  refused ms   counted ms  records\n",
+                d.base.NbTirages);
+    for (int taille = 6; taille <= 10; ++taille)
+        for (const int inf : {0, 1, 2}) {
+            ContexteComb c = d.contexte();
+            c.octetsMax = 1;
+            Collecte collecte;
+            const auto chercher = [&](bool compter) {
+                const auto fil = CreerRechercheBornes(c, collecte, taille, inf, NbTiragesMax);
+                fil->compterSeulement = compter;
+                fil->Resume();
+                fil->WaitFor();
+                Exiger(fil->erreur().empty() == compter, "refusal");
+                return fil->nombre();
+            };
+            std::printf("%4d %5d %11.1f", taille, inf, Secondes([&] { chercher(false); }) * 1e3);
+            std::uint64_t nombre = 0;
+            if (taille <= 8)
+                std::printf(" %12.1f", UneFois([&] { nombre = chercher(true); }) * 1e3);
+            std::printf("  %llu\n", static_cast<unsigned long long>(nombre));
+        }
+}
+
 void Mesurer() {
     const Donnees livree(false);
     Memoire(livree);
+    Refus(livree);
 
     const Donnees globale(true);
     std::printf("\nextremes, %d draws\nsize  lines        ms  hash table ms   ratio\n",

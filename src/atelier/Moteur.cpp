@@ -39,6 +39,7 @@ ContexteComb Moteur::contexte() const {
             .IntervalleSup = atelier_.occurrences.IntervalleSup,
             .series = atelier_.series,
             .mode = atelier_.modeStockage,
+            .gains = FormeGains::de(atelier_.configuration.reglages.GainsNominaux),
             .threads = threads,
             .octetsMax = octetsMax};
 }
@@ -71,30 +72,35 @@ ReponseClic Moteur::lancer(PtrFil<Fil> fil, void (Moteur::*finir)(Fil&, FinTrait
 void Moteur::montrer(Liste liste, int de, int a) {
     liste.DebutListe = de;
     liste.FinListe = a;
+    TrierFrequence(liste);
     atelier_.ListeExtremes = std::move(liste);
 }
 
-/// From size 6 on the state is read as current, whatever it was made on, and a series costs nothing
-/// to count: only a list known to belong to these draws is loaded.
-bool Moteur::listeDepassee(int taille) const {
+/// From size 6 on the state is taken as current, whatever it was made on: whether it was never
+/// computed, or computed on other draws. A draw lies in some combination of each size, though in no
+/// series perhaps: a maximum of 0 over all combinations was never counted.
+bool Moteur::etatDepasse(int taille) const {
     if (taille <= NbBoules) return false;
     const EtatCombinaisons& etat = atelier_.combinaisons;
-    if (atelier_.series || etat.BorneSup[Indice(taille)] == 0) return true;
-    if (atelier_.intervalleEntier() && etat.NbTiragesPerime[Indice(taille)]) return true;
-    std::error_code erreur;
-    return !std::filesystem::exists(fichierListe(taille), erreur);
+    const bool perime = etat.NbTiragesPerime[Indice(taille)].has_value();
+    if (atelier_.series) return perime;
+    return etat.BorneSup[Indice(taille)] == 0 || (perime && atelier_.intervalleEntier());
 }
 
 ReponseClic Moteur::cliquerExtremes(int taille) {
     const int calcules = atelier_.combinaisons.NbTiragesComb[Indice(taille)];
     const int tailleIntervalle = atelier_.tailleIntervalle();
     if (tailleIntervalle < calcules && !atelier_.series) return avancerExtremes(taille);
-    if (tailleIntervalle != calcules || listeDepassee(taille)) return calculerExtremes(taille);
+    // Large series are as quickly counted as read, and their state tells no file.
+    const bool serie = taille > NbBoules && atelier_.series;
+    if (tailleIntervalle != calcules || serie || etatDepasse(taille))
+        return calculerExtremes(taille);
 
+    // A file that is missing or damaged costs a run; so does a full one, which was cut when it was
+    // stored: only a run tells how many lines there are.
     const auto stockees = LireListe(fichierListe(taille), taille);
-    if (!stockees) return Refuser(stockees.erreur());
-    // A full list was cut when it was stored: only a run tells how many there are.
-    if (stockees->size() == CapaciteListe) return calculerExtremes(taille);
+    if (!stockees || stockees->empty() || stockees->size() == CapaciteListe)
+        return calculerExtremes(taille);
     montrer(ListeDeCombinaisons(taille, *stockees), atelier_.occurrences.IntervalleInf,
             atelier_.occurrences.IntervalleSup);
     return Montre();
@@ -126,20 +132,20 @@ ReponseClic Moteur::avancerExtremes(int taille) {
     const int total = atelier_.base.NbTirages;
     const int calcules = atelier_.combinaisons.NbTiragesComb[Indice(taille)];
     if (calcules > total) return oublierAutreBase(taille);
-    auto stockees = LireListe(atelier_.Repertoire / fmt::format("comb{}.dat", taille), taille);
-    if (!stockees) return Refuser(stockees.erreur());
-    EffacerMarques(*stockees);
-    Liste liste = ListeDeCombinaisons(taille, *stockees);
-    if (calcules < total) {
+    auto lues = LireListe(atelier_.Repertoire / fmt::format("comb{}.dat", taille), taille);
+    auto stockees = lues ? *std::move(lues) : std::vector<Combinaison>{};
+    EffacerMarques(stockees);
+    const bool suffit = calcules == total && !stockees.empty();
+    if (!suffit) {
         passage_ = std::make_unique<Passage>();
         passage_->NbTiragesCombSauve = calcules;
         passage_->listeAvant = std::move(atelier_.ListeExtremes);
     }
-    montrer(std::move(liste), 1, calcules);
-    if (calcules == total) return Montre();
+    montrer(ListeDeCombinaisons(taille, stockees), 1, calcules);
+    if (suffit) return Montre();
 
     auto fil = PtrFil<TCombNewSearch>(
-        new TCombNewSearch(contexte(), *passage_->collecte, taille, *std::move(stockees)));
+        new TCombNewSearch(contexte(), *passage_->collecte, taille, std::move(stockees)));
     passage_->collecte->progres = &fil->progres;
     fil->garde = passage_->collecte;
     return lancer(std::move(fil), &Moteur::finirAvance);
@@ -152,7 +158,7 @@ ReponseClic Moteur::cliquerBornes(int taille, int inf, int sup) {
                         "Corrigez l'une "
                         "des deux.",
                         inf, sup));
-    const ContexteComb c = contexte();
+    ContexteComb c = contexte();
     Liste liste;
     liste.DebutListe = c.IntervalleInf;
     liste.FinListe = c.IntervalleSup;
@@ -161,7 +167,12 @@ ReponseClic Moteur::cliquerBornes(int taille, int inf, int sup) {
         atelier_.ListeMemoire = std::move(liste);
         return Montre();
     }
+    // The old list makes room for the new one.
+    const std::uint64_t libre = MemoireDisponible();
+    if (c.octetsMax == 0 && libre != 0)
+        c.octetsMax = (libre + atelier_.ListeMemoire.arene.mots.capacity() * sizeof(Mot)) / 2;
     passage_ = std::make_unique<Passage>();
+    passage_->puitsListe->avant = std::exchange(atelier_.ListeMemoire, {});
     auto fil = CreerRechercheBornes(c, *passage_->puitsListe, taille, inf, sup);
     liste.arene.disposition = fil->disposition();
     passage_->puitsListe->liste = std::move(liste);
@@ -173,12 +184,12 @@ ReponseClic Moteur::cliquerBornes(int taille, int inf, int sup) {
 BornesAffichees Moteur::AfficherBornes(int taille) const {
     const auto n = Indice(taille);
     const EtatCombinaisons& etat = atelier_.combinaisons;
-    // A draw lies in some combination of each size, so a maximum of 0 was never counted.
-    const bool jamais = taille > NbBoules && !atelier_.series && etat.BorneSup[n] == 0;
-    return {.calculee = !jamais && etat.NbTiragesComb[n] == atelier_.tailleIntervalle(),
+    const bool depasse = etatDepasse(taille);
+    const int calcules = etat.NbTiragesComb[n];
+    return {.calculee = !depasse && calcules == atelier_.tailleIntervalle(),
             .BorneInf = etat.BorneInf[n],
             .BorneSup = etat.BorneSup[n],
-            .NbTirages = etat.NbTiragesComb[n]};
+            .NbTirages = depasse ? etat.NbTiragesPerime[n].value_or(0) : calcules};
 }
 
 std::array<BornesAffichees, TailleCombMax - TailleCombMin + 1> Moteur::RafraichirBornes() const {

@@ -34,6 +34,7 @@ void Moteur::finirExtremes(TRechercheExtremes& fil, FinTraitement& fin) {
     const auto remplir = [&](std::span<const Combinaison> lignes) {
         montrer(ListeDeCombinaisons(taille, lignes), atelier_.occurrences.IntervalleInf,
                 atelier_.occurrences.IntervalleSup);
+        liste.secondes = fin.secondes;
     };
     if (!fin.message.empty() || fin.arrete || !fil.aTourne())
         etat.NbTiragesComb[n] = passage_->NbTiragesCombSauve;
@@ -68,8 +69,8 @@ void Moteur::stocker(std::span<const Combinaison> lignes, FinTraitement& fin, in
         etat.NbTiragesComb[n] = passage_->NbTiragesCombSauve;
         return;
     }
+    if (atelier_.series || atelier_.intervalleEntier()) etat.NbTiragesPerime[n].reset();
     if (atelier_.series || !atelier_.intervalleEntier()) return;
-    etat.NbTiragesPerime[n].reset();
     const auto ecrit = EcrireCombCalc(etat, atelier_.Repertoire);
     if (!ecrit) fin.message = ecrit.erreur();
 }
@@ -82,7 +83,9 @@ void Moteur::finirAvance(TCombNewSearch& fil, FinTraitement& fin) {
         atelier_.ListeExtremes = std::move(passage_->listeAvant);
         return;
     }
+    if (fil.recompte) fin.secondes.reset();
     montrer(ListeDeCombinaisons(taille, fil.lignes), 1, atelier_.base.NbTirages);
+    atelier_.ListeExtremes.secondes = fin.secondes;
     if (fil.change) {
         const auto ecrite =
             EcrireListe(atelier_.Repertoire / fmt::format("comb{}.dat", taille), fil.lignes);
@@ -94,14 +97,18 @@ void Moteur::finirAvance(TCombNewSearch& fil, FinTraitement& fin) {
     etat.BorneInf[n] = fil.BorneInf;
     etat.BorneSup[n] = fil.BorneSup;
     etat.NbTiragesComb[n] = atelier_.base.NbTirages;
-    if (fil.recompte) fin.secondes.reset();
 }
 
 void Moteur::finirBornes(TRechercheBornes& fil, FinTraitement& fin) {
-    if (!fin.message.empty() || !fil.aTourne()) return;
+    PuitsListe& puits = *passage_->puitsListe;
     Liste& liste = atelier_.liste(fil.description.liste);
-    liste = std::move(passage_->puitsListe->liste);
-    liste.partielle = fin.arrete;
+    if (!fin.message.empty() || !fil.aTourne()) {
+        liste = std::move(puits.avant);
+        return;
+    }
+    liste = std::move(puits.liste);
+    liste.partielle = fin.arrete = !fil.complet();
+    liste.secondes = fin.secondes;
 }
 
 }  // namespace norvane

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "base/Configuration.h"
 #include "comb/LigneCombinaison.h"
 #include "comb/Reduction.h"
 #include "comb/StatsCombinaison.h"
@@ -195,9 +196,11 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
     if (!selection) return Erreur{selection.erreur()};
     atelier.selection = *std::move(selection);
 
-    const ContexteComb c = atelier.contexte(series_, demande->mode);
+    ContexteComb c = atelier.contexte(series_, demande->mode);
+    c.gains = FormeGains::de(
+        Configuration(contexte.repertoire / NomConfiguration).reglages.GainsNominaux);
     const int jauge = std::max(JaugeBornes(c, demande->taille), 1);
-    Ecriture ecriture(contexte.sortie, {demande->taille, demande->mode},
+    Ecriture ecriture(contexte.sortie, {demande->taille, demande->mode, c.gains},
                       [&](int valeur) { contexte.progression.montrer(valeur, jauge); });
     const auto fil = CreerRechercheBornes(c, ecriture, demande->taille, demande->inf, demande->sup);
     if (!fil) {

@@ -19,28 +19,48 @@ constexpr std::uint64_t SansLimite = std::numeric_limits<std::uint64_t>::max();
 constexpr int GaugeCentieme = 100;
 constexpr std::uint64_t Mega = 1'000'000;
 
-/// "38 Mo", rounded up.
-std::string EnMegaoctets(std::uint64_t octets) {
-    return FormaterCompte(static_cast<std::int64_t>((octets + Mega - 1) / Mega)) + " Mo";
+std::string Entier(std::uint64_t n) {
+    return FormaterCompte(static_cast<std::int64_t>(n));
 }
 
-std::string PhraseTropLongue(std::uint64_t nombre, bool exact, std::uint64_t motsParCombinaison,
-                             std::uint64_t octetsMax) {
-    return fmt::format(
-        "La liste compterait {}{} combinaisons, soit {}{}, et elle doit tenir dans {} (la moitié "
-        "de la mémoire libre) : resserrez les bornes ou stockez moins de rangs.",
-        exact ? "" : "au moins ", FormaterCompte(static_cast<std::int64_t>(nombre)),
-        exact ? "" : "au moins ", EnMegaoctets(nombre * motsParCombinaison * sizeof(Mot)),
-        EnMegaoctets(octetsMax));
+/// "38 Mo", rounded up.
+std::string EnMegaoctets(std::uint64_t octets) {
+    return Entier((octets + Mega - 1) / Mega) + " Mo";
+}
+
+/// Rounded to three figures, as far as an estimate goes.
+std::uint64_t Arrondi(std::uint64_t n) {
+    std::uint64_t pas = 1;
+    while (n / pas >= 1000) pas *= 10;
+    return (n + pas / 2) / pas * pas;
 }
 
 }  // namespace
+
+/// Why a list is refused: "" or "environ " or "plus de " `nombre` combinations.
+std::string TRechercheBornes::phraseTropLongue(const char* combien, std::uint64_t nombre,
+                                               std::uint64_t octetsMax) const {
+    const auto octets = [&](ModeStockage mode) {
+        const Disposition d{disposition_.taille, mode, disposition_.gains};
+        return nombre * static_cast<std::uint64_t>(d.mots()) * sizeof(Mot);
+    };
+    bool moinsDeRangs = false;
+    for (const ModeStockage mode : {ModeStockage::PremierRang, ModeStockage::RangsDeGain})
+        moinsDeRangs = moinsDeRangs || (mode < disposition_.mode && octets(mode) <= octetsMax);
+    return fmt::format(
+        "La liste compterait {}{} combinaisons, soit {}{}, et elle doit tenir dans {} (la moitié "
+        "de la mémoire libre) : {}{}.",
+        combien, Entier(nombre), combien, EnMegaoctets(octets(disposition_.mode)),
+        EnMegaoctets(octetsMax),
+        inf_ < sup_ ? "resserrez les bornes" : "choisissez d'autres bornes",
+        moinsDeRangs ? " ou stockez moins de rangs" : "");
+}
 
 TRechercheBornes::TRechercheBornes(const ContexteComb& contexte, Puits& puits,
                                    DomaineBornes domaine, int taille, int inf, int sup)
     : TCombThread(puits, {GenreTravail::Bornes, taille, QuelleListe::Memoire}),
       contexte_(contexte),
-      disposition_{taille, contexte.mode},
+      disposition_{taille, contexte.mode, contexte.gains},
       domaine_(domaine),
       inf_(inf),
       sup_(sup) {
@@ -48,41 +68,43 @@ TRechercheBornes::TRechercheBornes(const ContexteComb& contexte, Puits& puits,
 }
 
 void TRechercheBornes::mener(TravailBornes& travail) {
+    if (compterSeulement) {
+        nombre_ = travail.compter(inf_, sup_);
+        complet_ = !Terminated();
+        return;
+    }
     const auto pas = static_cast<std::uint64_t>(disposition_.mots());
     std::uint64_t octetsMax = contexte_.octetsMax;
     if (octetsMax == 0) octetsMax = MemoireDisponible() / 2;
     // Where the system does not tell, the allocation itself refuses.
-    std::uint64_t plafond =
+    const std::uint64_t plafond =
         octetsMax == 0 ? SansLimite / (4 * sizeof(Mot) * pas) : octetsMax / (pas * sizeof(Mot));
-    if (compterSeulement) plafond = SansLimite;
+    const std::uint64_t demandes = limite == 0 ? SansLimite : limite;
 
-    std::uint64_t prevu = limite;
-    if (limite == 0 || limite > plafond) {
-        prevu = travail.compter(inf_, sup_, plafond);
-        if (Terminated()) return;
-        if (compterSeulement) {
-            nombre_ = prevu;
-            return;
-        }
-        if (limite != 0) prevu = std::min(prevu, limite);
-        if (prevu > plafond)
-            return refuser(PhraseTropLongue(prevu, travail.compteTout(), pas, octetsMax));
-        puits().Reserver(static_cast<std::size_t>(prevu * pas));
+    const Prevision prevision = travail.prevoir(inf_, sup_);
+    if (Terminated()) return;
+    if (std::min(prevision.minimum, demandes) > plafond) {
+        const bool exacte = prevision.exacte();
+        return refuser(phraseTropLongue(exacte ? "" : "environ ",
+                                        exacte ? prevision.nombre : Arrondi(prevision.nombre),
+                                        octetsMax));
     }
+    puits().Reserver(
+        static_cast<std::size_t>(std::min({prevision.maximum, demandes, plafond}) * pas));
 
     LotMots lot(puits(), static_cast<std::size_t>(pas));
-    travail.lister(inf_, sup_, [&](std::span<const Mot> mots) {
-        const std::uint64_t place = prevu - nombre_;
-        const std::uint64_t donnes = std::min<std::uint64_t>(mots.size() / pas, place);
-        if (donnes < mots.size() / pas && limite == 0) {
-            refuser("La liste a dépassé la longueur prévue : relancez le calcul.");
+    const bool fini = travail.lister({inf_, sup_, demandes}, [&](std::span<const Mot> mots) {
+        const std::uint64_t donnes = std::min(mots.size() / pas, demandes - nombre_);
+        if (nombre_ + donnes > plafond) {
+            refuser(phraseTropLongue("plus de ", plafond, octetsMax));
             return false;
         }
         lot.ajouter(mots.first(static_cast<std::size_t>(donnes * pas)));
         nombre_ += donnes;
-        return nombre_ < prevu && !Terminated();
+        return nombre_ < demandes && !Terminated();
     });
     lot.vider();
+    complet_ = fini || nombre_ == demandes;
 }
 
 void TRechercheBornes::Execute() {
@@ -135,7 +157,7 @@ Arene CombinaisonUnique(const ContexteComb& c, int inf, int sup) {
     const Masque masque = Ensemble::de(selection).bits();
     const auto n = static_cast<int>(std::ranges::count_if(
         MasquesIntervalle(c), [&](Masque t) { return Compte(t, masque, taille); }));
-    Arene liste{{taille, c.mode}, {}};
+    Arene liste{{taille, c.mode, c.gains}, {}};
     if (n >= inf && n <= sup)
         liste.mots = Redacteur(c, liste.disposition).sansStatistiques(numeros, n);
     return liste;

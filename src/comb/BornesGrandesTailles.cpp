@@ -6,56 +6,13 @@
 #include "base/Repartition.h"
 #include "comb/GrandesTailles.h"
 #include "Croissance.h"
+#include "EnOrdre.h"
 
 namespace norvane {
 
 namespace {
 
-using Recevoir = std::function<bool(Masque, std::span<const std::uint16_t>)>;
-
-/// Hands combinations on with their draws, until the receiver has enough or the search is stopped.
-class Remise {
- public:
-    Remise(const IndexTirages& index, const Recevoir& recevoir, std::stop_token arret)
-        : index_(index), recevoir_(recevoir), arret_(std::move(arret)) {}
-
-    bool donner(Masque combinaison) {
-        if (finie_) return false;
-        index_.lister(combinaison, places_);
-        finie_ = !recevoir_(combinaison, places_) || arret_.stop_requested();
-        return !finie_;
-    }
-    bool continuer() const { return !finie_ && !arret_.stop_requested(); }
-
- private:
-    const IndexTirages& index_;
-    const Recevoir& recevoir_;
-    const std::stop_token arret_;
-    std::vector<std::uint16_t> places_;
-    bool finie_ = false;
-};
-
-/// Combinations found in lexicographic order go straight to the receiver.
-class RecolteDirecte : public Recolte {
- public:
-    RecolteDirecte(Remise& remise, const std::function<void(int)>& avance)
-        : remise_(remise), avancement_(avance, Binomial(NumeroMax, 3), 0, 100) {}
-
-    void recevoir(Masque base, Masque ajouts, int) override {
-        PourChaqueNumero(ajouts, [&](int y) { remise_.donner(base | Bit(y)); });
-        const std::size_t triplet = RangBas(base, 3);
-        if (triplet != triplet_) avancement_.pas();
-        triplet_ = triplet;
-    }
-    bool continuer() override { return remise_.continuer(); }
-
- private:
-    Remise& remise_;
-    Avancement avancement_;
-    std::size_t triplet_ = 0;
-};
-
-/// Combinations sorted into one drawer for each three lowest numbers.
+/// Combinations found in any order, sorted into one drawer for each three lowest numbers.
 class RecolteTiroirs : public Recolte {
  public:
     explicit RecolteTiroirs(std::stop_token arret) : arret_(std::move(arret)) {}
@@ -74,41 +31,78 @@ class RecolteTiroirs : public Recolte {
     const std::stop_token arret_;
 };
 
-/// Gives the contents of the drawers in lexicographic order and frees each one on the way.
-bool Vider(std::vector<RecolteTiroirs>& recoltes, Remise& remise, Avancement& avancement) {
-    std::vector<Masque> tiroir;
-    for (int a = 0; a < NumeroMax; ++a)
-        for (int b = a + 1; b < NumeroMax; ++b)
-            for (int c = b + 1; c < NumeroMax; ++c) {
-                const std::size_t rang = RangBas(Bit(a) | Bit(b) | Bit(c), 3);
-                tiroir.clear();
-                for (RecolteTiroirs& r : recoltes) {
-                    const auto part = std::exchange(r.tiroirs[rang], {});
-                    tiroir.insert(tiroir.end(), part.begin(), part.end());
+/// The drawers of all threads, cut into rows of neighbours that are worth a hand-over.
+class Commode {
+ public:
+    /// The drawers of one row, in lexicographic order, and what they hold together.
+    struct Rangee {
+        std::vector<std::size_t> tiroirs;
+        std::size_t nombre = 0;
+    };
+
+    explicit Commode(std::vector<RecolteTiroirs>& recoltes) : recoltes_(recoltes) {
+        constexpr std::size_t Assez = 8192;
+        for (int a = 0; a < NumeroMax; ++a)
+            for (int b = a + 1; b < NumeroMax; ++b)
+                for (int c = b + 1; c < NumeroMax; ++c) {
+                    const std::size_t rang = RangBas(Bit(a) | Bit(b) | Bit(c), 3);
+                    std::size_t n = 0;
+                    for (const RecolteTiroirs& r : recoltes_) n += r.tiroirs[rang].size();
+                    if (n == 0) continue;
+                    if (rangees.empty() || rangees.back().nombre >= Assez) rangees.emplace_back();
+                    rangees.back().tiroirs.push_back(rang);
+                    rangees.back().nombre += n;
+                    nombre += n;
                 }
-                std::sort(tiroir.begin(), tiroir.end(), AvantLexico);
-                for (const Masque m : tiroir)
-                    if (!remise.donner(m)) return false;
-                avancement.pas();
+    }
+
+    /// Replaces `contenu` by that of one drawer, in lexicographic order, and empties it.
+    void vider(std::size_t rang, std::vector<Masque>& contenu) {
+        contenu.clear();
+        for (RecolteTiroirs& r : recoltes_) {
+            const auto part = std::exchange(r.tiroirs[rang], {});
+            contenu.insert(contenu.end(), part.begin(), part.end());
+        }
+        std::sort(contenu.begin(), contenu.end(), AvantLexico);
+    }
+
+    std::vector<Rangee> rangees;
+    std::size_t nombre = 0;
+
+ private:
+    std::vector<RecolteTiroirs>& recoltes_;
+};
+
+/// Writes out what one row holds.
+struct Redaction {
+    const IndexTirages& index;
+    const Livraison& livraison;
+    Commode& commode;
+    std::vector<Mot> mots{};
+    std::vector<Masque> tiroir{};
+    std::vector<std::uint16_t> places{};
+
+    bool produire(std::size_t i) {
+        mots.clear();
+        for (const std::size_t rang : commode.rangees[i].tiroirs) {
+            commode.vider(rang, tiroir);
+            for (const Masque m : tiroir) {
+                index.lister(m, places);
+                livraison.rediger(mots, m, places);
             }
-    return remise.continuer();
-}
+        }
+        return true;
+    }
+};
 
 }  // namespace
 
-bool ListerBornesGrandeTaille(
-    std::span<const Tirage> tirages, int taille, int inf, int sup, unsigned threads,
-    std::stop_token arret, const std::function<void(int)>& avance,
-    const std::function<bool(Masque, std::span<const std::uint16_t>)>& recevoir) {
-    if (sup < std::max(inf, 0) || inf > static_cast<int>(tirages.size())) return true;
+bool ListerBornesGrandeTaille(std::span<const Tirage> tirages, int taille, int inf, int sup,
+                              unsigned threads, const std::stop_token& arret,
+                              const std::function<void(int)>& avance, const Livraison& livraison) {
+    if (sup < inf || inf > static_cast<int>(tirages.size())) return true;
     const IndexTirages index(tirages);
-    Remise remise(index, recevoir, arret);
-    const std::atomic<int> minimum = std::max(inf, 1);
-    if (inf <= 0) {
-        RecolteDirecte recolte(remise, avance);
-        return Croissance(index, taille, minimum, sup, recolte).lexicographique() &&
-               remise.continuer();
-    }
+    const std::atomic<int> minimum = inf;
     threads = std::max(1U, threads);
     std::vector<RecolteTiroirs> recoltes(threads, RecolteTiroirs(arret));
     Avancement recherche(avance, index.nombre(), 0, 50);
@@ -118,8 +112,17 @@ bool ListerBornesGrandeTaille(
             recherche.pas();
     });
     if (arret.stop_requested()) return false;
-    Avancement lecture(avance, NbTriplets, 50, 100);
-    return Vider(recoltes, remise, lecture);
+
+    Commode commode(recoltes);
+    std::size_t donnees = 0;
+    return EnOrdre(
+        commode.rangees.size(), threads, arret,
+        [&] { return Redaction{.index = index, .livraison = livraison, .commode = commode}; },
+        [&](std::size_t i, const Redaction& redaction) {
+            donnees += commode.rangees[i].nombre;
+            if (avance) avance(50 + static_cast<int>(donnees * 50 / commode.nombre));
+            return redaction.mots.empty() || livraison.livrer(redaction.mots);
+        });
 }
 
 }  // namespace norvane

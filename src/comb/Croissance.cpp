@@ -207,29 +207,4 @@ void Croissance::fermer(std::size_t hauteur) {
     }
 }
 
-bool Croissance::lexicographique() {
-    // A plain descent: the counts never fall on the way down, so a set above the maximum ends it.
-    const auto descendre = [this](const auto& self, const Noeud& n) -> void {
-        if (!poursuivre()) return;
-        const int premier =
-            n.taille == 0 ? 0 : n.numeros[static_cast<std::size_t>(n.taille) - 1] + 1;
-        const bool derniere = n.taille + 1 == taille_;
-        for (int y = premier; y <= NumeroMax - (taille_ - n.taille) && !fini_; ++y) {
-            const int compte = n.compte + gain(y);
-            if (compte > maximum_) continue;
-            if (derniere) {
-                recolte_.recevoir(n.ensemble, Bit(y), compte);
-                continue;
-            }
-            Noeud suivant = avec(n, y, n.utilisations);
-            const std::size_t hauteur = proches_.size();
-            ouvrir(suivant, y);
-            self(self, suivant);
-            fermer(hauteur);
-        }
-    };
-    descendre(descendre, Noeud{});
-    return !fini_;
-}
-
 }  // namespace norvane

@@ -40,10 +40,6 @@ class Croissance {
     /// All combinations whose line of parents ends at this distinct draw. False when ended early.
     bool depuis(std::size_t tirage);
 
-    /// All combinations that hold at most the maximum, without a minimum, in lexicographic order.
-    /// False when ended early.
-    bool lexicographique();
-
  private:
     using Utilisations = std::array<int, TailleGrandeMax>;
     struct Noeud {

@@ -9,7 +9,7 @@ int Disposition::blocs() const {
         case ModeStockage::PremierRang:
             return 1;
         case ModeStockage::RangsDeGain:
-            return NbRangsGain(taille);
+            return std::popcount(RangsDeGain(taille, gains) | 1U << BonsPremierRang(taille));
         case ModeStockage::TousLesRangs:
             return taille + 1;
     }

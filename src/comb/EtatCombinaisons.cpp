@@ -13,6 +13,7 @@
 
 #include "base/Fichiers.h"
 #include "base/Textes.h"
+#include "IndexTirages.h"
 
 namespace norvane {
 
@@ -44,6 +45,32 @@ Erreur LigneIllisible(const fs::path& fichier, int numero) {
         fmt::format("Ligne {} du fichier « {} » illisible : trois entiers de 0 à {} y sont "
                     "attendus. Supprimez ce fichier ; les bornes seront recalculées.",
                     numero, fichier.string(), ValeurMax)};
+}
+
+/// One line of the file.
+struct Extremes {
+    int nbTirages, inf, sup;
+};
+
+/// Whether a count over that many draws can give these bounds: the smallest count is at most the
+/// mean over all combinations and the largest at least that, and no combination comes out more
+/// often than there are draws. The largest is 1 at least.
+bool Possibles(int taille, const Extremes& e) {
+    const bool grande = taille > NbBoules;
+    const double toutes = static_cast<double>(Binomial(NumeroMax, taille));
+    const double parTirage = static_cast<double>(
+        grande ? Binomial(NumeroMax - NbBoules, taille - NbBoules) : Binomial(NbBoules, taille));
+    const double moyenne = e.nbTirages * parTirage / toutes;
+    return e.sup > 0 && e.sup <= e.nbTirages && e.sup >= moyenne && e.inf <= moyenne;
+}
+
+void poser(EtatCombinaisons& etat, int taille, Extremes e, int nbTirages) {
+    if (e.nbTirages > 0 && !Possibles(taille, e)) e = {0, 0, 0};
+    const auto n = static_cast<std::size_t>(taille);
+    etat.NbTiragesComb[n] = taille < TailleSansControle ? e.nbTirages : nbTirages;
+    if (etat.NbTiragesComb[n] != e.nbTirages) etat.NbTiragesPerime[n] = e.nbTirages;
+    etat.BorneInf[n] = e.inf;
+    etat.BorneSup[n] = e.sup;
 }
 
 std::string Ligne(int nbTirages, int inf, int sup) {
@@ -134,11 +161,7 @@ Resultat<EtatCombinaisons> LireCombCalc(const fs::path& repertoire, int nbTirage
         if (coupee || (entiers->empty() && Rogner(reste).empty())) break;
         if (entiers->size() != 3) return LigneIllisible(fichier, numero);
 
-        const auto n = static_cast<std::size_t>(taille);
-        etat.NbTiragesComb[n] = taille < TailleSansControle ? (*entiers)[0] : nbTirages;
-        if (etat.NbTiragesComb[n] != (*entiers)[0]) etat.NbTiragesPerime[n] = (*entiers)[0];
-        etat.BorneInf[n] = (*entiers)[1];
-        etat.BorneSup[n] = (*entiers)[2];
+        poser(etat, taille, {(*entiers)[0], (*entiers)[1], (*entiers)[2]}, nbTirages);
     }
     return etat;
 }

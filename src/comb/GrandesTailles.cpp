@@ -127,59 +127,33 @@ ExtremesGrandeTaille SansTirage(int taille, std::size_t capacite) {
     return resultat;
 }
 
-/// Counts, and gives up above the ceiling, which all threads share.
+/// Counts.
 class RecolteCompte : public Recolte {
  public:
-    RecolteCompte(std::atomic<std::uint64_t>& total, std::uint64_t plafond, std::stop_token arret)
-        : total_(total), plafond_(plafond), arret_(std::move(arret)) {}
+    explicit RecolteCompte(std::stop_token arret) : arret_(std::move(arret)) {}
 
     void recevoir(Masque, Masque ajouts, int) override {
-        compte_ += static_cast<std::uint64_t>(std::popcount(ajouts));
+        compte += static_cast<std::uint64_t>(std::popcount(ajouts));
     }
-    bool continuer() override {
-        const std::uint64_t total = total_.fetch_add(compte_) + compte_;
-        compte_ = 0;
-        return total <= plafond_ && !arret_.stop_requested();
-    }
+    bool continuer() override { return !arret_.stop_requested(); }
+
+    std::uint64_t compte = 0;
 
  private:
-    std::atomic<std::uint64_t>& total_;
-    const std::uint64_t plafond_;
     const std::stop_token arret_;
-    std::uint64_t compte_ = 0;
 };
 
 /// Combinations that hold inf (1 or more) to sup draws.
 std::uint64_t CompterAuMoins(const IndexTirages& index, int taille, int inf, int sup,
-                             std::uint64_t plafond, const std::stop_token& arret) {
+                             unsigned threads, const std::stop_token& arret) {
     const std::atomic<int> minimum = inf;
     std::atomic<std::uint64_t> total = 0;
-    Repartir(index.nombre(), NombreCoeurs(), [&](unsigned, auto suivante) {
-        RecolteCompte recolte(total, plafond, arret);
+    Repartir(index.nombre(), std::max(1U, threads), [&](unsigned, auto suivante) {
+        RecolteCompte recolte(arret);
         Croissance croissance(index, taille, minimum, sup, recolte);
         for (auto i = suivante(); i < index.nombre() && croissance.depuis(i);) i = suivante();
-        recolte.continuer();
+        total += recolte.compte;
     });
-    return total;
-}
-
-/// Combinations that hold at most sup draws.
-std::uint64_t CompterAuPlus(const IndexTirages& index, int taille, int sup, std::uint64_t plafond,
-                            const std::stop_token& arret) {
-    const std::uint64_t toutes = Binomial(NumeroMax, taille);
-    if (sup >= index.poidsTotal()) return toutes;
-    // Each draw lies in as many combinations: that many at most hold more than sup draws.
-    const std::uint64_t contenues = static_cast<std::uint64_t>(index.poidsTotal()) *
-                                    Binomial(NumeroMax - NbBoules, taille - NbBoules);
-    const std::uint64_t audessus = contenues / static_cast<std::uint64_t>(sup + 1);
-    if (audessus < toutes && toutes - audessus > plafond) return toutes - audessus;
-    if (audessus < toutes)
-        return toutes - CompterAuMoins(index, taille, sup + 1, index.poidsTotal(), toutes, arret);
-    const std::atomic<int> minimum = 1;
-    std::atomic<std::uint64_t> total = 0;
-    RecolteCompte recolte(total, plafond, arret);
-    Croissance(index, taille, minimum, sup, recolte).lexicographique();
-    recolte.continuer();
     return total;
 }
 
@@ -218,11 +192,14 @@ ExtremesGrandeTaille ChercherExtremesGrandeTaille(std::span<const Tirage> tirage
 }
 
 std::uint64_t CompterBornesGrandeTaille(std::span<const Tirage> tirages, int taille, int inf,
-                                        int sup, std::uint64_t plafond, std::stop_token arret) {
-    if (sup < std::max(inf, 0) || inf > static_cast<int>(tirages.size())) return 0;
+                                        int sup, unsigned threads, const std::stop_token& arret) {
+    const int tous = static_cast<int>(tirages.size());
+    if (sup < std::max(inf, 0) || inf > tous) return 0;
     const IndexTirages index(tirages);
-    return inf > 0 ? CompterAuMoins(index, taille, inf, sup, plafond, arret)
-                   : CompterAuPlus(index, taille, sup, plafond, arret);
+    if (inf > 0) return CompterAuMoins(index, taille, inf, sup, threads, arret);
+    const std::uint64_t toutes = Binomial(NumeroMax, taille);
+    return sup >= tous ? toutes
+                       : toutes - CompterAuMoins(index, taille, sup + 1, tous, threads, arret);
 }
 
 }  // namespace norvane

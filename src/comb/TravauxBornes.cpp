@@ -5,11 +5,10 @@
 #include <algorithm>
 #include <atomic>
 #include <numeric>
-#include <optional>
 
 #include "Arbre.h"
 #include "EnOrdre.h"
-#include "Residus.h"
+#include "IndexTirages.h"
 
 namespace norvane {
 
@@ -24,35 +23,36 @@ class TravailListes final : public TravailBornes {
           fixes_(std::move(fixes)),
           domaine_(std::move(domaine)),
           branches_(Branches(domaine_, true)),
+          pieces_(pieces()),
+          fils_(static_cast<unsigned>(
+              std::min<std::size_t>(NombreFils(c), std::max<std::size_t>(pieces_.size(), 1)))),
           redacteur_(c, d) {}
 
-    std::uint64_t compter(int inf, int sup, std::uint64_t /*plafond*/) override {
+    Prevision prevoir(int inf, int sup) override {
         std::atomic<std::uint64_t> total = 0;
-        Repartir(branches_.size(), NombreFils(contexte), [&](unsigned, auto suivante) {
+        Repartir(pieces_.size(), fils_, [&](unsigned, auto suivante) {
             Marcheur<false> marcheur(contexte.base, contexte.occurrences, domaine_);
             std::uint64_t n = 0;
-            for (std::size_t i = suivante(); i < branches_.size(); i = suivante()) {
-                if (arret.stop_requested()) return;
-                marcheur.parcourir(branches_[i], inf, [&](const auto& feuille) {
-                    for (std::size_t j = feuille.premier; j < domaine_.alphabet.size(); ++j) {
-                        const int c = feuille.rangee[colonne(j)];
-                        n += static_cast<std::uint64_t>(c >= inf && c <= sup);
-                    }
-                });
-            }
+            for (std::size_t i = suivante(); i < pieces_.size(); i = suivante())
+                for (const Branche& branche : piece(i)) {
+                    if (arret.stop_requested()) return;
+                    marcheur.parcourir(branche, inf, [&](const auto& feuille) {
+                        for (std::size_t j = feuille.premier; j < domaine_.alphabet.size(); ++j) {
+                            const int c = feuille.rangee[colonne(j)];
+                            n += static_cast<std::uint64_t>(c >= inf && c <= sup);
+                        }
+                    });
+                }
             total += n;
         });
-        return total;
+        return Prevision::exactement(total);
     }
 
-    bool compteTout() const override { return true; }
-
-    void lister(int inf, int sup, const Recevoir& recevoir) override {
-        EnOrdre(
-            branches_.size(), NombreFils(contexte), arret, [&] { return Ouvrier(*this, inf, sup); },
-            [&](std::size_t i, Ouvrier& ouvrier) {
-                const int place = static_cast<int>(branches_[i].choix[0]) + 1;
-                if (place > place_) puits.SetProgress(place_ = place);
+    bool lister(const DemandeBornes& demande, const Recevoir& recevoir) override {
+        return EnOrdre(
+            pieces_.size(), fils_, arret, [&] { return Ouvrier(*this, demande.inf, demande.sup); },
+            [&](std::size_t i, const Ouvrier& ouvrier) {
+                puits.SetProgress(static_cast<int>(piece(i).back().choix[0]) + 1);
                 return ouvrier.mots.empty() || recevoir(ouvrier.mots);
             });
     }
@@ -66,8 +66,10 @@ class TravailListes final : public TravailBornes {
               sup_(sup) {}
         bool produire(std::size_t i) {
             mots.clear();
-            marcheur.parcourir(travail.branches_[i], inf_,
-                               [&](const auto& feuille) { ajouter(feuille); });
+            for (const Branche& branche : travail.piece(i)) {
+                if (travail.arret.stop_requested()) return false;
+                marcheur.parcourir(branche, inf_, [&](const auto& feuille) { ajouter(feuille); });
+            }
             return true;
         }
         template <typename Feuille>
@@ -103,11 +105,38 @@ class TravailListes final : public TravailBornes {
         return static_cast<std::size_t>(domaine_.alphabet[j] - 1);
     }
 
+    /// Cuts the branches into rows that are worth a hand-over to another thread. Measured: a second
+    /// thread costs more than it brings below some hundred thousand combinations, which take
+    /// milliseconds.
+    std::vector<std::size_t> pieces() const {
+        constexpr std::uint64_t Assez = 1 << 16;
+        const auto n = static_cast<int>(domaine_.alphabet.size());
+        std::vector<std::size_t> debuts;
+        std::uint64_t combinaisons = Assez;
+        for (std::size_t i = 0; i < branches_.size(); ++i) {
+            if (combinaisons >= Assez) {
+                debuts.push_back(i);
+                combinaisons = 0;
+            }
+            const auto longueur = static_cast<std::size_t>(branches_[i].longueur);
+            const int derniere =
+                longueur == 0 ? -1 : static_cast<int>(branches_[i].choix[longueur - 1]);
+            combinaisons +=
+                Binomial(n - 1 - derniere, domaine_.profondeur - static_cast<int>(longueur));
+        }
+        return debuts;
+    }
+    std::span<const Branche> piece(std::size_t i) const {
+        const std::size_t fin = i + 1 < pieces_.size() ? pieces_[i + 1] : branches_.size();
+        return std::span(branches_).subspan(pieces_[i], fin - pieces_[i]);
+    }
+
     const std::vector<int> fixes_;
     const Domaine domaine_;
     const std::vector<Branche> branches_;
+    const std::vector<std::size_t> pieces_;  ///< first branch of each
+    const unsigned fils_;
     const Redacteur redacteur_;
-    int place_ = -1;
 };
 
 /// The 50 - N runs of consecutive numbers.
@@ -115,16 +144,17 @@ class TravailSeries final : public TravailBornes {
  public:
     using TravailBornes::TravailBornes;
 
-    std::uint64_t compter(int inf, int sup, std::uint64_t /*plafond*/) override {
+    Prevision prevoir(int inf, int sup) override {
         std::uint64_t n = 0;
         parcourir(inf, sup, [&](Masque, ListeTirages) { return ++n > 0; });
-        return n;
+        return Prevision::exactement(n);
     }
 
-    void lister(int inf, int sup, const Recevoir& recevoir) override {
+    bool lister(const DemandeBornes& demande, const Recevoir& recevoir) override {
         const Redacteur redacteur(contexte, disposition);
-        parcourir(inf, sup, [&](Masque serie, ListeTirages liste) {
-            std::vector<Mot> mots;
+        std::vector<Mot> mots;
+        return parcourir(demande.inf, demande.sup, [&](Masque serie, ListeTirages liste) {
+            mots.clear();
             redacteur.ajouter(mots, NumerosTries(Ensemble(serie)), liste);
             return recevoir(mots);
         });
@@ -132,10 +162,11 @@ class TravailSeries final : public TravailBornes {
 
  private:
     template <typename Visite>
-    void parcourir(int inf, int sup, Visite visite) {
+    bool parcourir(int inf, int sup, Visite visite) {
         const auto masques = MasquesIntervalle(contexte);
         const int taille = disposition.taille;
-        for (int a = 1; a + taille - 1 <= NumeroMax && !arret.stop_requested(); ++a) {
+        for (int a = 1; a + taille - 1 <= NumeroMax; ++a) {
+            if (arret.stop_requested()) return false;
             puits.SetProgress(a);
             const Masque serie = ((Masque{1} << taille) - 1) << (a - 1);
             ListeOccurrences liste;
@@ -144,105 +175,10 @@ class TravailSeries final : public TravailBornes {
                     liste.push_back(static_cast<Occurrence>(
                         d + static_cast<std::size_t>(contexte.IntervalleInf - 1)));
             const int c = static_cast<int>(liste.size());
-            if (c >= inf && c <= sup && !visite(serie, liste)) return;
+            if (c >= inf && c <= sup && !visite(serie, liste)) return false;
         }
+        return true;
     }
-};
-
-/// Sizes 6 to 10 over all numbers.
-class TravailGrand final : public TravailBornes {
- public:
-    using TravailBornes::TravailBornes;
-
-    std::uint64_t compter(int inf, int sup, std::uint64_t plafond) override {
-        return CompterBornesGrandeTaille(TiragesIntervalle(contexte), disposition.taille, inf, sup,
-                                         plafond, arret);
-    }
-
-    void lister(int inf, int sup, const Recevoir& recevoir) override {
-        const Redacteur redacteur(contexte, disposition);
-        std::vector<Mot> mots;
-        ListeOccurrences liste;
-        const auto premier = static_cast<std::size_t>(contexte.IntervalleInf - 1);
-        ListerBornesGrandeTaille(TiragesIntervalle(contexte), disposition.taille, inf, sup,
-                                 NombreFils(contexte), arret, JaugePartagee(puits),
-                                 [&](Masque m, std::span<const std::uint16_t> places) {
-                                     liste.clear();
-                                     for (const std::uint16_t p : places)
-                                         liste.push_back(static_cast<Occurrence>(p + premier));
-                                     mots.clear();
-                                     redacteur.ajouter(mots, NumerosTries(Ensemble(m)), liste);
-                                     return recevoir(mots);
-                                 });
-    }
-};
-
-/// Sizes 6 to 10 made of fixed numbers and a choice of others.
-class TravailResidus final : public TravailBornes {
- public:
-    TravailResidus(const ContexteComb& c, Disposition d, const std::vector<int>& fixes,
-                   const std::vector<int>& reserve, Puits& p, std::stop_token a)
-        : TravailBornes(c, d, p, std::move(a)),
-          fixes_(Ensemble::de(fixes).bits()),
-          permis_(fixes_ | Ensemble::de(reserve).bits()),
-          residus_(MasquesIntervalle(c), fixes, reserve, d.taille - static_cast<int>(fixes.size())),
-          redacteur_(c, d) {}
-
-    std::uint64_t compter(int inf, int sup, std::uint64_t plafond) override {
-        if (!parmiToutes(inf, sup)) return residus_.compter(inf, sup, plafond, arret);
-        std::uint64_t n = 0;
-        PuitsMuet muet;
-        listerParmiToutes(inf, sup, muet,
-                          [&](Masque, std::span<const std::uint16_t>) { return ++n <= plafond; });
-        return n;
-    }
-
-    void lister(int inf, int sup, const Recevoir& recevoir) override {
-        std::vector<Mot> mots;
-        ListeOccurrences liste;
-        const auto premier = static_cast<std::size_t>(contexte.IntervalleInf - 1);
-        const auto rediger = [&](Masque m, std::span<const std::uint16_t> places) {
-            liste.clear();
-            for (const std::uint16_t p : places)
-                liste.push_back(static_cast<Occurrence>(p + premier));
-            mots.clear();
-            redacteur_.ajouter(mots, NumerosTries(Ensemble(m | fixes_)), liste);
-            return recevoir(mots);
-        };
-        if (parmiToutes(inf, sup)) return listerParmiToutes(inf, sup, puits, rediger);
-        residus_.lister(inf, sup, arret, JaugePartagee(puits), rediger);
-    }
-
- private:
-    /// With many choices and few combinations that reach `inf` at all, it is faster to find those
-    /// among all numbers and to keep the ones within the selection. Measured: a hundred million
-    /// choices take about a second and a half.
-    bool parmiToutes(int inf, int sup) {
-        constexpr std::uint64_t ChoixMax = 100'000'000;
-        constexpr std::uint64_t ToutesMax = 2'000'000;
-        if (!parmiToutes_)
-            parmiToutes_ =
-                inf >= 2 && residus_.choixPossibles() > ChoixMax &&
-                CompterBornesGrandeTaille(TiragesIntervalle(contexte), disposition.taille, inf, sup,
-                                          ToutesMax, arret) <= ToutesMax;
-        return *parmiToutes_;
-    }
-
-    template <typename Visite>
-    void listerParmiToutes(int inf, int sup, Puits& jauge, Visite visite) {
-        ListerBornesGrandeTaille(TiragesIntervalle(contexte), disposition.taille, inf, sup,
-                                 NombreFils(contexte), arret, JaugePartagee(jauge),
-                                 [&](Masque m, std::span<const std::uint16_t> places) {
-                                     const bool dedans = (fixes_ & ~m) == 0 && (m & ~permis_) == 0;
-                                     return !dedans || visite(m, places);
-                                 });
-    }
-
-    const Masque fixes_;
-    const Masque permis_;
-    const Residus residus_;
-    const Redacteur redacteur_;
-    std::optional<bool> parmiToutes_;
 };
 
 /// The list of each number of the reserve among the draws that hold all fixed ones.
@@ -292,7 +228,6 @@ std::vector<Mot> Redacteur::sansStatistiques(std::span<const Mot> numeros, int n
 std::unique_ptr<TravailBornes> TravailTout(const ContexteComb& c, Disposition d, bool series,
                                            Puits& puits, std::stop_token arret) {
     if (series) return std::make_unique<TravailSeries>(c, d, puits, std::move(arret));
-    if (d.taille > NbBoules) return std::make_unique<TravailGrand>(c, d, puits, std::move(arret));
     std::vector<int> tous(NumeroMax);
     std::iota(tous.begin(), tous.end(), 1);
     return TravailReserve(c, d, {}, std::move(tous), puits, std::move(arret));
@@ -302,7 +237,7 @@ std::unique_ptr<TravailBornes> TravailReserve(const ContexteComb& c, Disposition
                                               std::vector<int> fixes, std::vector<int> reserve,
                                               Puits& puits, std::stop_token arret) {
     if (d.taille > NbBoules)
-        return std::make_unique<TravailResidus>(c, d, fixes, reserve, puits, std::move(arret));
+        return TravailGrandeTaille(c, d, fixes, reserve, puits, std::move(arret));
     auto racines = RacinesReserve(c, fixes, reserve);
     const int profondeur = d.taille - static_cast<int>(fixes.size());
     return std::make_unique<TravailListes>(

@@ -11,11 +11,19 @@
 #include <vector>
 
 #include "comb/Noyaux.h"
+#include "Prevision.h"
 #include "Recherche.h"
 
 namespace norvane {
 
-/// Takes whole records; false ends the search.
+/// What is searched for.
+struct DemandeBornes {
+    int inf;
+    int sup;
+    std::uint64_t limite;  ///< records asked for, the first ones
+};
+
+/// Takes whole records, at least one; false ends the search.
 using Recevoir = std::function<bool(std::span<const Mot>)>;
 
 class TravailBornes {
@@ -26,13 +34,14 @@ class TravailBornes {
     TravailBornes(const TravailBornes&) = delete;
     TravailBornes& operator=(const TravailBornes&) = delete;
 
-    /// How many combinations have a count of inf..sup; where there are more than `plafond`, any
-    /// number of them above it. Void when stopped.
-    virtual std::uint64_t compter(int inf, int sup, std::uint64_t plafond) = 0;
-    /// Above the limit too `compter` tells how many there are, not just that there are more.
-    virtual bool compteTout() const { return false; }
-    /// Gives their records in lexicographic order, one call at a time.
-    virtual void lister(int inf, int sup, const Recevoir& recevoir) = 0;
+    /// How many combinations have a count of inf..sup, in far less time than `lister` takes. Void
+    /// when stopped.
+    virtual Prevision prevoir(int inf, int sup) = 0;
+    /// The same, exact, however long it takes.
+    virtual std::uint64_t compter(int inf, int sup) { return prevoir(inf, sup).nombre; }
+    /// Gives their records in lexicographic order, one call at a time. False when it ended before
+    /// the last of them.
+    virtual bool lister(const DemandeBornes& demande, const Recevoir& recevoir) = 0;
 
  protected:
     const ContexteComb& contexte;
@@ -45,7 +54,14 @@ class TravailBornes {
 std::unique_ptr<TravailBornes> TravailTout(const ContexteComb& c, Disposition d, bool series,
                                            Puits& puits, std::stop_token arret);
 
-/// `fixes` and every choice among `reserve` (both ascending, without a common number).
+/// Sizes 6 to 10: `fixes` and every choice among `reserve` (both ascending, without a common
+/// number).
+std::unique_ptr<TravailBornes> TravailGrandeTaille(const ContexteComb& c, Disposition d,
+                                                   const std::vector<int>& fixes,
+                                                   const std::vector<int>& reserve, Puits& puits,
+                                                   std::stop_token arret);
+
+/// The same for every size.
 std::unique_ptr<TravailBornes> TravailReserve(const ContexteComb& c, Disposition d,
                                               std::vector<int> fixes, std::vector<int> reserve,
                                               Puits& puits, std::stop_token arret);

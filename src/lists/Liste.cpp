@@ -3,16 +3,19 @@
 #include "lists/Liste.h"
 
 #include <numeric>
+#include <utility>
 
 namespace norvane {
 
 namespace {
 
 /// The numbers of a record so that a smaller value comes first.
-std::uint64_t Cle(std::span<const Mot> numeros) {
+std::uint64_t CleNumeros(const Liste& liste, std::uint32_t enregistrement) {
     constexpr int BitsParNumero = 6;
     std::uint64_t cle = 0;
-    for (const Mot n : numeros) cle = cle << BitsParNumero | n;
+    for (const Mot n : liste.arene[enregistrement].subspan(
+             static_cast<std::size_t>(liste.arene.disposition.numeros())))
+        cle = cle << BitsParNumero | n;
     return cle;
 }
 
@@ -60,6 +63,22 @@ std::vector<std::uint32_t> OrdreEcrit(const Liste& liste) {
     std::vector<std::uint32_t> ordre(liste.nombre());
     std::iota(ordre.begin(), ordre.end(), 0U);
     return ordre;
+}
+
+/// Lines in the order of the keys of their records, those with equal keys as they stood.
+template <typename Calcul>
+void TrierSelon(Liste& liste, Calcul calculer) {
+    struct Entree {
+        decltype(calculer(0U)) cle;
+        std::uint32_t indice;
+    };
+    std::vector<Entree> entrees;
+    entrees.reserve(liste.nombre());
+    for (const std::uint32_t i : OrdreEcrit(liste)) entrees.push_back({calculer(i), i});
+    std::ranges::stable_sort(entrees, {}, &Entree::cle);
+    liste.ordre.resize(entrees.size());
+    std::ranges::transform(entrees, liste.ordre.begin(), &Entree::indice);
+    liste.tri = {};
 }
 
 }  // namespace
@@ -144,22 +163,17 @@ void Vider(Liste& liste) {
 }
 
 void TrierLexico(Liste& liste, bool croissant) {
-    struct Entree {
-        std::uint64_t cle;
-        std::uint32_t indice;
-    };
-    std::vector<Entree> entrees;
-    entrees.reserve(liste.nombre());
-    for (const std::uint32_t i : OrdreEcrit(liste))
-        entrees.push_back({Cle(liste.arene[i].subspan(
-                               static_cast<std::size_t>(liste.arene.disposition.numeros()))),
-                           i});
-    std::ranges::stable_sort(entrees, [croissant](const Entree& a, const Entree& b) {
-        return croissant ? a.cle < b.cle : a.cle > b.cle;
+    TrierSelon(liste, [&](std::uint32_t i) {
+        const std::uint64_t cle = CleNumeros(liste, i);
+        return croissant ? cle : ~cle;
     });
-    liste.ordre.resize(entrees.size());
-    std::ranges::transform(entrees, liste.ordre.begin(), &Entree::indice);
-    liste.tri = {};
+}
+
+void TrierFrequence(Liste& liste) {
+    const auto premierRang = static_cast<std::size_t>(liste.arene.disposition.premierRang());
+    TrierSelon(liste, [&](std::uint32_t i) {
+        return std::pair(-int{liste.arene[i][premierRang]}, CleNumeros(liste, i));
+    });
 }
 
 std::size_t RetirerDoublons(Liste& liste) {

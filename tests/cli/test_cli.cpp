@@ -381,6 +381,10 @@ TEST_F(Cli, SortiesEntieresDesCommandesDeCombinaisons) {
         EXPECT_EQ(sortie.out, c.out) << testing::PrintToString(c.args);
         EXPECT_EQ(sortie.err, "");
     }
+    // What pairs win is a rank only where they win something.
+    poser(dossier / "NORVANE.INI", "[GAINS]\nG2=0\n");
+    EXPECT_EQ(lancer("--base quatre.csv comb bornes 3 3 3 --stockage=1").out,
+              "07 33 41\t3 0 1 3 3\n");
 }
 
 TEST_F(Cli, CombinaisonsRefusees) {

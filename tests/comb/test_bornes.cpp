@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "base/BaseIntegree.h"
 #include "base/Textes.h"
 #include "OracleComb.h"
+#include "Residus.h"
 
 namespace norvane {
 namespace {
@@ -19,7 +22,10 @@ std::vector<Mot> Chercher(const ContexteComb& c, int taille, int inf, int sup) {
     EXPECT_EQ(fil->erreur(), "");
     const auto pas = static_cast<std::size_t>(fil->disposition().mots());
     EXPECT_EQ(collecte.mots.size(), fil->nombre() * pas);
-    EXPECT_EQ(collecte.mots.capacity(), collecte.mots.size());
+    if (taille <= NbBoules) {
+        EXPECT_EQ(collecte.mots.capacity(), collecte.mots.size());
+    }
+    EXPECT_TRUE(fil->complet());
 
     PuitsMuet muet;
     const auto compte = CreerRechercheBornes(c, muet, taille, inf, sup);
@@ -191,6 +197,194 @@ TEST(Bornes, ListThatDoesNotFitIsRefusedBeforeItStarts) {
     const auto entier = CreerRechercheBornes(c, tous, 3, 1, 9999);
     Mener(entier);
     EXPECT_TRUE(std::equal(premiers.mots.begin(), premiers.mots.end(), tous.mots.begin()));
+}
+
+/// The number in "La liste compterait environ 1 234 combinaisons".
+std::uint64_t Annoncees(const std::string& phrase) {
+    std::uint64_t n = 0;
+    for (const char c : phrase.substr(0, phrase.find(" combinaisons")))
+        if (c >= '0' && c <= '9') n = n * 10 + static_cast<std::uint64_t>(c - '0');
+    return n;
+}
+
+TEST(Bornes, LargeListIsRefusedByAnEstimate) {
+    const Etabli e(BaseIntegree(false));
+    constexpr double Huit = 1919137;  // counted
+    constexpr double HuitDeux = 1857946;
+    struct {
+        int taille, inf, sup;
+        ModeStockage mode;
+        std::uint64_t octetsMax;
+        const char *debut, *fin;
+    } const cas[] = {
+        {8, 2, 9, ModeStockage::PremierRang, 1000000, "environ ", " : resserrez les bornes."},
+        {8, 2, 9, ModeStockage::TousLesRangs, 1000000, "environ ", " : resserrez les bornes."},
+        {8, 2, 9, ModeStockage::TousLesRangs, 60000000, "environ ",
+         " : resserrez les bornes ou stockez moins de rangs."},
+        {8, 2, 2, ModeStockage::PremierRang, 1000000, "environ ", " : choisissez d'autres bornes."},
+        {8, 2, 9, ModeStockage::PremierRang, 1900000 * 26, "plus de ", " : resserrez les bornes."},
+        {7, 0, 9999, ModeStockage::PremierRang, 1000000, "", " : resserrez les bornes."}};
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.fin);
+        ContexteComb contexte = e.contexte(c.mode);
+        contexte.octetsMax = c.octetsMax;
+        struct : PuitsMuet {
+            void AddRecord(std::span<const Mot> mots) override { recus += mots.size() / 13; }
+            std::uint64_t recus = 0;
+        } puits;
+        const auto fil = CreerRechercheBornes(contexte, puits, c.taille, c.inf, c.sup);
+        Mener(fil);
+        const std::string phrase = fil->erreur();
+        EXPECT_TRUE(phrase.starts_with(std::string("La liste compterait ") + c.debut)) << phrase;
+        EXPECT_TRUE(phrase.ends_with(c.fin)) << phrase;
+        EXPECT_FALSE(fil->complet());
+        const bool enChemin = *c.debut == 'p';
+        EXPECT_EQ(puits.recus > 0, enChemin);
+        EXPECT_LE(puits.recus, 1900000U);
+        if (enChemin) {
+            EXPECT_EQ(Annoncees(phrase), 1900000U);
+        }
+        if (c.taille == 7) {
+            EXPECT_EQ(Annoncees(phrase), 85900584U);  // all of them, 49 choose 7
+        } else if (!enChemin) {
+            EXPECT_NEAR(static_cast<double>(Annoncees(phrase)), c.sup == 2 ? HuitDeux : Huit,
+                        0.03 * Huit);
+        }
+    }
+}
+
+// The interval that an estimate gives holds the truth, and is of use where there are many.
+TEST(Bornes, EstimatesHoldTheTruth) {
+    std::mt19937 hasard(26);
+    for (int essai = 0; essai < 20; ++essai) {
+        const int taille = 6 + essai % 5;
+        const int libres = essai % 3 == 0 ? 49 : 25 + static_cast<int>(hasard() % 3);
+        const Base base = BaseAleatoire(hasard, 20 + static_cast<int>(hasard() % 300), libres);
+        std::vector<Masque> masques;
+        for (const Tirage& t : base.Tirages) masques.push_back(Ensemble::de(t.Numeros).bits());
+        Numeros reserve = TousLesNumeros(essai % 3 == 0 ? 27 : libres);
+        Numeros fixes(reserve.begin(), reserve.begin() + essai % 4);
+        reserve.erase(reserve.begin(), reserve.begin() + essai % 4);
+        if (essai % 6 == 5) fixes.clear();
+        const Residus residus(masques, 0, Ensemble::de(fixes).bits(), reserve,
+                              taille - static_cast<int>(fixes.size()));
+        for (const auto& [inf, sup] : {std::pair{0, 0}, {0, 2}, {1, 1}, {1, 99}, {2, 3}, {4, 99}}) {
+            SCOPED_TRACE(testing::Message() << essai << ": " << inf << ".." << sup);
+            const std::uint64_t vrai = residus.compter(inf, sup, 2, {});
+            const Prevision p = residus.prevoir(inf, sup, {});
+            EXPECT_LE(p.minimum, vrai);
+            EXPECT_GE(p.maximum, vrai);
+            if (vrai > residus.choixPossibles() / 20) {
+                EXPECT_NEAR(static_cast<double>(p.nombre), static_cast<double>(vrai),
+                            static_cast<double>(vrai) * 0.05);
+            }
+        }
+    }
+}
+
+/// Every combination of `taille` numbers of `reserve` that holds a draw: each draw within it filled
+/// up in every way, with how many draws it holds.
+std::map<Masque, int> QuiTiennentUnTirage(const Base& base, const Numeros& reserve, int taille) {
+    std::map<Masque, int> comptes;
+    for (const Tirage& t : base.enUsage()) {
+        const Ensemble e = Ensemble::de(t.Numeros);
+        if (!Ensemble::de(reserve).contient(e)) continue;
+        Numeros autres;
+        for (const int n : reserve)
+            if (!e.contient(n)) autres.push_back(n);
+        for (const auto& plus : Choix({}, autres, taille - NbBoules))
+            ++comptes[e.avec(Ensemble::de(plus)).bits()];
+    }
+    return comptes;
+}
+
+TEST(Bornes, LargeSelectionInPiecesWhateverTheThreads) {
+    Etabli e(BaseIntegree(false));
+    // Pieces of one, two and three numbers.
+    for (const auto& [taille, libres] : {std::pair{7, 25}, {9, 24}, {7, 32}, {8, 30}}) {
+        const Numeros reserve = TousLesNumeros(libres);
+        e.choisir(reserve, {});
+        ContexteComb c = e.contexte();
+        const auto mots = Chercher(c, taille, 1, 99);
+        const auto pas = static_cast<std::size_t>(taille) + 5;
+        auto comptes = QuiTiennentUnTirage(e.base, reserve, taille);
+        ASSERT_EQ(mots.size(), comptes.size() * pas);
+        std::size_t fautes = 0;
+        for (std::size_t i = 0; i < mots.size(); i += pas) {
+            const auto numeros = std::span(mots).subspan(i + 5, pas - 5);
+            fautes += comptes[Ensemble::de(numeros).bits()] != mots[i];
+            fautes += i > 0 && !std::ranges::lexicographical_compare(
+                                   std::span(mots).subspan(i + 5 - pas, pas - 5), numeros);
+        }
+        EXPECT_EQ(fautes, 0U);
+        for (const unsigned threads : {1U, 5U}) {
+            c.threads = threads;
+            EXPECT_TRUE(Chercher(c, taille, 1, 99) == mots);
+        }
+    }
+}
+
+TEST(Bornes, FirstOfALongList) {
+    std::mt19937 hasard(27);
+    const Etabli e(BaseAleatoire(hasard, 90, 12));
+    for (const auto& [taille, inf, sup] :
+         {std::tuple{6, 0, 0}, {6, 0, 1}, {7, 0, 2}, {8, 0, 9}, {10, 0, 0}, {10, 1, 99}}) {
+        std::vector<Mot> attendus;
+        std::size_t nombre = 0;
+        const auto chercher = [&](const auto& self, Numeros c, int premier) -> void {
+            if (nombre == 5000) return;
+            if (static_cast<int>(c.size()) < taille) {
+                for (c.push_back(premier); c.back() <= NumeroMax; ++c.back())
+                    self(self, c, c.back() + 1);
+                return;
+            }
+            const int n = CompterSorties(e.base, c, 1, 90);
+            if (n < inf || n > sup) return;
+            const auto un = Enregistrer(e.base, c, ModeStockage::PremierRang, 1, 90);
+            attendus.insert(attendus.end(), un.begin(), un.end());
+            ++nombre;
+        };
+        chercher(chercher, {}, 1);
+        Collecte collecte;
+        const auto fil = CreerRechercheBornes(e.contexte(), collecte, taille, inf, sup);
+        fil->limite = 5000;
+        Mener(fil);
+        EXPECT_TRUE(fil->complet());
+        EXPECT_TRUE(collecte.mots == attendus) << taille;
+    }
+}
+
+// A rank wins when some grid of five numbers of the combination does.
+TEST(Bornes, RanksOfGainFollowThePrizes) {
+    for (unsigned prix = 0; prix < 16; ++prix) {
+        std::array<double, 4> gains{};
+        for (unsigned j = 0; j < 4; ++j) gains[j] = (prix >> j & 1) != 0 ? 0.5 : 0;
+        const FormeGains forme = FormeGains::de(gains);
+        for (int taille = 2; taille <= 10; ++taille) {
+            SCOPED_TRACE(testing::Message() << prix << ", " << taille);
+            std::set<int> gagnants;
+            for (int k = 2; k <= std::min(taille, 5); ++k)
+                for (unsigned grille = 0; grille < 1U << taille; ++grille) {
+                    if (std::popcount(grille) != std::min(taille, 5)) continue;
+                    const int bons = std::popcount(grille & ((1U << k) - 1));
+                    if (bons >= 2 && gains[static_cast<std::size_t>(bons) - 2] > 0)
+                        gagnants.insert(k);
+                }
+            EXPECT_EQ(NbRangsGain(taille, forme), std::ssize(gagnants));
+            EXPECT_EQ(MinBonsNumeros(taille, forme), gagnants.empty() ? 65535 : *gagnants.begin());
+            gagnants.insert(std::min(taille, 5));  // kept in any case
+            const Disposition d{taille, ModeStockage::RangsDeGain, forme};
+            EXPECT_EQ(d.mots(), 5 * std::ssize(gagnants) + taille);
+            EXPECT_EQ(d.premierRang(), 5 * (std::ssize(gagnants) - 1));
+        }
+    }
+    const Etabli e(BaseIntegree(false));
+    ContexteComb c = e.contexte(ModeStockage::RangsDeGain);
+    c.gains = FormeGains::de({0, 20, 0, 100000});
+    const auto mots = Chercher(c, 5, 2, 99);
+    EXPECT_EQ(mots[1], RangNonCalcule);
+    EXPECT_EQ(mots[5], 2);
+    EXPECT_EQ(mots.size() % 15, 0U);
 }
 
 TEST(Bornes, StoppedLeavesALeadingPart) {

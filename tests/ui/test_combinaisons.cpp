@@ -5,6 +5,7 @@
 
 #include <QProgressBar>
 #include <set>
+#include <utility>
 
 #include "comb/LigneCombinaison.h"
 #include "soutien/EssaiCombinaisons.h"
@@ -34,9 +35,11 @@ class TestCombinaisons : public EssaisQt {
             for (const auto& [numeros, c] : comptes) max = std::max(max, c);
             for (const auto& [numeros, c] : comptes)
                 if (c == max || (paires && c == 0)) attendues.insert(LigneCombinaison(numeros, c));
-            for (int i = 0; i < e.lignes(); ++i) {
+            for (int i = 0, avant = max; i < e.lignes(); ++i) {
                 lues.insert(e.ligne(i));
-                const bool haute = e.liste()->modele().combinaison(i)->NbFois == max;
+                const int n = e.liste()->modele().combinaison(i)->NbFois;
+                const bool haute = n == max;
+                QVERIFY(n <= std::exchange(avant, n));  // the most frequent first
                 QCOMPARE(e.encre(i), haute ? QColor(0, 0, 255) : QColor(0, 128, 0));
             }
             QVERIFY(lues == attendues && std::size_t(e.lignes()) == attendues.size());
@@ -44,21 +47,30 @@ class TestCombinaisons : public EssaisQt {
             QVERIFY(e.lu(n.edit) == u"0"_s && e.lu(n.edit2) == QString::number(max));
             QCOMPARE(e.edit(n.edit)->toolTip(), u"Borne Inf calculée pour 300 tirages"_s);
             QCOMPARE(e.edit(n.edit2)->toolTip(), u"Borne Sup calculée pour 300 tirages"_s);
+            QCOMPARE(e.liste()->toolTip(),
+                     n.taille <= 5
+                         ? u"Entre parenthèses : les tirages qui contiennent la combinaison"_s
+                         : u"Entre parenthèses : les tirages dont les cinq numéros sont "
+                           u"tous dans la combinaison"_s);
         }
+        QVERIFY(e.texte("LegendeGrandesTailles").contains(u"cinq numéros dans la combinaison"_s));
         QVERIFY(e.texte("LabelTemps").startsWith(u"Temps de calcul : "_s));
-        // A second click reads the stored list, without colours for marked lines; a missing file is
-        // an empty list. Coming back to the mode empties the box until the next click.
+        QVERIFY(e.texte("LabelTemps").endsWith(u" s"_s) && e.texte("LabelEtatListe").isEmpty());
+        // A second click reads the stored list, without colours for marked lines and without a
+        // time; a missing file costs a run. Coming back to the mode empties the box until the next
+        // click.
         e.banc.ecrire("comb3.dat", "01 02 03  (07)\n01 02 04  (" +
                                        std::to_string(e.a.combinaisons.BorneSup[3]) + ") N\n");
         e.comb(3)->click();
-        QVERIFY(!e.a.activite.occupe() && e.ligne(0) == "01 02 03  (07)");
-        QVERIFY(e.ligne(1).ends_with(" N") && e.encre(1) == QColor(Qt::black));
+        QVERIFY(!e.a.activite.occupe() && e.ligne(1) == "01 02 03  (07)");
+        QVERIFY(e.ligne(0).ends_with(" N") && e.encre(0) == QColor(Qt::black));
+        QCOMPARE(e.texte("LabelTemps"), QString());
         e.mode()->setCurrentIndex(1);
         e.mode()->setCurrentIndex(0);
         QVERIFY(e.lignes() == 0 && e.texte("LabelCombEnListe").isEmpty());
         std::filesystem::remove(e.banc.chemin("comb3.dat"));
-        e.comb(3)->click();
-        QVERIFY(!e.a.activite.occupe() && e.lignes() == 0 && e.posees.isEmpty());
+        e.calculer(3);
+        QVERIFY(e.lignes() > 0 && e.banc.existe("comb3.dat") && e.posees.isEmpty());
     }
 
     void listeSelonLesBornes() {
@@ -85,8 +97,13 @@ class TestCombinaisons : public EssaisQt {
         };
         for (int item = 0; item < 3; ++item) {
             e.de("RadioGroup1Item%d", item)->click();
-            e.calculer(3);
-            QVERIFY(conforme() && e.a.ListeMemoire.mode() == items[item].first);
+            QTest::keyClick(e.edit(item == 0 ? 3 : 7), Qt::Key_Return);
+            QVERIFY(e.a.activite.occupe() && e.lignes() == 0);
+            QCOMPARE(e.texte("LabelCombEnMemoire"), QString());
+            QTest::keyClick(e.edit(3), Qt::Key_Return);  // no STOP
+            e.finir();
+            QVERIFY(!e.a.ListeMemoire.partielle && conforme() &&
+                    e.a.ListeMemoire.mode() == items[item].first);
             QVERIFY(e.a.ListeMemoire.DebutListe == 1 && e.a.ListeMemoire.FinListe == 300);
             QCOMPARE(e.texte("LabelStockage"), items[item].second);
             QCOMPARE(e.texte("Label25"), u"Tri simple des combinaisons selon le premier rang"_s);
@@ -158,6 +175,9 @@ class TestCombinaisons : public EssaisQt {
         e.finir();
         QVERIFY(e.comb(5)->text() == u"COMB &5"_s && jauge->value() < 0);
         QVERIFY(e.a.ListeMemoire.partielle && e.lignes() > 0);
+        QVERIFY(e.texte("LabelEtatListe").startsWith(u"liste partielle"_s));
+        QVERIFY(e.texte("LabelCombEnMemoire").endsWith(u" à 5 numéros, liste partielle"_s));
+        QVERIFY(e.de<QLabel>("LabelCombEnListe")->toolTip().startsWith(u"Liste partielle : "_s));
         QVERIFY(e.mode()->isEnabled() && e.a.activite.TraitementsEnCours == 0);
         QVERIFY(alerte().startsWith(u"Traitement arrêté\n"_s));
 

@@ -46,7 +46,7 @@ class TestPageCombinaisons : public EssaisQt {
                 QLineEdit* cible = c.geste <= SortieI ? inf : sup;
                 if (c.geste <= SortieS) {
                     cible->setText(QString::fromUtf16(c.saisie));
-                    if (c.geste % 2 == 1) QTest::keyClick(cible, Qt::Key_Return);
+                    if (c.geste % 2 == 1) Q_EMIT cible->editingFinished();
                 } else {
                     const int paire = c.geste <= BasI ? n.upDown : n.upDown2;
                     const auto* fleches = e.de<QWidget>("UpDown%d", paire);
@@ -64,6 +64,20 @@ class TestPageCombinaisons : public EssaisQt {
             QTest::keyClick(sup, Qt::Key_Home);
             QVERIFY(inf->text() == u"10"_s && sup->text() == u"10"_s);
         }
+        // What is typed pulls the other bound along only while it passes it, until it is left.
+        const auto saisie = [&e](int numero, const QString& texte) {
+            e.edit(numero)->setText(texte);
+            return e.lu(3) + u'-' + e.lu(7);
+        };
+        e.poserBornes();
+        QCOMPARE(saisie(7, u"30"_s), u"10-30"_s);
+        QCOMPARE(saisie(3, u"40"_s), u"40-40"_s);
+        QCOMPARE(saisie(3, u"4"_s), u"4-30"_s);
+        QCOMPARE(saisie(3, u"45"_s), u"45-45"_s);
+        Q_EMIT e.edit(3)->editingFinished();
+        QCOMPARE(saisie(3, u"20"_s), u"20-45"_s);
+        QCOMPARE(saisie(7, u"15"_s), u"15-15"_s);
+        QCOMPARE(saisie(7, u"25"_s), u"20-25"_s);
         // A click on the size mends what was left below the limit.
         e.edit(3)->setText(u"5"_s);
         e.page->moteur().octetsMax = 1;
@@ -154,6 +168,19 @@ class TestPageCombinaisons : public EssaisQt {
         e.mode()->setCurrentIndex(1);
         e.calculer(2);
         QCOMPARE(e.lignes(), 1176);
+        // By bounds they follow those on screen, while they are typed.
+        const auto nombre = [&e](int sorties, const QColor& encre) {
+            int n = 0;
+            for (int i = 0; i < e.lignes(); ++i)
+                n += e.liste()->modele().combinaison(i)->NbFois == sorties && e.encre(i) == encre;
+            return n;
+        };
+        const QColor bleu(0, 0, 255), vert(0, 128, 0);
+        QVERIFY(nombre(haut, bleu) > 0 && nombre(haut - 4, bleu) == 0);
+        e.edit(6)->setText(QString::number(haut - 4));
+        e.edit(2)->setText(QString::number(haut - 7));
+        QVERIFY(nombre(haut - 4, bleu) > 0 && nombre(haut, bleu) == 0);
+        QVERIFY(nombre(haut - 7, vert) > 0 && nombre(haut, Qt::black) > 0);
         e.mode()->setCurrentIndex(2);
         for (int i = 0; i < 1176; ++i) QCOMPARE(e.encre(i), QColor(Qt::black));
 
@@ -163,7 +190,11 @@ class TestPageCombinaisons : public EssaisQt {
         e.calculer(4);
         QCOMPARE(e.texte("LabelCombEnMemoire"), u"211876 à 4 numéros"_s);
         QVERIFY(e.texte("LabelCombEnListe") == u"32736"_s && e.lignes() == 32736);
-        QCOMPARE(e.de<QLabel>("LabelCombEnListe")->toolTip(), u"Nombre de combinaisons en liste"_s);
+        const QString coupee = u"Les 32736 premières sont affichées"_s;
+        QCOMPARE(e.de<QLabel>("LabelCombEnListe")->toolTip(), coupee);
+        QCOMPARE(e.texte("LabelEtatListe"), u"liste coupée"_s);
+        e.mode()->setCurrentIndex(2);
+        QCOMPARE(e.texte("LabelEtatListe"), u"liste coupée"_s);
 
         // Two draws of six numbers in all leave four free: more lines than the box holds.
         const Base deux = FaireBase({{{1, 2, 3, 4, 5}, 1, 0, 2023001, 20230102, 1, 0},
@@ -171,8 +202,8 @@ class TestPageCombinaisons : public EssaisQt {
         const EssaiCombinaisons d(&deux);
         d.calculer(10);
         QVERIFY(d.texte("LabelCombEnListe") == u"123410"_s && d.lignes() == 32736);
-        QCOMPARE(d.de<QLabel>("LabelCombEnListe")->toolTip(),
-                 u"Les 32736 premières sont affichées"_s);
+        QVERIFY(d.de<QLabel>("LabelCombEnListe")->toolTip() == coupee);
+        QCOMPARE(d.texte("LabelEtatListe"), u"liste coupée"_s);
         QCOMPARE(d.posees.last().titre, u"La liste a atteint sa capacité maximum..."_s);
         QVERIFY(d.dernier().startsWith(u"Passez au Mode \"Combinaisons selon les bornes\" "_s));
     }

@@ -21,9 +21,6 @@ constexpr int Cadre = 3;          // pen of the selected line, in pixels
 
 // ------------------------------------------------------------------------------------------ model
 
-ModeleCombinaisons::ModeleCombinaisons(const EtatCombinaisons& etat, QObject* parent)
-    : QAbstractListModel(parent), etat_(etat) {}
-
 void ModeleCombinaisons::montrer(const Liste* liste) {
     beginResetModel();
     liste_ = liste;
@@ -31,8 +28,9 @@ void ModeleCombinaisons::montrer(const Liste* liste) {
     endResetModel();
 }
 
-void ModeleCombinaisons::poserCouleurs(bool couleurs) {
-    couleurs_ = couleurs;
+void ModeleCombinaisons::poserBornes(std::optional<BornesLignes> bornes) {
+    if (bornes == bornes_) return;
+    bornes_ = bornes;
     if (nombre_ > 0) Q_EMIT dataChanged(index(0), index(nombre_ - 1), {RoleBorne});
 }
 
@@ -57,10 +55,9 @@ QVariant ModeleCombinaisons::data(const QModelIndex& index, int role) const {
 }
 
 BorneLigne ModeleCombinaisons::borne(const Combinaison& combinaison) const {
-    if (!couleurs_ || combinaison.marque) return BorneLigne::Aucune;
-    const auto n = static_cast<std::size_t>(combinaison.numeros.taille());
-    if (combinaison.NbFois == etat_.BorneSup[n]) return BorneLigne::Sup;
-    return combinaison.NbFois == etat_.BorneInf[n] ? BorneLigne::Inf : BorneLigne::Aucune;
+    if (!bornes_ || combinaison.marque) return BorneLigne::Aucune;
+    if (combinaison.NbFois == bornes_->sup) return BorneLigne::Sup;
+    return combinaison.NbFois == bornes_->inf ? BorneLigne::Inf : BorneLigne::Aucune;
 }
 
 // --------------------------------------------------------------------------------------- delegate
@@ -104,9 +101,8 @@ QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option, const QM
 
 // ------------------------------------------------------------------------------------------- view
 
-ListeCombinaisons::ListeCombinaisons(const QString& nom, const EtatCombinaisons& etat,
-                                     QWidget* parent)
-    : QListView(parent), modele_(new ModeleCombinaisons(etat, this)) {
+ListeCombinaisons::ListeCombinaisons(const QString& nom, QWidget* parent)
+    : QListView(parent), modele_(new ModeleCombinaisons(this)) {
     setObjectName(nom);
     setModel(modele_);
     setItemDelegate(new DelegueCombinaisons(this));

@@ -25,7 +25,7 @@ struct BornesAffichees {
     bool calculee = false;  ///< for the interval in force; where not, the values are former ones
     int BorneInf = 0;       ///< limits of both ends; the ends themselves are these too
     int BorneSup = 0;
-    int NbTirages = 0;  ///< draws they were computed on
+    int NbTirages = 0;  ///< draws they were really computed on
 
     friend bool operator==(const BornesAffichees&, const BornesAffichees&) = default;
 };
@@ -64,7 +64,9 @@ class Moteur {
 
     /// A click on a size while none runs: refused while work is under way. `inf`, `sup` are looked
     /// at in ModeListe::Bornes alone. A list of extremes is counted, brought forward draw by draw
-    /// where the interval is shorter than the stored one, or read from its file.
+    /// where the interval is shorter than the stored one, or read from its file where that can be
+    /// read. Its lines show the most frequent first. The list in memory is emptied at once; its
+    /// records come back when the new search refuses before its first one.
     ReponseClic Cliquer(int taille, int inf = 0, int sup = 0);
 
     /// The end handler, once for each job that Cliquer gave out; it waits for the job. One that
@@ -80,7 +82,7 @@ class Moteur {
 
     ContexteComb contexte() const;
     std::filesystem::path fichierListe(int taille) const;
-    bool listeDepassee(int taille) const;
+    bool etatDepasse(int taille) const;
     ReponseClic cliquerExtremes(int taille);
     ReponseClic calculerExtremes(int taille);
     ReponseClic avancerExtremes(int taille);

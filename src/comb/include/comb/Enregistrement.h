@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -20,24 +21,59 @@ enum class ModeStockage { PremierRang = 0, RangsDeGain = 1, TousLesRangs = 2 };
 
 inline constexpr int MotsParBloc = 5;
 inline constexpr Mot RangNonCalcule = 65535;  ///< word Ecart of a lower rank not computed yet
-inline constexpr int MinBonsNumeros = 2;  ///< fewest good numbers that win, the same for all sizes
+inline constexpr int SansRangDeGain = 65535;  ///< MinBonsNumeros where nothing wins
 
 /// Good numbers of the first rank: no draw holds more than five numbers.
 constexpr int BonsPremierRang(int taille) {
     return taille < 5 ? taille : 5;
 }
 
-/// Ranks of gain of a size: from MinBonsNumeros to the first rank.
-constexpr int NbRangsGain(int taille) {
-    return BonsPremierRang(taille) - MinBonsNumeros + 1;
+/// Shape of the prize table: which counts of good numbers of one simple grid have a prize. It tells
+/// what a record of ModeStockage::RangsDeGain keeps, so that it goes with the records.
+struct FormeGains {
+    std::uint8_t bons = 0b111100;  ///< bit k: k good numbers win, 2..5
+
+    /// `prix`: the prizes for 2, 3, 4, 5 good numbers.
+    static constexpr FormeGains de(const std::array<double, 4>& prix) {
+        FormeGains forme{0};
+        for (unsigned k = 0; k < 4; ++k)
+            if (prix[k] > 0) forme.bons |= static_cast<std::uint8_t>(4U << k);
+        return forme;
+    }
+    friend constexpr bool operator==(FormeGains, FormeGains) = default;
+};
+
+/// Bit k: a combination of `taille` numbers wins with k good ones. From size 6 on it stands for its
+/// grids of five numbers, some of which hold j of the k and 5 - j of the others.
+constexpr unsigned RangsDeGain(int taille, FormeGains forme) {
+    unsigned rangs = 0;
+    for (int k = 1; k <= BonsPremierRang(taille); ++k)
+        for (int j = 2; j <= k; ++j) {
+            const bool grille = taille < 5 ? j == k : taille - k >= 5 - j;
+            if (grille && (forme.bons >> j & 1) != 0) rangs |= 1U << k;
+        }
+    return rangs;
+}
+
+/// Fewest good numbers that win.
+constexpr int MinBonsNumeros(int taille, FormeGains forme = {}) {
+    const unsigned rangs = RangsDeGain(taille, forme);
+    return rangs == 0 ? SansRangDeGain : std::countr_zero(rangs);
+}
+
+/// How many counts of good numbers win.
+constexpr int NbRangsGain(int taille, FormeGains forme = {}) {
+    return std::popcount(RangsDeGain(taille, forme));
 }
 
 /// Where things stand in a record of `taille` numbers (2..10).
 struct Disposition {
     int taille;
     ModeStockage mode;
+    FormeGains gains{};
 
-    /// 1, NbRangsGain(taille), or one block for each count of good numbers 0..taille.
+    /// 1, one block for each rank of gain and one for the first rank whether it wins or not, or one
+    /// block for each count of good numbers 0..taille.
     int blocs() const;
     /// Words of a record.
     int mots() const { return MotsParBloc * blocs() + taille; }

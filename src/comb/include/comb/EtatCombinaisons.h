@@ -28,9 +28,10 @@ struct EtatCombinaisons {
 };
 
 /// Reads `repertoire`/COMBCALC.INI. A missing file is "never computed" for all sizes; a file cut
-/// short leaves the sizes behind the cut at 0. From size 6 on the draw count read is replaced by
-/// `nbTirages`. A file that holds something else than non-negative integers below 65536 is an
-/// error naming the line; the state is then all zeros.
+/// short leaves the sizes behind the cut at 0, and bounds that no count over so many draws can give
+/// are "never computed" as well. From size 6 on the draw count read is replaced by `nbTirages`. A
+/// file that holds something else than non-negative integers below 65536 is an error naming the
+/// line; the state is then all zeros.
 Resultat<EtatCombinaisons> LireCombCalc(const std::filesystem::path& repertoire, int nbTirages);
 
 /// Writes the nine lines; a negative draw count, the mark of a stale size, is written as 0.

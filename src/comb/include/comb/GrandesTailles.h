@@ -14,6 +14,7 @@
 
 #include "base/Base.h"
 #include "base/Ensemble.h"
+#include "comb/Enregistrement.h"
 
 namespace norvane {
 
@@ -34,19 +35,25 @@ ExtremesGrandeTaille ChercherExtremesGrandeTaille(std::span<const Tirage> tirage
                                                   const std::function<void(int)>& avance);
 
 /// How many combinations of `taille` (6..10) numbers hold between `inf` and `sup` draws
-/// (inclusive); exact where it ends early, else any value above `plafond` (the caller refuses those
-/// anyway). Uses all cores. Void when stopped.
+/// (inclusive). Exact. Void when stopped.
 std::uint64_t CompterBornesGrandeTaille(std::span<const Tirage> tirages, int taille, int inf,
-                                        int sup, std::uint64_t plafond, std::stop_token arret);
+                                        int sup, unsigned threads, const std::stop_token& arret);
 
-/// Gives each of them in lexicographic order with the ascending zero-based places (in `tirages`) of
-/// the draws it holds. `recevoir` is called from the calling thread; it answers false to stop
-/// early. From inf = 1 on, all of them are found first (the first half of `avance`), eight bytes
-/// each, and freed as they are given; with inf = 0 nothing is kept. False when stopped in either
-/// way.
-bool ListerBornesGrandeTaille(
-    std::span<const Tirage> tirages, int taille, int inf, int sup, unsigned threads,
-    std::stop_token arret, const std::function<void(int)>& avance,
-    const std::function<bool(Masque, std::span<const std::uint16_t>)>& recevoir);
+/// How the combinations that a search goes through reach whoever asked for them.
+struct Livraison {
+    /// Appends what is to be told of one; `places`: its draws, ascending, which may be overwritten.
+    /// Called from any thread.
+    std::function<void(std::vector<Mot>&, Masque, std::span<std::uint16_t> places)> rediger;
+    /// Takes what was appended for one or more of them, in lexicographic order, one call at a time
+    /// and never nothing; false ends the search.
+    std::function<bool(std::span<const Mot>)> livrer;
+};
+
+/// Gives each combination that holds `inf` (1 or more) to `sup` draws; places are zero-based in
+/// `tirages`. All of them are found first (the first half of `avance`), eight bytes each, and freed
+/// as they are given. False when it ended before the last one.
+bool ListerBornesGrandeTaille(std::span<const Tirage> tirages, int taille, int inf, int sup,
+                              unsigned threads, const std::stop_token& arret,
+                              const std::function<void(int)>& avance, const Livraison& livraison);
 
 }  // namespace norvane

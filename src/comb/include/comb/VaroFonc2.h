@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 #include "base/Base.h"
 #include "base/Travail.h"
@@ -28,6 +29,7 @@ struct ContexteComb {
     int IntervalleSup;
     bool series = false;  ///< N consecutive numbers only
     ModeStockage mode = ModeStockage::PremierRang;
+    FormeGains gains{};    ///< which ranks a record of ModeStockage::RangsDeGain keeps
     unsigned threads = 0;  ///< cores that one search may use; 0: all of them
     /// Most bytes that the records of a search by bounds may take; 0: half of the free memory.
     std::uint64_t octetsMax = 0;
@@ -149,14 +151,18 @@ enum class DomaineBornes : std::uint8_t {
 
 /// What the searches by bounds share: every combination of the search whose count lies in Inf..Sup
 /// (both inclusive) becomes a record, in lexicographic order of its numbers, first-rank block
-/// filled, lower ranks unset: all words 0 but word 1 of the block, RangNonCalcule. Before the first
-/// record the combinations are counted; a list that would not fit in memory is refused. A stopped
-/// search has given a leading part of its records. The gauge runs from 0 to JaugeBornes.
+/// filled, lower ranks unset: all words 0 but word 1 of the block, RangNonCalcule. A list that
+/// would not fit in memory is refused before the first record, from the number of combinations:
+/// counted for the sizes 2 to 5, estimated from a sample above. One that turns out longer is
+/// refused on the way: its records are void. A stopped search has given a leading part of its
+/// records. The gauge runs from 0 to JaugeBornes.
 class TRechercheBornes : public TCombThread {
  public:
     Disposition disposition() const { return disposition_; }
     /// Records given out. After WaitFor.
     std::uint64_t nombre() const { return nombre_; }
+    /// It gave all that was asked for. After WaitFor.
+    bool complet() const { return complet_; }
     /// True when the records are to be counted and not given. Set before Resume.
     bool compterSeulement = false;
     /// Most records to give, the first ones; 0: all of them. Set before Resume.
@@ -168,8 +174,10 @@ class TRechercheBornes : public TCombThread {
     void Execute() override;
 
  private:
-    /// Counts, checks the memory, gives.
+    /// Estimates, checks the memory, gives.
     void mener(TravailBornes& travail);
+    std::string phraseTropLongue(const char* combien, std::uint64_t nombre,
+                                 std::uint64_t octetsMax) const;
 
     ContexteComb contexte_;
     Disposition disposition_;
@@ -177,6 +185,7 @@ class TRechercheBornes : public TCombThread {
     int inf_;
     int sup_;
     std::uint64_t nombre_ = 0;
+    bool complet_ = false;
 };
 
 template <DomaineBornes Domaine>

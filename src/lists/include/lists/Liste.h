@@ -43,6 +43,7 @@ struct Liste {
     EtatTri tri;
     bool partielle = false;   ///< its search was stopped
     std::uint64_t total = 0;  ///< combinations found where only the first were kept; else 0
+    std::optional<double> secondes{};  ///< that its search took, where it comes from one
 
     int taille() const { return arene.disposition.taille; }
     ModeStockage mode() const { return arene.disposition.mode; }
@@ -102,6 +103,8 @@ void Vider(Liste& liste);
 
 /// By the numbers, the first difference deciding; lines with equal numbers keep their order.
 void TrierLexico(Liste& liste, bool croissant);
+/// The highest count of the first rank first; lines with equal counts by their numbers, ascending.
+void TrierFrequence(Liste& liste);
 /// Sorts by the numbers, ascending, and of lines with equal numbers keeps the last. How many went.
 std::size_t RetirerDoublons(Liste& liste);
 

@@ -13,12 +13,14 @@ namespace norvane {
 class PuitsListe : public PuitsMuet {
  public:
     Liste liste;                 ///< its disposition: that of the search. After the worker's end
+    Liste avant;                 ///< what it replaces: freed with the first record
     Progres* progres = nullptr;  ///< told the gauge
 
     void SetProgress(int valeur) override {
         if (progres != nullptr) progres->poser(valeur);
     }
     void AddRecord(std::span<const Mot> mots) override {
+        if (!avant.vide()) Vider(avant);
         liste.arene.mots.insert(liste.arene.mots.end(), mots.begin(), mots.end());
     }
     void Reserver(std::size_t mots) override { liste.arene.mots.reserve(mots); }

@@ -81,6 +81,13 @@ Fiche* Cahier::creerLegende() {
         fiche->pile->addLayout(rang);
     }
     fiche->pile->addWidget(legende(u"NC : borne non calculée"_s, fiche));
+    auto* grandes = legende(
+        u"(09) : neuf tirages contiennent la combinaison ; de 6 à 10 numéros, neuf tirages ont "
+        u"leurs cinq numéros dans la combinaison"_s,
+        fiche);
+    grandes->setObjectName(u"LegendeGrandesTailles"_s);
+    grandes->setWordWrap(true);
+    fiche->pile->addWidget(grandes);
     fiche->pile->addStretch(1);
     return fiche;
 }

@@ -82,6 +82,9 @@ void LigneBornes::relier(Cote& cote) {
     connect(cote.edit, &QLineEdit::textChanged, this, [this, &cote](const QString& texte) {
         if (!garde_) saisir(cote, texte);
     });
+    connect(cote.edit, &QLineEdit::returnPressed, this, [this] {
+        if (ouverte() && !enCours_) Q_EMIT rechercheDemandee();
+    });
     connect(cote.edit, &QLineEdit::editingFinished, this, [this, &cote] { quitter(cote); });
     const auto bouger = [this, &cote](int pas) { deplacer(cote, pas); };
     connect(cote.hautBas, &HautBas::deplacement, this, bouger);
@@ -97,7 +100,9 @@ void LigneBornes::poser(const BornesAffichees& bornes) {
     bornes_ = bornes;
     inf.valeur = bornes.BorneInf;
     sup.valeur = bornes.BorneSup;
+    typee_ = nullptr;
     for (Cote* cote : {&inf, &sup}) peindre(*cote, cote->saisie = cote->valeur);
+    Q_EMIT bornesChoisies();
     poserIndice(inf.edit, indiceBorne(u"Inf"_s, bornes));
     poserIndice(sup.edit, indiceBorne(u"Sup"_s, bornes));
     ouvrirEdits();
@@ -137,6 +142,7 @@ void LigneBornes::reteinter() {
 }
 
 void LigneBornes::montrerArret(bool enCours) {
+    enCours_ = enCours;
     QFont fonte = bouton->font();
     fonte.setBold(enCours);
     bouton->setFont(fonte);
@@ -145,16 +151,23 @@ void LigneBornes::montrerArret(bool enCours) {
 
 // --------------------------------------------------------------------------------------- handlers
 
-/// The number typed stands as it is, but for one above the limit.
+/// The number typed stands as it is, but for one above the limit. It pulls its partner along where
+/// it passes it, and only as long as it does.
 void LigneBornes::saisir(Cote& cote, const QString& texte) {
+    Cote& autre = partenaire(cote);
+    if (typee_ != &cote) propre_ = autre.valeur;
+    typee_ = &cote;
+    peindre(autre, autre.valeur = autre.saisie = propre_);
     cote.saisie = std::min(texte.toInt(), bornes_.BorneSup);
     // An emptied edit is one being typed in, and so is one below the limit: mended when it is left.
-    if (texte.isEmpty()) return;
-    if (cote.saisie >= bornes_.BorneInf) choisir(cote, cote.saisie);
-    peindre(cote, cote.saisie);
+    const bool nombre = !texte.isEmpty();
+    if (nombre && cote.saisie >= bornes_.BorneInf) choisir(cote, cote.saisie);
+    if (nombre) peindre(cote, cote.saisie);
+    Q_EMIT bornesChoisies();
 }
 
 void LigneBornes::quitter(Cote& cote) {
+    typee_ = nullptr;
     if (!bornes_.calculee) return;
     const int repli = &cote == &inf ? bornes_.BorneInf : inf.valeur;
     choisir(cote, cote.saisie < bornes_.BorneInf ? repli : cote.saisie);
@@ -162,13 +175,15 @@ void LigneBornes::quitter(Cote& cote) {
 
 void LigneBornes::deplacer(Cote& cote, int pas) {
     if (!ouverte()) return;
+    typee_ = nullptr;
     choisir(cote, std::clamp(cote.valeur + pas, bornes_.BorneInf, bornes_.BorneSup));
 }
 
 void LigneBornes::choisir(Cote& cote, int v) {
-    Cote& autre = &cote == &inf ? sup : inf;
+    Cote& autre = partenaire(cote);
     peindre(cote, cote.valeur = cote.saisie = v);
     if (inf.valeur > sup.valeur) peindre(autre, autre.valeur = autre.saisie = v);
+    Q_EMIT bornesChoisies();
 }
 
 void LigneBornes::peindre(const Cote& cote, int v) {

@@ -34,6 +34,8 @@ class LigneBornes final : public QObject {
     Cote sup;
 
     int taille() const { return taille_; }
+    /// The bounds are computed: the values on screen are some.
+    bool calculee() const { return bornes_.calculee; }
 
     /// New limits and hints; the bounds chosen go to both ends.
     void poser(const BornesAffichees& bornes);
@@ -49,8 +51,15 @@ class LigneBornes final : public QObject {
     /// As when both edits are left: what is no value of the range is mended.
     void valider();
 
+ Q_SIGNALS:
+    /// The bounds on screen are others.
+    void bornesChoisies();
+    /// Enter in an edit asks for the search.
+    void rechercheDemandee();
+
  private:
     void relier(Cote& cote);
+    Cote& partenaire(const Cote& cote) { return &cote == &inf ? sup : inf; }
     void saisir(Cote& cote, const QString& texte);
     void quitter(Cote& cote);
     void deplacer(Cote& cote, int pas);
@@ -63,6 +72,9 @@ class LigneBornes final : public QObject {
     const int taille_;
     BornesAffichees bornes_;
     ModeListe mode_ = ModeListe::Extremes;
+    const Cote* typee_ = nullptr;  ///< being typed in
+    int propre_ = 0;               ///< what its partner was before
+    bool enCours_ = false;
     bool garde_ = false;  // an edit is being painted: nobody types
 };
 

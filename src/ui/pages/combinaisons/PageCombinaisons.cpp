@@ -32,6 +32,11 @@ constexpr std::array<const char16_t*, 3> Invites = {
 /// Sizes whose bounds, once computed, make the mode of the bounds the first one shown.
 constexpr int TailleCouranteMax = NbBoules;
 
+QString texteTemps(const std::optional<double>& secondes) {
+    return secondes ? u"Temps de calcul : %1 s"_s.arg(versQt(FormaterDecimal(*secondes, 1)))
+                    : QString();
+}
+
 }  // namespace
 
 PageCombinaisons::PageCombinaisons(Contexte& ctx, QWidget* parent)
@@ -46,8 +51,7 @@ void PageCombinaisons::construire() {
     auto* gauche = new Fiche(this);
     gauche->pile->addWidget(tailles_ = new PanneauTailles(gauche));
     auto* milieu = new Fiche(this);
-    const Atelier& a = contexte.atelier;
-    liste_ = new PanneauListe(ListePrincipale, a.ListeMemoire, a.combinaisons, milieu);
+    liste_ = new PanneauListe(ListePrincipale, contexte.atelier.ListeMemoire, milieu);
     milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
     milieu->pile->addWidget(liste_, 1);
     milieu->pile->addWidget(tri_ = new PanneauTri(milieu));
@@ -71,6 +75,7 @@ void PageCombinaisons::relier() {
     connect(tailles_, &PanneauTailles::modeChoisi, this, &PageCombinaisons::ComboBox1Change);
     connect(tailles_, &PanneauTailles::stockageChoisi, this, &PageCombinaisons::RadioGroup1Click);
     connect(tailles_, &PanneauTailles::tailleCliquee, this, &PageCombinaisons::CombSearchClick);
+    connect(tailles_, &PanneauTailles::bornesChoisies, this, &PageCombinaisons::colorer);
     connect(liste_, &PanneauListe::combinaisonChoisie, this,
             [this](const Combinaison& c) { combinaison_->montrer(c.numeros); });
     connect(combinaison_, &PanneauCombinaison::positionDemandee, this,
@@ -153,7 +158,7 @@ void PageCombinaisons::CombSearchClick(int taille) {
 
 void PageCombinaisons::lancer(int taille, ReponseClic reponse) {
     const VueTravail vue{u"Calcul des combinaisons de %1 numéros en cours..."_s.arg(taille),
-                         &tailles_->jauge(), &tailles_->temps()};
+                         &tailles_->jauge()};
     if (contexte.travaux.lancer(std::move(reponse.travail), vue, this,
                                 [this](Travail& travail) { TraitementTermine(travail); })) {
         tailles_->montrerRecherche(recherche());
@@ -167,7 +172,6 @@ void PageCombinaisons::lancer(int taille, ReponseClic reponse) {
 void PageCombinaisons::TraitementTermine(Travail& travail) {
     const FinTraitement fin = moteur_.TraitementTermine(travail);
     tailles_->montrerRecherche(recherche());
-    if (!fin.secondes) tailles_->temps().clear();
     if (travail.description.genre == GenreTravail::Bornes) tri_->montrerTriSimple();
     contexte.relais.annoncer({.listes = true});
     // A window that waits for the end of the work closes now, without a word on it.
@@ -180,11 +184,8 @@ void PageCombinaisons::direFin(int taille, const FinTraitement& fin) {
         return;
     }
     if (alerte_ == nullptr) alerte_ = new Alerte(window());
-    const QString temps = fin.secondes
-                              ? u"Temps de calcul : "_s + versQt(FormaterDecimal(*fin.secondes, 1))
-                              : QString();
     alerte_->montrer(fin.arrete ? u"Traitement arrêté"_s : u"Traitement terminé"_s,
-                     u"Combinaisons de %1 numéros\n"_s.arg(taille) + temps);
+                     u"Combinaisons de %1 numéros\n"_s.arg(taille) + texteTemps(fin.secondes));
     if (fin.debordement) {
         contexte.services.messages->MessageInfo(
             u"Passez au Mode \"Combinaisons selon les bornes\" afin de stocker en mémoire et "
@@ -217,7 +218,6 @@ void PageCombinaisons::surChange(const Changement& changement) {
 
 void PageCombinaisons::suivreBase() {
     tri_->vider();
-    tailles_->temps().clear();
     tailles_->poserBornes(moteur_.RafraichirBornes());
     combinaison_->montrer({});
     suivreIntervalle();
@@ -242,18 +242,31 @@ void PageCombinaisons::suivreMode() {
 void PageCombinaisons::suivreBornes() {
     // While a search runs, the bounds of its size are not those of a list yet.
     if (recherche() == 0) tailles_->suivreBornes(moteur_.RafraichirBornes());
-    liste_->colorer(contexte.atelier.modeListe != ModeListe::Manipulation);
+    colorer();
+}
+
+/// The lines at a bound of their size stand out: the extremes, or the bounds on screen.
+void PageCombinaisons::colorer() {
+    const Atelier& a = contexte.atelier;
+    std::optional<BornesLignes> bornes;
+    if (a.modeListe == ModeListe::Extremes) {
+        const auto n = static_cast<std::size_t>(a.ListeExtremes.taille());
+        bornes = {a.combinaisons.BorneInf[n], a.combinaisons.BorneSup[n]};
+    } else if (a.modeListe == ModeListe::Bornes && a.ListeMemoire.taille() != 0) {
+        const LigneBornes& ligne = tailles_->ligne(a.ListeMemoire.taille());
+        if (ligne.calculee()) bornes = {ligne.inf.valeur, ligne.sup.valeur};
+    }
+    liste_->colorer(bornes);
 }
 
 void PageCombinaisons::AfficherListe() {
     const Atelier& a = contexte.atelier;
     const bool extremes = a.modeListe == ModeListe::Extremes;
+    const Liste* montree = extremes ? &a.ListeExtremes : &a.ListeMemoire;
     // A search for extremes starts from an empty list.
-    if (extremes && recherche() != 0) {
-        liste_->afficher(nullptr);
-    } else {
-        liste_->afficher(extremes ? &a.ListeExtremes : &a.ListeMemoire);
-    }
+    if (extremes && recherche() != 0) montree = nullptr;
+    liste_->afficher(montree);
+    tailles_->temps().setText(montree == nullptr ? QString() : texteTemps(montree->secondes));
 }
 
 }  // namespace norvane::ui

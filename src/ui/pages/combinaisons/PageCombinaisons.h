@@ -55,6 +55,7 @@ class PageCombinaisons final : public Page {
     void suivreIntervalle();
     void suivreMode();
     void suivreBornes();
+    void colorer();
     void AfficherListe();
 
     Moteur moteur_;

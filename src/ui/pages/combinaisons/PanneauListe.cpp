@@ -10,7 +10,6 @@
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "widgets/Fiche.h"
-#include "widgets/ListeCombinaisons.h"
 
 namespace norvane::ui {
 
@@ -32,6 +31,16 @@ QString libelleStockage(ModeStockage mode) {
     return {};
 }
 
+const QString ListePartielle = u"liste partielle"_s;
+
+/// What stands between parentheses in the lines of a size.
+QString sensCompte(int taille) {
+    if (taille == 0) return {};
+    return taille <= NbBoules ? u"Entre parenthèses : les tirages qui contiennent la combinaison"_s
+                              : u"Entre parenthèses : les tirages dont les cinq numéros sont tous "
+                                u"dans la combinaison"_s;
+}
+
 /// A value whose line stays free while it is empty.
 QLabel* creerValeur(const char16_t* nom, const QString& sens, QWidget* parent) {
     auto* etiquette = valeur(QString::fromUtf16(nom), sens, parent);
@@ -41,15 +50,15 @@ QLabel* creerValeur(const char16_t* nom, const QString& sens, QWidget* parent) {
 
 }  // namespace
 
-PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, const EtatCombinaisons& etat,
-                           QWidget* parent)
+PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, QWidget* parent)
     : QWidget(parent),
       liste_(liste),
       titre_(creerValeur(noms.titre, QString::fromUtf16(noms.sensTitre), this)),
       nombre_(creerValeur(noms.nombre, u"Combinaisons en liste"_s, this)),
+      etat_(legende({}, this)),
       indice_(creerValeur(noms.indice, u"Indice de la ligne choisie"_s, this)),
       rang_(legende({}, this)),
-      boite_(new ListeCombinaisons(QString::fromUtf16(noms.boite), etat, this)) {
+      boite_(new ListeCombinaisons(QString::fromUtf16(noms.boite), this)) {
     indice_->setAlignment(Qt::AlignRight);
     boite_->setAccessibleName(QString::fromUtf16(noms.sensBoite));
     QFont fonte = boite_->font();
@@ -57,7 +66,8 @@ PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, const Etat
     boite_->setFont(fonte);
     rang_->setObjectName(QString::fromUtf16(noms.rang));
     rang_->setWordWrap(true);
-    rang_->setMinimumHeight(rang_->fontMetrics().height());
+    etat_->setObjectName(QString::fromUtf16(noms.etat));
+    for (QLabel* ligne : {etat_, rang_}) ligne->setMinimumHeight(ligne->fontMetrics().height());
 
     auto* tete = new QHBoxLayout;
     tete->addLayout(colonne(u"Combinaisons en liste"_s, rangee({nombre_}), this));
@@ -69,6 +79,7 @@ PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, const Etat
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(Unite);
     pile->addLayout(tete);
+    pile->addWidget(etat_);
     pile->addWidget(boite_, 1);
     pile->addLayout(colonne(QString::fromUtf16(noms.sensTitre), rangee({titre_}), this));
     pile->addWidget(rang_);
@@ -77,11 +88,14 @@ PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, const Etat
 
 void PanneauListe::afficher(const Liste* montree) {
     indice_->clear();
+    const QString partielle = liste_.partielle ? u", "_s + ListePartielle : QString();
     titre_->setText(liste_.vide() ? QString()
-                                  : u"%1 à %2 numéros"_s.arg(liste_.nombre()).arg(liste_.taille()));
+                                  : u"%1 à %2 numéros"_s.arg(liste_.nombre()).arg(liste_.taille()) +
+                                        partielle);
     rang_->setText(liste_.vide() ? QString() : libelleStockage(liste_.mode()));
     boite_->modele().montrer(montree);
     boite_->scrollToTop();
+    poserIndice(boite_, montree == nullptr ? QString() : sensCompte(montree->taille()));
     direNombre(montree);
 }
 
@@ -89,12 +103,22 @@ void PanneauListe::direNombre(const Liste* montree) {
     const auto lignes = static_cast<std::uint64_t>(boite_->modele().rowCount());
     const std::uint64_t nombre = montree == nullptr ? 0 : std::max(montree->total, lignes);
     nombre_->setText(nombre == 0 ? QString() : QString::number(nombre));
-    poserIndice(nombre_, nombre > lignes ? u"Les %1 premières sont affichées"_s.arg(lignes)
-                                         : u"Nombre de combinaisons en liste"_s);
+    QStringList etats, indices;
+    if (montree != nullptr && montree->partielle) {
+        etats << ListePartielle;
+        indices << u"Liste partielle : le calcul a été arrêté avant la fin"_s;
+    }
+    if (montree != nullptr && montree->nombreTotal() > lignes) {
+        etats << u"liste coupée"_s;
+        indices << u"Les %1 premières sont affichées"_s.arg(lignes);
+    }
+    etat_->setText(etats.join(u", "_s));
+    poserIndice(nombre_,
+                indices.isEmpty() ? u"Nombre de combinaisons en liste"_s : indices.join(u" ; "_s));
 }
 
-void PanneauListe::colorer(bool couleurs) {
-    boite_->modele().poserCouleurs(couleurs);
+void PanneauListe::colorer(std::optional<BornesLignes> bornes) {
+    boite_->modele().poserBornes(bornes);
 }
 
 void PanneauListe::poserInvite(const QString& invite) {

@@ -6,41 +6,39 @@
 
 #include <QWidget>
 
-#include "comb/EtatCombinaisons.h"
 #include "lists/Liste.h"
+#include "widgets/ListeCombinaisons.h"
 
 class QLabel;
 
 namespace norvane::ui {
-
-class ListeCombinaisons;
 
 /// Object names and captions of one panel.
 struct NomsListe {
     const char16_t* boite;
     const char16_t* titre;   ///< what the list holds, by its size
     const char16_t* nombre;  ///< lines on show
+    const char16_t* etat;    ///< that it is not whole
     const char16_t* indice;  ///< place of the line chosen, from 1
     const char16_t* rang;    ///< the ranks stored
     const char16_t* sensBoite;
     const char16_t* sensTitre;
 };
 inline constexpr NomsListe ListePrincipale{
-    u"ListBox",       u"LabelCombEnMemoire",     u"LabelCombEnListe",       u"RxLabelIndice",
-    u"LabelStockage", u"Liste des combinaisons", u"Combinaisons en mémoire"};
+    u"ListBox",       u"LabelCombEnMemoire", u"LabelCombEnListe",       u"LabelEtatListe",
+    u"RxLabelIndice", u"LabelStockage",      u"Liste des combinaisons", u"Combinaisons en mémoire"};
 
 class PanneauListe final : public QWidget {
     Q_OBJECT
 
  public:
-    /// Title and type speak of `liste`. Both must outlive the panel.
-    PanneauListe(const NomsListe& noms, const Liste& liste, const EtatCombinaisons& etat,
-                 QWidget* parent);
+    /// Title and type speak of `liste`, which must outlive the panel.
+    PanneauListe(const NomsListe& noms, const Liste& liste, QWidget* parent);
 
     /// Shows the lines of `montree`, none for null, which need not be the panel's own list.
     void afficher(const Liste* montree);
-    /// Whether lines at a bound stand out; to be told again when the bounds changed.
-    void colorer(bool couleurs);
+    /// Which lines stand out, if any.
+    void colorer(std::optional<BornesLignes> bornes);
     /// What the empty box says.
     void poserInvite(const QString& invite);
 
@@ -56,6 +54,7 @@ class PanneauListe final : public QWidget {
     const Liste& liste_;
     QLabel* titre_;
     QLabel* nombre_;
+    QLabel* etat_;
     QLabel* indice_;
     QLabel* rang_;
     ListeCombinaisons* boite_;

@@ -93,6 +93,8 @@ QGridLayout* PanneauTailles::creerTailles() {
         lignes_[static_cast<std::size_t>(taille - TailleCombMin)] = bornes;
         connect(bornes->bouton, &QPushButton::clicked, this,
                 [this, taille] { Q_EMIT tailleCliquee(taille); });
+        connect(bornes, &LigneBornes::rechercheDemandee, bornes->bouton, &QPushButton::click);
+        connect(bornes, &LigneBornes::bornesChoisies, this, &PanneauTailles::bornesChoisies);
         const int rang = taille - TailleCombMin + 1;
         grille->addWidget(bornes->bouton, rang, 0);
         int place = 2;

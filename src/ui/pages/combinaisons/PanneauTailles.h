@@ -52,6 +52,7 @@ class PanneauTailles final : public QWidget {
  Q_SIGNALS:
     // What the user asks for; the controls show what came of it when they are told.
     void tailleCliquee(int taille);
+    void bornesChoisies();
     void modeChoisi(norvane::ModeListe mode);
     void stockageChoisi(norvane::ModeStockage mode);
 

@@ -9,13 +9,20 @@
 #include <QListView>
 #include <QStyledItemDelegate>
 
-#include "comb/EtatCombinaisons.h"
 #include "lists/Liste.h"
 
 namespace norvane::ui {
 
 /// Which bound the count of a line reaches.
 enum class BorneLigne { Aucune, Inf, Sup };
+
+/// The counts that stand out.
+struct BornesLignes {
+    int inf;
+    int sup;
+
+    friend bool operator==(const BornesLignes&, const BornesLignes&) = default;
+};
 
 /// The lines of a list in its order, the first CapaciteListe of them.
 class ModeleCombinaisons final : public QAbstractListModel {
@@ -24,13 +31,12 @@ class ModeleCombinaisons final : public QAbstractListModel {
  public:
     static constexpr int RoleBorne = Qt::UserRole + 1;  ///< BorneLigne as an integer
 
-    /// Lines are coloured by the bounds of `etat`.
-    ModeleCombinaisons(const EtatCombinaisons& etat, QObject* parent);
+    using QAbstractListModel::QAbstractListModel;
 
     /// Null: no line. The list stays its owner's: after it changed, show it again.
     void montrer(const Liste* liste);
-    /// Without colours every line is an ordinary one. To be called too when the bounds changed.
-    void poserCouleurs(bool couleurs);
+    /// Without bounds every line is an ordinary one.
+    void poserBornes(std::optional<BornesLignes> bornes);
 
     /// Nothing for a line that is no more.
     std::optional<Combinaison> combinaison(int ligne) const;
@@ -41,10 +47,9 @@ class ModeleCombinaisons final : public QAbstractListModel {
  private:
     BorneLigne borne(const Combinaison& combinaison) const;
 
-    const EtatCombinaisons& etat_;
     const Liste* liste_ = nullptr;
     int nombre_ = 0;
-    bool couleurs_ = true;
+    std::optional<BornesLignes> bornes_;
 };
 
 /// One line: blue when it reaches the upper bound, green at the lower one, on aqua in a black frame
@@ -66,7 +71,7 @@ class ListeCombinaisons final : public QListView {
     Q_OBJECT
 
  public:
-    ListeCombinaisons(const QString& nom, const EtatCombinaisons& etat, QWidget* parent);
+    ListeCombinaisons(const QString& nom, QWidget* parent);
 
     ModeleCombinaisons& modele() { return *modele_; }
     /// What an empty list says.
