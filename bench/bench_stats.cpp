@@ -85,7 +85,7 @@ ResultatStats Naif(const Base& base, int element, int f, int l) {
     if (presents > 0) suite.retenir(presents, l + 1);
     if (absents > 0) ecart.retenir(absents, l + 1 - absents);
     const auto mot = [](int n) { return static_cast<std::uint16_t>(n); };
-    return {static_cast<std::int16_t>(sorties),
+    return {mot(sorties),
             mot(absents),
             mot(ecart.valeur),
             mot(ecart.nombre),

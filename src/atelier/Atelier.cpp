@@ -4,26 +4,15 @@
 #include "atelier/Atelier.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "base/Fichiers.h"
 #include "base/Stockage.h"
+#include "tickets/FichiersGrilles.h"
 
 namespace norvane {
 
 namespace {
-
-/// One sentence for all that the configuration file holds of nonsense.
-std::string PhraseAnomalies(const std::vector<std::string>& anomalies) {
-    std::string phrase = "Le fichier NORVANE.INI contient des valeurs inutilisables (";
-    constexpr std::size_t citees = 3;
-    for (std::size_t i = 0; i < std::min(anomalies.size(), citees); ++i) {
-        if (i > 0) phrase += " ; ";
-        phrase += anomalies[i];
-    }
-    if (anomalies.size() > citees) phrase += " ; …";
-    return phrase +
-           ") : les valeurs par défaut les remplacent et le fichier reste tel quel, corrigez-le si "
-           "besoin.";
-}
 
 bool MemeContenu(const Base& a, const Base& b) {
     return a.AnciensTirages == b.AnciensTirages && a.NbAnciensTirages == b.NbAnciensTirages &&
@@ -35,17 +24,16 @@ bool MemeContenu(const Base& a, const Base& b) {
 
 Atelier::Atelier(std::filesystem::path repertoire)
     : Repertoire(std::move(repertoire)), configuration(Repertoire / NomConfiguration) {
-    if (!configuration.anomalies.empty()) {
-        avertissements.push_back(PhraseAnomalies(configuration.anomalies));
+    RetirerRestes(Repertoire);
+    RetirerRestes(Repertoire / DossierGrilles);
+    if (auto phrase = configuration.avertissement(); !phrase.empty()) {
+        avertissements.push_back(std::move(phrase));
     }
     BaseChargee chargee = ChargerBase(Repertoire, configuration.reglages.AnciensTirages);
     base = std::move(chargee.base);
-    // A file that stands there unread (made by a newer version, without permission) is not ours to
-    // replace by the built-in draws.
-    std::error_code ignore;
-    const bool presente = std::filesystem::exists(Repertoire / NomStockage, ignore);
-    surDisque_ = presente;
-    stockageIllisible_ = presente && !chargee.depuisFichier;
+    // What stands there unread was told, and is not ours to replace by the built-in draws.
+    surDisque_ = chargee.depuisFichier || chargee.laissee;
+    stockageIllisible_ = chargee.laissee;
     if (!chargee.avertissement.empty()) avertissements.push_back(std::move(chargee.avertissement));
     baseSauvee_ = base;
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "base/Fichiers.h"
@@ -248,10 +249,7 @@ std::string CiterValeur(std::string_view texte) {
 
 /// The text of the file, empty when there is none; an error when it can be no configuration.
 Resultat<std::string> LireTexte(const std::filesystem::path& fichier) {
-    std::error_code ec;
-    if (std::filesystem::status(fichier, ec).type() == std::filesystem::file_type::not_found) {
-        return std::string();
-    }
+    if (!NomPresent(fichier)) return std::string();
     Resultat<std::string> lu = LireFichier(fichier, TailleMax);
     if (!lu) return lu;
     std::string_view reste = *lu;
@@ -350,10 +348,20 @@ Configuration::Configuration(std::filesystem::path fichier)
         if (valeur == nullptr) continue;
         const std::string defaut = cle.lire(valeur, reglages);
         if (!defaut.empty()) {
-            anomalies.push_back(fmt::format("[{}] {} : « {} » {}", cle.section, cle.nom,
-                                            CiterValeur(valeur), defaut));
+            anomalies.push_back(
+                fmt::format("[{}] {} : « {} » {}", cle.section, cle.nom, CiterValeur(valeur), defaut));
         }
     }
+}
+
+std::string Configuration::avertissement() const {
+    if (anomalies.empty()) return {};
+    constexpr std::size_t citees = 3;
+    const auto debut = std::span(anomalies).first(std::min(anomalies.size(), citees));
+    return fmt::format(
+        "Le fichier NORVANE.INI contient des valeurs inutilisables ({}{}) : les valeurs par défaut "
+        "les remplacent et le fichier reste tel quel, corrigez-le si besoin.",
+        fmt::join(debut, " ; "), anomalies.size() > citees ? " ; …" : "");
 }
 
 Resultat<Rien> Configuration::ecrire(const std::string& section, const std::string& cle,

@@ -3,6 +3,7 @@
 #include "base/Fichiers.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,6 +11,7 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <system_error>
 #include <utility>
@@ -56,6 +58,10 @@ class Descripteur {
     Descripteur(const Descripteur&) = delete;
     Descripteur& operator=(const Descripteur&) = delete;
 
+    void prendre(int fd) {
+        fermer();
+        fd_ = fd;
+    }
     int fd() const { return fd_; }
     /// False when the last bytes could not be handed to the system.
     bool fermer() {
@@ -96,24 +102,62 @@ struct Temporaire {
     int fd = -1;
 };
 
+constexpr std::string_view DebutTemporaire = ".norvane-";
+constexpr std::string_view FinTemporaire = ".tmp";
+
 /// A new file of its own in `dossier`; errno tells why when fd is negative.
-Temporaire CreerTemporaire(const std::filesystem::path& dossier) {
+Temporaire CreerTemporaire(const std::filesystem::path& dossier, mode_t droits) {
     static std::atomic<unsigned> compteur = 0;
     Temporaire temporaire;
     do {
         // The name stays short: the target's own may be as long as the system allows.
-        temporaire.chemin = dossier / (".norvane-" + std::to_string(::getpid()) + '-' +
-                                       std::to_string(compteur++) + ".tmp");
+        temporaire.chemin =
+            dossier / std::string(DebutTemporaire)
+                          .append(std::to_string(::getpid()) + '-' + std::to_string(compteur++))
+                          .append(FinTemporaire);
         temporaire.fd =
-            ::open(temporaire.chemin.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            ::open(temporaire.chemin.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, droits);
     } while (temporaire.fd < 0 && errno == EEXIST);
     return temporaire;
 }
 
-/// Permissions, and the owner where the system lets us, of the file that is replaced.
-bool ReprendreDroits(int fd, const struct stat& ancien) {
-    if (::fchown(fd, ancien.st_uid, ancien.st_gid) != 0) errno = 0;
-    return ::fchmod(fd, ancien.st_mode & 07777) == 0;
+/// A name that creerTemporaire gives: two numbers between its two ends.
+bool estNomTemporaire(std::string_view nom) {
+    if (!nom.starts_with(DebutTemporaire) || !nom.ends_with(FinTemporaire)) return false;
+    nom.remove_prefix(DebutTemporaire.size());
+    nom.remove_suffix(FinTemporaire.size());
+    const std::size_t tiret = std::min(nom.find('-'), nom.size());
+    const auto estNombre = [](std::string_view texte) {
+        return !texte.empty() && texte.find_first_not_of("0123456789") == texte.npos;
+    };
+    return estNombre(nom.substr(0, tiret)) &&
+           estNombre(nom.substr(std::min(tiret + 1, nom.size())));
+}
+
+/// Owner, group and permissions of the file that is replaced. Only the superuser gives a file
+/// away; the group alone may still be kept, and with it the access of those who share the file.
+/// Where it may not, the group that the file falls to gets no more than everybody.
+void ReprendreDroits(int fd, const struct stat& ancien) {
+    mode_t droits = ancien.st_mode & 07777;
+    if (::fchown(fd, ancien.st_uid, ancien.st_gid) != 0 &&
+        ::fchown(fd, static_cast<uid_t>(-1), ancien.st_gid) != 0) {
+        droits = (droits & 0707) | ((droits & 07) << 3);
+    }
+    if (::fchmod(fd, droits) != 0) errno = 0;  // a file system without permissions
+}
+
+/// Opens a plain file. What stands in the way, as a piece of a sentence; empty when nothing does.
+std::string ouvrirLecture(const std::filesystem::path& chemin, Descripteur& fd, struct stat& etat) {
+    // O_NONBLOCK: a pipe that bears the name must not stop the program.
+    fd.prendre(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (fd.fd() < 0 || ::fstat(fd.fd(), &etat) != 0) {
+        const int numero = errno;
+        std::error_code ec;
+        const bool lien = std::filesystem::is_symlink(chemin, ec);
+        return numero == ENOENT && lien ? "c'est un lien vers un fichier qui n'existe pas"
+                                        : Raison(numero);
+    }
+    return S_ISREG(etat.st_mode) ? "" : "ce nom est celui d'un dossier ou d'un appareil";
 }
 
 /// Puts the rename itself on the disk; a file system that cannot is left to its own pace.
@@ -135,12 +179,13 @@ Resultat<Rien> EcrireFichier(const std::filesystem::path& chemin, std::string_vi
         return Echec(action, chemin, "ce nom est celui d'un dossier ou d'un appareil");
     }
     const std::filesystem::path dossier = but.has_parent_path() ? but.parent_path() : ".";
-    const Temporaire temporaire = CreerTemporaire(dossier);
+    // Until it has the permissions of the file that it replaces, nobody else sees it.
+    const Temporaire temporaire = CreerTemporaire(dossier, existe ? 0600 : 0666);
     if (temporaire.fd < 0) return Echec(action, chemin, Raison(errno));
     Descripteur fd(temporaire.fd);
-    const bool ecrit = EcrireTout(fd.fd(), contenu) &&
-                       (!existe || ReprendreDroits(fd.fd(), ancien)) && ::fsync(fd.fd()) == 0 &&
-                       fd.fermer() && std::rename(temporaire.chemin.c_str(), but.c_str()) == 0;
+    if (existe) ReprendreDroits(fd.fd(), ancien);
+    const bool ecrit = EcrireTout(fd.fd(), contenu) && ::fsync(fd.fd()) == 0 && fd.fermer() &&
+                       std::rename(temporaire.chemin.c_str(), but.c_str()) == 0;
     if (!ecrit) {
         const int numero = errno;
         ::unlink(temporaire.chemin.c_str());
@@ -152,15 +197,17 @@ Resultat<Rien> EcrireFichier(const std::filesystem::path& chemin, std::string_vi
 
 Resultat<std::string> LireFichier(const std::filesystem::path& chemin, std::uint64_t tailleMax) {
     constexpr const char* action = "de lire";
-    // O_NONBLOCK: a pipe that bears the name must not stop the program.
-    const Descripteur fd(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const auto tropGrand = [&] {
+        return Echec(action, chemin,
+                     "il dépasse la taille permise de " + std::to_string(tailleMax) + " octets");
+    };
+    Descripteur fd(-1);
     struct stat etat {};
-    if (fd.fd() < 0 || ::fstat(fd.fd(), &etat) != 0) return Echec(action, chemin, Raison(errno));
-    if (!S_ISREG(etat.st_mode)) {
-        return Echec(action, chemin, "ce nom est celui d'un dossier ou d'un appareil");
-    }
+    const std::string obstacle = ouvrirLecture(chemin, fd, etat);
+    if (!obstacle.empty()) return Echec(action, chemin, obstacle);
+    if (static_cast<std::uint64_t>(etat.st_size) > tailleMax) return tropGrand();
     std::string contenu;
-    contenu.reserve(std::min(static_cast<std::uint64_t>(etat.st_size), tailleMax));
+    contenu.reserve(static_cast<std::size_t>(etat.st_size));
     std::array<char, 65536> tampon;
     for (;;) {
         const ssize_t n = ::read(fd.fd(), tampon.data(), tampon.size());
@@ -168,12 +215,37 @@ Resultat<std::string> LireFichier(const std::filesystem::path& chemin, std::uint
         if (n < 0) return Echec(action, chemin, Raison(errno));
         if (n == 0) return contenu;
         contenu.append(tampon.data(), static_cast<std::size_t>(n));
-        if (contenu.size() > tailleMax) {
-            return Echec(
-                action, chemin,
-                "il dépasse la taille permise de " + std::to_string(tailleMax) + " octets");
-        }
+        if (contenu.size() > tailleMax) return tropGrand();  // it grew meanwhile
     }
+}
+
+bool NomPresent(const std::filesystem::path& chemin) {
+    std::error_code ec;
+    return std::filesystem::symlink_status(chemin, ec).type() !=
+           std::filesystem::file_type::not_found;
+}
+
+std::string ObstacleLecture(const std::filesystem::path& chemin) {
+    Descripteur fd(-1);
+    struct stat etat {};
+    return ouvrirLecture(chemin, fd, etat);
+}
+
+void RetirerRestes(const std::filesystem::path& dossier) {
+    namespace fs = std::filesystem;
+    const auto limite = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    std::error_code ec;
+    for (fs::directory_iterator ici(dossier, ec), fin; !ec && ici != fin; ici.increment(ec)) {
+        if (!estNomTemporaire(ici->path().filename().native())) continue;
+        std::error_code ignore;
+        if (!fs::is_regular_file(ici->symlink_status(ignore))) continue;
+        const auto ecrit = ici->last_write_time(ignore);
+        if (!ignore && ecrit < limite) fs::remove(ici->path(), ignore);
+    }
+}
+
+void SurvivreAuxLimitesDeTaille() {
+    ::signal(SIGXFSZ, SIG_IGN);
 }
 
 std::string_view SansMarqueOctets(std::string_view texte) {

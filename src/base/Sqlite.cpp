@@ -15,7 +15,21 @@ using Genre = EchecStockage::Genre;
 /// How long to wait for another program that is writing the file.
 constexpr int AttenteMs = 3000;
 
-[[noreturn]] void Echouer(sqlite3* db) {
+/// What a file from anywhere may ask for, well above what ours need.
+struct Limite {
+    int genre;
+    int valeur;
+};
+constexpr Limite Limites[] = {
+    {SQLITE_LIMIT_LENGTH, 65536},      {SQLITE_LIMIT_SQL_LENGTH, 65536},
+    {SQLITE_LIMIT_COLUMN, 64},         {SQLITE_LIMIT_EXPR_DEPTH, 32},
+    {SQLITE_LIMIT_COMPOUND_SELECT, 4}, {SQLITE_LIMIT_VDBE_OP, 25000},
+    {SQLITE_LIMIT_FUNCTION_ARG, 8},    {SQLITE_LIMIT_ATTACHED, 0},
+    {SQLITE_LIMIT_TRIGGER_DEPTH, 1},   {SQLITE_LIMIT_VARIABLE_NUMBER, 64},
+    {SQLITE_LIMIT_WORKER_THREADS, 0},
+};
+
+[[noreturn]] void echouer(sqlite3* db) {
     const int etendu = sqlite3_extended_errcode(db);
     switch (etendu & 0xFF) {
         case SQLITE_PERM:
@@ -40,7 +54,7 @@ constexpr int AttenteMs = 3000;
     throw EchecStockage(Genre::Abime, "son contenu n'est pas lisible");
 }
 
-[[noreturn]] void MauvaiseValeur() {
+[[noreturn]] void mauvaiseValeur() {
     throw EchecStockage(Genre::Abime, "une valeur n'est pas du type attendu");
 }
 
@@ -59,7 +73,7 @@ void Connexion::ouvrir(const char* nom, int options) {
     const int rc = sqlite3_open_v2(nom, &db, options, nullptr);
     db_.reset(db);
     if (db == nullptr) throw EchecStockage(Genre::Inaccessible, "la mémoire manque");
-    if (rc != SQLITE_OK) Echouer(db);
+    if (rc != SQLITE_OK) echouer(db);
     sqlite3_busy_timeout(db, AttenteMs);
     // The file may come from anywhere: nothing that it holds may run.
     for (const int refus : {SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW,
@@ -67,10 +81,11 @@ void Connexion::ouvrir(const char* nom, int options) {
         sqlite3_db_config(db, refus, 0, nullptr);
     }
     sqlite3_db_config(db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    for (const Limite& limite : Limites) sqlite3_limit(db, limite.genre, limite.valeur);
 }
 
 void Connexion::executer(const std::string& sql) {
-    if (sqlite3_exec(get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) Echouer(get());
+    if (sqlite3_exec(get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) echouer(get());
 }
 
 std::int64_t Connexion::entier(const std::string& sql) {
@@ -101,7 +116,7 @@ Requete::Requete(Connexion& connexion, const std::string& sql) : db_(connexion.g
 }
 
 void Requete::verifier(int rc) const {
-    if (rc != SQLITE_OK && rc != SQLITE_ROW && rc != SQLITE_DONE) Echouer(db_);
+    if (rc != SQLITE_OK && rc != SQLITE_ROW && rc != SQLITE_DONE) echouer(db_);
 }
 
 void Requete::lier(int parametre, std::int64_t valeur) {
@@ -120,7 +135,7 @@ bool Requete::suivante() {
 }
 
 std::int64_t Requete::entier(int colonne) const {
-    if (sqlite3_column_type(requete_.get(), colonne) != SQLITE_INTEGER) MauvaiseValeur();
+    if (sqlite3_column_type(requete_.get(), colonne) != SQLITE_INTEGER) mauvaiseValeur();
     return sqlite3_column_int64(requete_.get(), colonne);
 }
 
@@ -128,18 +143,18 @@ std::int32_t Requete::entier32(int colonne) const {
     const std::int64_t valeur = entier(colonne);
     if (valeur < std::numeric_limits<std::int32_t>::min() ||
         valeur > std::numeric_limits<std::int32_t>::max()) {
-        MauvaiseValeur();
+        mauvaiseValeur();
     }
     return static_cast<std::int32_t>(valeur);
 }
 
 double Requete::reel(int colonne) const {
-    if (sqlite3_column_type(requete_.get(), colonne) != SQLITE_FLOAT) MauvaiseValeur();
+    if (sqlite3_column_type(requete_.get(), colonne) != SQLITE_FLOAT) mauvaiseValeur();
     return sqlite3_column_double(requete_.get(), colonne);
 }
 
 std::string Requete::texte(int colonne) const {
-    if (sqlite3_column_type(requete_.get(), colonne) != SQLITE_TEXT) MauvaiseValeur();
+    if (sqlite3_column_type(requete_.get(), colonne) != SQLITE_TEXT) mauvaiseValeur();
     const auto taille = static_cast<std::size_t>(sqlite3_column_bytes(requete_.get(), colonne));
     const unsigned char* debut = sqlite3_column_text(requete_.get(), colonne);
     return {debut, debut + taille};

@@ -9,7 +9,10 @@
 #include <array>
 #include <bit>
 #include <chrono>
+#include <cstdint>
+#include <string>
 #include <system_error>
+#include <vector>
 
 #include "base/BaseIntegree.h"
 #include "base/Fichiers.h"
@@ -24,6 +27,8 @@ namespace fs = std::filesystem;
 using Genre = EchecStockage::Genre;
 
 constexpr std::int64_t IdentiteFichier = 0x4E6F7276;  ///< "Norv", in the header of the file
+/// Six times what a full base takes.
+constexpr std::uintmax_t TailleFichierMax = std::uintmax_t{64} << 20;
 
 /// Step i takes a file from version i to version i + 1; the first one makes it. STRICT: a column
 /// holds its type and no other. The columns n1 to joker stand as the integers of a Tirage.
@@ -65,15 +70,34 @@ std::int64_t Somme(const Base& base) {
     return std::bit_cast<std::int64_t>(total);
 }
 
-void Migrer(Connexion& connexion, std::int64_t depuis) {
-    for (auto i = static_cast<std::size_t>(depuis); i < Migrations.size(); ++i) {
+/// Takes a file from one version to a later one.
+void Migrer(Connexion& connexion, std::int64_t depuis, std::int64_t vers) {
+    for (auto i = static_cast<std::size_t>(depuis); i < static_cast<std::size_t>(vers); ++i) {
         connexion.executer(Migrations[i]);
     }
-    connexion.executer(fmt::format("PRAGMA user_version={}", VersionSchema));
+    connexion.executer(fmt::format("PRAGMA user_version={}", vers));
+}
+
+/// All objects of a file and their texts, as SQLite keeps them.
+std::vector<std::string> schema(Connexion& connexion) {
+    Requete requete(connexion,
+                    "SELECT type||' '||name||' '||tbl_name||' '||coalesce(sql,'')"
+                    " FROM sqlite_schema ORDER BY 1");
+    std::vector<std::string> objets;
+    while (requete.suivante()) objets.push_back(requete.texte(0));
+    return objets;
+}
+
+/// The schema of a file of ours of that version.
+std::vector<std::string> schemaAttendu(std::int64_t version) {
+    Connexion modele;
+    Migrer(modele, 0, version);
+    return schema(modele);
 }
 
 /// Tells a sound file of ours from all others, and brings an older one up to date. Inside a
-/// transaction.
+/// transaction. Nothing but the header and the schema's text is looked at before the schema is
+/// known to be ours: a table with a computed column, a view or a trigger would run what it holds.
 void Reconnaitre(Connexion& connexion) {
     if (connexion.entier("PRAGMA application_id") != IdentiteFichier) {
         throw EchecStockage(Genre::Abime, "ce n'est pas une base de Norvane");
@@ -83,10 +107,13 @@ void Reconnaitre(Connexion& connexion) {
         throw EchecStockage(Genre::TropRecent,
                             "il a été écrit par une version plus récente de Norvane");
     }
-    if (version < 1 || connexion.texte("PRAGMA integrity_check(1)") != "ok") {
+    if (version < 1 || schema(connexion) != schemaAttendu(version)) {
+        throw EchecStockage(Genre::Abime, "ses tables ne sont pas celles de Norvane");
+    }
+    if (connexion.texte("PRAGMA integrity_check(1)") != "ok") {
         throw EchecStockage(Genre::Abime, "son contrôle d'intégrité échoue");
     }
-    if (version < VersionSchema) Migrer(connexion, version);
+    if (version < VersionSchema) Migrer(connexion, version, VersionSchema);
 }
 
 std::int64_t LireMeta(Connexion& connexion, const char* cle) {
@@ -157,15 +184,18 @@ void EcrireTout(Connexion& connexion, const Base& base) {
 
 /// Opens an existing file; a name that is no plain file, or no file at all, is not ours to touch.
 Connexion Ouvrir(const fs::path& fichier) {
+    if (const std::string obstacle = ObstacleLecture(fichier); !obstacle.empty()) {
+        throw EchecStockage(Genre::Inaccessible, obstacle);
+    }
     std::error_code ec;
-    if (fs::status(fichier, ec).type() != fs::file_type::regular) {
-        throw EchecStockage(Genre::Inaccessible,
-                            ec ? "l'accès est refusé" : "ce n'est pas un fichier ordinaire");
+    if (const auto taille = fs::file_size(fichier, ec); !ec && taille > TailleFichierMax) {
+        throw EchecStockage(Genre::Abime, fmt::format("il dépasse la taille permise de {} octets",
+                                                      TailleFichierMax));
     }
     return Connexion(fichier);
 }
 
-Base LireBaseGardee(const fs::path& fichier) {
+Base LireFichier(const fs::path& fichier) {
     Connexion connexion = Ouvrir(fichier);
     connexion.executer("BEGIN");
     Reconnaitre(connexion);
@@ -273,7 +303,7 @@ Resultat<Rien> Creer(const Base& base, const fs::path& fichier) {
     Connexion connexion;
     connexion.executer("BEGIN");
     connexion.executer(fmt::format("PRAGMA application_id={}", IdentiteFichier));
-    Migrer(connexion, 0);
+    Migrer(connexion, 0, VersionSchema);
     EcrireTout(connexion, base);
     connexion.executer("COMMIT");
     std::error_code ec;  // without their file they are worth nothing, and mostly they are not there
@@ -304,7 +334,7 @@ Erreur EchecSauvegarde(const fs::path& fichier, const char* cause, const char* c
 
 Resultat<Base> LireStockage(const fs::path& fichier) {
     try {
-        return LireBaseGardee(fichier);
+        return LireFichier(fichier);
     } catch (const EchecStockage& echec) {
         return Erreur{fmt::format("La base « {} » ne peut pas être lue : {}.", fichier.string(),
                                   echec.what())};
@@ -314,10 +344,9 @@ Resultat<Base> LireStockage(const fs::path& fichier) {
 BaseChargee ChargerBase(const fs::path& repertoire, bool globale) {
     const fs::path fichier = repertoire / NomStockage;
     BaseChargee chargee;
-    std::error_code ec;
-    if (fs::status(fichier, ec).type() != fs::file_type::not_found) {
+    if (NomPresent(fichier)) {
         try {
-            Base base = LireBaseGardee(fichier);
+            Base base = LireFichier(fichier);
             if (globale && !base.AnciensTirages) base = FusionnerAnciens(BaseIntegree(true), base);
             if (!globale && base.AnciensTirages) RetirerAnciens(base);
             chargee.base = std::move(base);
@@ -325,6 +354,7 @@ BaseChargee ChargerBase(const fs::path& repertoire, bool globale) {
             return chargee;
         } catch (const EchecStockage& echec) {
             chargee.avertissement = Avertir(fichier, echec);
+            chargee.laissee = NomPresent(fichier);
         }
     }
     chargee.base = BaseIntegree(globale);
@@ -336,8 +366,7 @@ Resultat<Rien> SauverBase(const Base& base, const fs::path& fichier) {
         return EchecSauvegarde(fichier, defaut.c_str(), "corrigez ce tirage puis recommencez");
     }
     try {
-        std::error_code ec;
-        if (fs::status(fichier, ec).type() == fs::file_type::not_found) return Creer(base, fichier);
+        if (!NomPresent(fichier)) return Creer(base, fichier);
         try {
             Remplacer(base, fichier);
             return Rien{};

@@ -4,7 +4,6 @@
 
 #include <ostream>
 
-#include "base/Configuration.h"
 #include "base/Dates.h"
 #include "Commandes.h"
 #include "Options.h"
@@ -38,7 +37,7 @@ Resultat<RecuDeJeu> LireBillets(const fs::path& fichier) {
 
 /// The money of NORVANE.INI in the current directory, or the default one.
 Monnaie LireMonnaie(const Contexte& contexte) {
-    const Reglages reglages = Configuration(contexte.repertoire / NomConfiguration).reglages;
+    const Reglages reglages = contexte.lireReglages();
     return {reglages.SymboleMonnaie, reglages.TauxConversion};
 }
 

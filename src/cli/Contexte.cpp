@@ -4,13 +4,13 @@
 
 #include <fmt/format.h>
 
-#include <system_error>
 #include <utility>
 
 #include "base/BaseIntegree.h"
 #include "base/Fichiers.h"
 #include "base/Stockage.h"
 #include "base/TableCsv.h"
+#include "Phrases.h"
 
 namespace norvane {
 
@@ -18,16 +18,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A full base with lines of a thousand bytes; real ones have some two hundred.
+constexpr std::uint64_t TailleTableMax = std::uint64_t{64} << 20;
+
 Resultat<Base> LireBaseFichier(const fs::path& fichier) {
-    std::error_code erreur;
-    if (!fs::exists(fichier, erreur))
+    if (!NomPresent(fichier))
         return Erreur{fmt::format("La base « {} » n'existe pas ou son dossier est inaccessible.",
                                   fichier.string())};
     if (fichier.extension() == ".db") return LireStockage(fichier);
     if (fichier.extension() != ".csv")
         return Erreur{fmt::format("« {} » n'est pas une base : son nom doit finir par .db ou .csv.",
                                   fichier.string())};
-    const auto texte = LireFichier(fichier);
+    const auto texte = LireFichier(fichier, TailleTableMax);
     if (!texte) return Erreur{texte.erreur()};
     auto base = LireTableCsv(*texte);
     if (!base) return Erreur{fmt::format("« {} » : {}", fichier.string(), base.erreur())};
@@ -36,8 +38,7 @@ Resultat<Base> LireBaseFichier(const fs::path& fichier) {
 
 Resultat<Base> ChoisirBase(const OptionsGlobales& options, const fs::path& repertoire) {
     const fs::path fichier = repertoire / options.base.value_or(NomStockage);
-    std::error_code erreur;
-    if (!options.base && !fs::exists(fichier, erreur)) return BaseIntegree(options.globale);
+    if (!options.base && !NomPresent(fichier)) return BaseIntegree(options.globale);
     auto base = LireBaseFichier(fichier);
     if (base && options.globale && !base->AnciensTirages)
         return Erreur{
@@ -64,6 +65,15 @@ Resultat<Donnees> Contexte::charger() const {
     if (de > a)
         return Erreur{fmt::format("Intervalle croisé : --de {} est au-delà de --a {}.", de, a)};
     return Donnees{*std::move(base), static_cast<int>(de), static_cast<int>(a)};
+}
+
+Reglages Contexte::lireReglages() const {
+    const Configuration configuration(repertoire / NomConfiguration);
+    if (const std::string phrase = configuration.avertissement(); !phrase.empty()) {
+        progression.effacer();
+        EcrirePhrase(err, phrase);
+    }
+    return configuration.reglages;
 }
 
 }  // namespace norvane

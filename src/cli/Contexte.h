@@ -10,6 +10,7 @@
 #include <string>
 
 #include "base/Base.h"
+#include "base/Configuration.h"
 #include "base/Resultat.h"
 #include "Progression.h"
 
@@ -35,10 +36,15 @@ struct Contexte {
     /// The output itself, for what is too long to be held back until a command has gone well;
     /// nothing may be written before all that can be refused has been checked.
     std::ostream& sortie;
+    std::ostream& err;                ///< for what is told of a command that goes on
     mutable Progression progression;  ///< shown while a command runs
 
     /// Reads the base and checks the interval. Never changes, moves or makes a file.
     Resultat<Donnees> charger() const;
+
+    /// The settings of NORVANE.INI in the directory. What makes no sense there takes its default
+    /// and is told on `err`, in one line.
+    Reglages lireReglages() const;
 };
 
 }  // namespace norvane

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Executer.h"
 
-#include <fmt/ostream.h>
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <exception>
@@ -15,6 +15,7 @@
 #include "Aide.h"
 #include "Commandes.h"
 #include "Options.h"
+#include "Phrases.h"
 #include "Progression.h"
 
 namespace norvane {
@@ -71,8 +72,15 @@ std::string RaisonUsage(const CLI::App& racine, const CLI::ParseError& erreur) {
 }
 
 int Refuser(std::ostream& err, std::string_view phrase) {
-    fmt::print(err, "{}\n", phrase);
+    EcrirePhrase(err, phrase);
     return StatutRefus;
+}
+
+/// Writes a text to its end, or tells that `quoi` was not.
+int Sortir(std::ostream& out, std::ostream& err, std::string_view texte, std::string_view quoi) {
+    out << texte << std::flush;
+    if (!out) return Refuser(err, fmt::format("{} sur la sortie standard.", quoi));
+    return StatutFait;
 }
 
 int ExecuterCommande(Commande& commande, const Contexte& contexte, std::ostream& out,
@@ -81,16 +89,14 @@ int ExecuterCommande(Commande& commande, const Contexte& contexte, std::ostream&
     const auto fait = commande.executer(contexte, tampon);
     contexte.progression.effacer();
     if (!fait) return Refuser(err, fait.erreur());
-    out << std::move(tampon).str() << std::flush;
-    if (!out) return Refuser(err, "Les résultats n'ont pas pu être écrits sur la sortie standard.");
-    return StatutFait;
+    return Sortir(out, err, std::move(tampon).str(), "Les résultats n'ont pas pu être écrits");
 }
 
 int Analyser(std::span<const std::string> args, std::ostream& out, std::ostream& err,
              const std::filesystem::path& repertoire) {
     CLI::App racine{"Les calculs de Norvane en ligne de commande, sur la base des tirages du Loto.",
                     NomProgramme};
-    Contexte contexte{{}, repertoire, out, Progression(err)};
+    Contexte contexte{{}, repertoire, out, err, Progression(err)};
     racine.formatter(std::make_shared<Aide>());
     racine.require_subcommand(1);
     DeclarerOptions(racine, contexte.options);
@@ -99,14 +105,13 @@ int Analyser(std::span<const std::string> args, std::ostream& out, std::ostream&
     try {
         racine.parse(std::vector<std::string>(args.rbegin(), args.rend()));
     } catch (const CLI::CallForHelp&) {
-        out << CommandeNommee(racine).help();
-        return StatutFait;
+        return Sortir(out, err, CommandeNommee(racine).help(), "L'aide n'a pas pu être écrite");
     } catch (const CLI::CallForVersion& version) {
-        out << version.what() << '\n';
-        return StatutFait;
+        return Sortir(out, err, fmt::format("{}\n", version.what()),
+                      "La version n'a pas pu être écrite");
     } catch (const CLI::ParseError& erreur) {
-        fmt::print(err, "{} : {}\n{}\n", NomProgramme, RaisonUsage(racine, erreur),
-                   LigneUsage(CommandeNommee(racine)));
+        EcrirePhrase(err, fmt::format("{} : {}", NomProgramme, RaisonUsage(racine, erreur)));
+        err << LigneUsage(CommandeNommee(racine)) << '\n';
         return StatutUsage;
     }
     const auto choisie = std::find_if(commandes.begin(), commandes.end(),

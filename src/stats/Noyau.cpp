@@ -24,7 +24,7 @@ class Parcours {
     }
 
     [[gnu::always_inline]] ResultatStats resultat(std::size_t sorties, int sommeEcarts) const {
-        return {static_cast<std::int16_t>(sorties),
+        return {static_cast<std::uint16_t>(sorties),
                 mot(ecart_),
                 mot(ecartMax_),
                 mot(nbEcartMax_),

@@ -17,20 +17,18 @@ constexpr auto LaChance = [](const Tirage& tirage, auto&& visite) {
 };
 
 template <std::size_t N, typename Elements>
-void Compter(const Base& base, Plage plage, Elements elements,
-             std::array<std::int16_t, N>& sorties) {
+void Compter(const Base& base, Plage plage, Elements elements, Sorties<N>& sorties) {
     sorties.fill(0);
     for (int i = plage.premier; i <= plage.dernier; ++i)
         elements(base.Tirages[static_cast<std::size_t>(i)], [&](std::size_t k) { ++sorties[k]; });
 }
 
 template <std::size_t N, typename Elements>
-void Lister(const Base& base, Plage plage, Elements elements,
-            const std::array<std::int16_t, N>& sorties, std::array<ListeOccurrences, N>& listes) {
+void Lister(const Base& base, Plage plage, Elements elements, const Sorties<N>& sorties,
+            std::array<ListeOccurrences, N>& listes) {
     for (std::size_t k = 0; k < N; ++k) {
         listes[k] = ListeOccurrences();
-        // Read without the sign: the count of an item in more than 32767 records still fits.
-        listes[k].reserve(static_cast<std::uint16_t>(sorties[k]));
+        listes[k].reserve(sorties[k]);
     }
     for (int i = plage.premier; i <= plage.dernier; ++i)
         elements(base.Tirages[static_cast<std::size_t>(i)],
@@ -48,22 +46,20 @@ void Reconstruire(const Base& base, Occurrences& occ, Plage plageChances) {
 
 }  // namespace
 
-void CompterNumeros(const Base& base, Plage plage, std::array<std::int16_t, NumeroMax>& sorties) {
+void CompterNumeros(const Base& base, Plage plage, Sorties<NumeroMax>& sorties) {
     Compter(base, plage, LesNumeros, sorties);
 }
 
-void ListerNumeros(const Base& base, Plage plage,
-                   const std::array<std::int16_t, NumeroMax>& sorties,
+void ListerNumeros(const Base& base, Plage plage, const Sorties<NumeroMax>& sorties,
                    std::array<ListeOccurrences, NumeroMax>& listes) {
     Lister(base, plage, LesNumeros, sorties, listes);
 }
 
-void CompterChances(const Base& base, Plage plage, std::array<std::int16_t, ChanceMax>& sorties) {
+void CompterChances(const Base& base, Plage plage, Sorties<ChanceMax>& sorties) {
     Compter(base, plage, LaChance, sorties);
 }
 
-void ListerChances(const Base& base, Plage plage,
-                   const std::array<std::int16_t, ChanceMax>& sorties,
+void ListerChances(const Base& base, Plage plage, const Sorties<ChanceMax>& sorties,
                    std::array<ListeOccurrences, ChanceMax>& listes) {
     Lister(base, plage, LaChance, sorties, listes);
 }

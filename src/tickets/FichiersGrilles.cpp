@@ -34,6 +34,12 @@ Resultat<Rien> CreerDossier(const fs::path& dossier) {
         dossier.string())};
 }
 
+Erreur TropGrand(const fs::path& fichier, std::string_view conseil) {
+    return {
+        fmt::format("« {} » dépasserait les {} octets qu'un fichier de billets peut tenir : {}.",
+                    fichier.string(), TailleMax, conseil)};
+}
+
 Resultat<Rien> EcrireDansDossier(const fs::path& fichier, std::string_view texte) {
     const auto dossier = CreerDossier(fichier.parent_path());
     return dossier ? EcrireFichier(fichier, texte) : dossier;
@@ -130,12 +136,16 @@ std::optional<int> DateRecu(const fs::path& fichier) {
 Resultat<Rien> EnregistrerRecu(const RecuDeJeu& recu, const fs::path& repertoire, int date,
                                bool ajouter) {
     const fs::path fichier = FichierRecu(repertoire, date);
-    std::error_code erreur;
-    if (!ajouter || !fs::exists(fichier, erreur))
-        return EcrireDansDossier(fichier, TexteRecu(recu));
+    if (!ajouter || !NomPresent(fichier)) {
+        const std::string texte = TexteRecu(recu);
+        if (texte.size() > TailleMax) return TropGrand(fichier, "répartissez-le en plusieurs");
+        return EcrireDansDossier(fichier, texte);
+    }
     const auto tout = Fusionner(fichier, recu);
     if (!tout) return Erreur{tout.erreur()};
-    return EcrireFichier(fichier, TexteRecu(*tout));
+    const std::string texte = TexteRecu(*tout);
+    if (texte.size() > TailleMax) return TropGrand(fichier, "remplacez-le au lieu d'y ajouter");
+    return EcrireFichier(fichier, texte);
 }
 
 }  // namespace norvane

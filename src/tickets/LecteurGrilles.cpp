@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -32,22 +31,19 @@ class Lecteur {
     explicit Lecteur(std::string_view texte) : reste_(SansMarqueOctets(texte)) {}
 
     std::size_t octetsRestants() const { return reste_.size(); }
-    /// The last field has nothing behind it, not even a blank.
-    bool finSansBlanc() const { return !mot_.empty() && reste_.empty(); }
     /// What the coming fields belong to, `rang` counted from one: "grille", 3.
     void situer(const char* objet, std::size_t rang) { objet_ = objet, rang_ = rang; }
 
     bool nombre(double& valeur, std::string_view quoi, double min, double max) {
-        if (!avancer()) return refuser(fmt::format("il manque {}, le texte s'arrête là", quoi));
-        const char* fin = mot_.data() + mot_.size();
-        const auto lu = std::from_chars(mot_.data(), fin, valeur);
-        // from_chars also takes "inf" and "nan".
-        if (lu.ec != std::errc{} || lu.ptr != fin || !std::isfinite(valeur))
-            return refuser(fmt::format("{} est un nombre, pas « {} »", quoi, Citer(mot_)));
-        if (valeur < min || valeur > max)
-            return refuser(fmt::format("{} va de {} à {}, pas « {} »", quoi, min, std::floor(max),
-                                       Citer(mot_)));
-        return true;
+        return avancer(quoi) && convertir(mot_, valeur, quoi, min, max);
+    }
+
+    /// As nombre, but the decimals may also stand behind a comma, as a hand writes them.
+    bool montant(double& valeur, std::string_view quoi, double min, double max) {
+        if (!avancer(quoi)) return false;
+        std::string champ(mot_);
+        if (const auto virgule = champ.find(','); virgule != champ.npos) champ[virgule] = '.';
+        return convertir(champ, valeur, quoi, min, max);
     }
 
     bool entier(int& valeur, std::string_view quoi, int min, int max) {
@@ -85,6 +81,24 @@ class Lecteur {
     }
 
  private:
+    bool convertir(std::string_view champ, double& valeur, std::string_view quoi, double min,
+                   double max) {
+        const char* fin = champ.data() + champ.size();
+        const auto lu = std::from_chars(champ.data(), fin, valeur);
+        // from_chars also takes "inf" and "nan".
+        if (lu.ec != std::errc{} || lu.ptr != fin || !std::isfinite(valeur))
+            return refuser(fmt::format("{} est un nombre, pas « {} »", quoi, Citer(mot_)));
+        if (valeur < min || valeur > max)
+            return refuser(fmt::format("{} va de {} à {}, pas « {} »", quoi, min, std::floor(max),
+                                       Citer(mot_)));
+        return true;
+    }
+
+    /// The next field, which is to hold `quoi`.
+    bool avancer(std::string_view quoi) {
+        return avancer() || refuser(fmt::format("il manque {}, le texte s'arrête là", quoi));
+    }
+
     bool avancer() {
         const std::size_t debut = std::min(reste_.find_first_not_of(Blancs), reste_.size());
         ligne_ += static_cast<std::size_t>(
@@ -107,9 +121,10 @@ class Lecteur {
 struct Genre {
     const char* combien;
     const char* valeur;
+    const char* repetee;
 };
-constexpr Genre Numeros = {"le nombre de numéros", "un numéro"};
-constexpr Genre Chances = {"le nombre de chances", "une chance"};
+constexpr Genre Numeros = {"le nombre de numéros", "un numéro", "répété"};
+constexpr Genre Chances = {"le nombre de chances", "une chance", "répétée"};
 
 template <int Max>
 bool LireValeurs(Lecteur& lecteur, const Genre& genre, Cochees<Max>& valeurs) {
@@ -119,7 +134,8 @@ bool LireValeurs(Lecteur& lecteur, const Genre& genre, Cochees<Max>& valeurs) {
         int valeur = 0;
         if (!lecteur.entier(valeur, genre.valeur, 1, Max)) return false;
         if (valeurs.contient(valeur))
-            return lecteur.refuser(fmt::format("{} ({}) est répété", genre.valeur, valeur));
+            return lecteur.refuser(
+                fmt::format("{} ({}) est {}", genre.valeur, valeur, genre.repetee));
         valeurs.cocher(valeur);
     }
     return true;
@@ -127,7 +143,7 @@ bool LireValeurs(Lecteur& lecteur, const Genre& genre, Cochees<Max>& valeurs) {
 
 bool LireGrille(Lecteur& lecteur, std::vector<Grille>& grilles) {
     Grille& grille = grilles.emplace_back();
-    return lecteur.nombre(grille.mise, "la mise", 0, MiseMax) &&
+    return lecteur.montant(grille.mise, "la mise", 0, MiseMax) &&
            LireValeurs(lecteur, Numeros, grille.numeros) &&
            LireValeurs(lecteur, Chances, grille.chances);
 }
@@ -168,22 +184,12 @@ bool LireJokers(Lecteur& lecteur, std::vector<LigneJoker>& jokers) {
                      "Joker+", OctetsJoker, LireJoker, jokers);
 }
 
-/// A list that ends in a chance of 1 with nothing behind may have been cut inside a chance of 10.
-bool FinSure(Lecteur& lecteur, const std::vector<Grille>& grilles) {
-    if (grilles.empty() || !lecteur.finSansBlanc()) return true;
-    const ChancesCochees& chances = grilles.back().chances;
-    if (chances.vide() || *std::prev(chances.end()) != 1) return true;
-    return lecteur.refuser(
-        "le texte s'arrête sur « 1 », qui peut être un 10 coupé ; s'il est complet, finissez-le "
-        "par un retour à la ligne");
-}
-
 }  // namespace
 
 Resultat<std::vector<Grille>> LireGrilles(std::string_view texte) {
     Lecteur lecteur(texte);
     std::vector<Grille> grilles;
-    if (!LireCorps(lecteur, grilles) || !FinSure(lecteur, grilles) || !lecteur.fin())
+    if (!LireCorps(lecteur, grilles) || !lecteur.fin())
         return lecteur.refus("La liste de grilles est refusée");
     return grilles;
 }

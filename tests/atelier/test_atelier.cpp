@@ -6,11 +6,13 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <fstream>
 
 #include "atelier/Atelier.h"
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
+#include "tickets/FichiersGrilles.h"
 
 using namespace norvane;
 namespace fs = std::filesystem;
@@ -80,13 +82,35 @@ TEST_F(TestAtelier, SauveSeulementCeQuiAChange) {
 
 TEST_F(TestAtelier, UneBaseQuOnNePeutLireResteLa) {
     fs::create_directory(dossier / NomStockage);
+    for (const bool lien : {false, true}) {
+        Atelier a(dossier);
+        EXPECT_EQ(a.base.NbTirages, 3214);
+        ASSERT_EQ(a.avertissements.size(), 1U);
+        EXPECT_TRUE(a.sauverBase()) << "nothing changed, nothing to save";
+        a.base.Tirages[0].Chance = 3;
+        EXPECT_FALSE(a.sauverBase());
+        EXPECT_TRUE(lien || fs::is_directory(dossier / NomStockage));
+        EXPECT_FALSE(fs::exists(dossier / "absente.db"));
+        if (lien) break;
+        fs::remove(dossier / NomStockage);
+        fs::create_symlink("absente.db", dossier / NomStockage);
+    }
+}
+
+TEST_F(TestAtelier, CeQuUnDepartRetire) {
+    fs::create_directory(dossier / DossierGrilles);
+    ecrire("norvane.db", "rien");  // told and set aside, so that a save makes a new one
+    for (const fs::path& sous : {fs::path(), fs::path(DossierGrilles)}) {
+        const fs::path reste = dossier / sous / ".norvane-12-3.tmp";
+        std::ofstream(reste) << "x";
+        fs::last_write_time(reste, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    }
     Atelier a(dossier);
-    EXPECT_EQ(a.base.NbTirages, 3214);
-    ASSERT_EQ(a.avertissements.size(), 1U);
-    EXPECT_TRUE(a.sauverBase()) << "nothing changed, nothing to save";
-    a.base.Tirages[0].Chance = 3;
-    EXPECT_FALSE(a.sauverBase());
-    EXPECT_TRUE(fs::is_directory(dossier / NomStockage));
+    EXPECT_TRUE(fs::is_empty(dossier / DossierGrilles));
+    EXPECT_FALSE(fs::exists(dossier / ".norvane-12-3.tmp"));
+    EXPECT_EQ(a.avertissements.size(), 1U);
+    EXPECT_TRUE(a.sauverBase());
+    EXPECT_TRUE(Atelier(dossier).avertissements.empty());
 }
 
 TEST_F(TestAtelier, RecalculApresSuppression) {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
@@ -15,6 +16,19 @@ namespace norvane {
 namespace {
 
 using Noms = std::vector<std::string>;
+namespace fs = std::filesystem;
+
+constexpr std::uint64_t Limite = 1000;
+
+/// What a child answers; -1 when a signal ended it.
+template <typename Travail>
+int dansUnEnfant(Travail travail) {
+    const pid_t enfant = ::fork();
+    if (enfant == 0) ::_exit(travail());
+    int etat = -1;
+    ::waitpid(enfant, &etat, 0);
+    return WIFEXITED(etat) ? WEXITSTATUS(etat) : -1;
+}
 
 TEST(Fichiers, EcritRemplaceEtRelit) {
     const Dossier dossier;
@@ -23,17 +37,17 @@ TEST(Fichiers, EcritRemplaceEtRelit) {
     ASSERT_TRUE(EcrireFichier(fichier, "premier"));
     ASSERT_EQ(::chmod(fichier.c_str(), 0640), 0);
     ASSERT_TRUE(EcrireFichier(fichier, binaire));
-    EXPECT_EQ(*LireFichier(fichier), binaire);
+    EXPECT_EQ(*LireFichier(fichier, Limite), binaire);
     struct stat etat {};
     ASSERT_EQ(::stat(fichier.c_str(), &etat), 0);
     EXPECT_EQ(etat.st_mode & 07777, 0640U);
 
     const auto lien = dossier / "lien.txt";
-    std::filesystem::create_symlink("liste.txt", lien);
+    fs::create_symlink("liste.txt", lien);
     ASSERT_TRUE(EcrireFichier(lien, "par le lien"));
-    EXPECT_TRUE(std::filesystem::is_symlink(lien));
+    EXPECT_TRUE(fs::is_symlink(lien));
     EXPECT_EQ(lire(fichier), "par le lien");
-    std::filesystem::create_symlink("absent.txt", dossier / "vers.txt");
+    fs::create_symlink("absent.txt", dossier / "vers.txt");
     ASSERT_TRUE(EcrireFichier(dossier / "vers.txt", "neuf"));
     EXPECT_EQ(lire(dossier / "absent.txt"), "neuf");
     EXPECT_EQ(dossier.noms(), (Noms{"absent.txt", "lien.txt", "liste.txt", "vers.txt"}));
@@ -42,22 +56,43 @@ TEST(Fichiers, EcritRemplaceEtRelit) {
 
 TEST(Fichiers, RefusLaissentTout) {
     const Dossier dossier;
-    std::filesystem::create_directory(dossier / "sous");
-    std::filesystem::create_symlink("boucle", dossier / "boucle");
+    fs::create_directory(dossier / "sous");
+    fs::create_symlink("boucle", dossier / "boucle");
     poser(dossier / "plat", "x");
     for (const auto& chemin : {dossier / "sous", dossier / "nulle/part", dossier / "plat/f",
-                               dossier / "boucle", std::filesystem::path("/dev/full")}) {
+                               dossier / "boucle", fs::path("/dev/full")}) {
         const auto ecrit = EcrireFichier(chemin, "contenu");
         ASSERT_FALSE(ecrit) << chemin;
         EXPECT_NE(ecrit.erreur().find(chemin.string()), std::string::npos) << ecrit.erreur();
-        EXPECT_FALSE(LireFichier(chemin) && chemin != "/dev/full") << chemin;
+        EXPECT_FALSE(LireFichier(chemin, Limite)) << chemin;
     }
-    EXPECT_EQ(dossier.noms(), (Noms{"boucle", "plat", "sous"}));
+    fs::create_symlink("absent", dossier / "mort");
+    const std::pair<const char*, const char*> obstacles[] = {
+        {"mort", "c'est un lien vers un fichier qui n'existe pas"},
+        {"boucle", "les liens tournent en rond"},
+        {"absent", "le fichier ou le dossier n'existe pas"},
+        {"sous", "ce nom est celui d'un dossier ou d'un appareil"},
+        {"plat", ""}};
+    for (const auto& [nom, obstacle] : obstacles) {
+        EXPECT_EQ(ObstacleLecture(dossier / nom), obstacle);
+        EXPECT_EQ(NomPresent(dossier / nom), std::string("absent") != nom) << nom;
+        if (*obstacle != '\0') {
+            EXPECT_EQ(
+                LireFichier(dossier / nom, Limite).erreur(),
+                "Impossible de lire « " + (dossier / nom).string() + " » : " + obstacle + '.');
+        }
+    }
+    EXPECT_FALSE(NomPresent(dossier / "plat/f"));
+    EXPECT_EQ(dossier.noms(), (Noms{"boucle", "mort", "plat", "sous"}));
 
     poser(dossier / "plat", "12345");
     EXPECT_EQ(*LireFichier(dossier / "plat", 5), "12345");
     EXPECT_FALSE(LireFichier(dossier / "plat", 4));
-    EXPECT_FALSE(LireFichier("/dev/zero"));
+    EXPECT_FALSE(LireFichier("/dev/zero", Limite));
+    // So large that no room could be made for it: refused before that.
+    fs::resize_file(dossier / "plat", std::uintmax_t{1} << 40);
+    EXPECT_NE(LireFichier(dossier / "plat", Limite).erreur().find("de 1000 octets"),
+              std::string::npos);
 }
 
 // The disk is full: stood in for by a limit on the size of the files of a child.
@@ -65,26 +100,89 @@ TEST(Fichiers, DisquePleinGardeLAncien) {
     const Dossier dossier;
     const auto fichier = dossier / "liste.txt";
     poser(fichier, "ancien");
-    const pid_t enfant = ::fork();
-    ASSERT_GE(enfant, 0);
-    if (enfant == 0) {
-        ::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limite{4096, 4096};
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-        ::_exit(EcrireFichier(fichier, std::string(100000, 'x')) ? 1 : 0);
-    }
-    int etat = 0;
-    ASSERT_EQ(::waitpid(enfant, &etat, 0), enfant);
-    EXPECT_EQ(etat, 0);
+    EXPECT_EQ(dansUnEnfant([&] {
+                  SurvivreAuxLimitesDeTaille();
+                  const rlimit limite{4096, 4096};
+                  ::setrlimit(RLIMIT_FSIZE, &limite);
+                  const auto ecrit = EcrireFichier(fichier, std::string(100000, 'x'));
+                  return !ecrit && ecrit.erreur().find("la taille permise") != std::string::npos;
+              }),
+              1);
     EXPECT_EQ(lire(fichier), "ancien");
     EXPECT_EQ(dossier.noms(), Noms{"liste.txt"});
+}
+
+// A file of somebody else, in a folder that both may write: the group that lets the other one in
+// stays, or nobody but the new owner gets what the group had.
+TEST(Fichiers, FichierPartageGardeSonGroupe) {
+    constexpr uid_t autre = 2002, nous = 2003;
+    constexpr gid_t groupe = 2001;
+    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can play two users";
+    for (const bool membre : {true, false}) {
+        const Dossier dossier;
+        const auto fichier = dossier / "partage.grl";
+        fs::permissions(dossier.chemin(), fs::perms::all);
+        poser(fichier, "ancien");
+        ASSERT_EQ(::chown(fichier.c_str(), autre, groupe), 0);
+        ASSERT_EQ(::chmod(fichier.c_str(), 0664), 0);
+        EXPECT_EQ(dansUnEnfant([&] {
+                      if (::setgroups(membre ? 1 : 0, &groupe) != 0 || ::setgid(nous) != 0 ||
+                          ::setuid(nous) != 0)
+                          return 2;
+                      ::umask(077);
+                      return EcrireFichier(fichier, "neuf") ? 1 : 0;
+                  }),
+                  1);
+        EXPECT_EQ(lire(fichier), "neuf");
+        struct stat etat {};
+        ASSERT_EQ(::stat(fichier.c_str(), &etat), 0);
+        EXPECT_EQ(etat.st_uid, nous);
+        EXPECT_EQ(etat.st_gid, membre ? groupe : nous);
+        EXPECT_EQ(etat.st_mode & 07777, membre ? 0664U : 0644U);
+    }
+}
+
+TEST(Fichiers, RestesDeSauvegardesTuees) {
+    const Dossier dossier;
+    const Noms gardes = {".norvane--1.tmp",   ".norvane-1-.tmp",   ".norvane-1-2.tmp~",
+                         ".norvane-1-2x.tmp", ".norvane-1.tmp",    "a.norvane-1-2.tmp",
+                         "norvane-1-2.tmp",   "norvane.db-journal"};
+    for (const std::string& nom : gardes) poser(dossier / nom.c_str(), "x");
+    for (const char* nom : {".norvane-1-2.tmp", ".norvane-4194304-10.tmp", ".norvane-7-7.tmp"})
+        poser(dossier / nom, "x");
+    fs::create_directory(dossier / ".norvane-3-3.tmp");
+    for (const std::string& nom : dossier.noms())
+        fs::last_write_time(
+            dossier / nom.c_str(),
+            fs::file_time_type::clock::now() -
+                (nom == ".norvane-7-7.tmp" ? std::chrono::hours(23) : std::chrono::hours(25)));
+    RetirerRestes(dossier.chemin());
+    Noms attendus = gardes;
+    attendus.insert(attendus.end(), {".norvane-3-3.tmp", ".norvane-7-7.tmp"});
+    std::ranges::sort(attendus);
+    EXPECT_EQ(dossier.noms(), attendus);
+    RetirerRestes(dossier / "absent");
+    // The names are those of what a killed save leaves.
+    EXPECT_EQ(dansUnEnfant([&] {
+                  ::signal(SIGXFSZ, SIG_DFL);
+                  const rlimit limite{4096, 4096};
+                  ::setrlimit(RLIMIT_FSIZE, &limite);
+                  return EcrireFichier(dossier / "tuee", std::string(100000, 'x')) ? 1 : 0;
+              }),
+              -1);
+    for (const std::string& nom : dossier.noms())
+        fs::last_write_time(dossier / nom.c_str(),
+                            fs::file_time_type::clock::now() - std::chrono::hours(25));
+    RetirerRestes(dossier.chemin());
+    std::erase(attendus, ".norvane-7-7.tmp");
+    EXPECT_EQ(dossier.noms(), attendus);
 }
 
 TEST(Configuration, LitToutesLesCles) {
     const Dossier dossier;
     const auto fichier = dossier / NomConfiguration;
     const Configuration absente(fichier);
-    EXPECT_TRUE(absente.anomalies.empty());
+    EXPECT_EQ(absente.avertissement(), "");
     EXPECT_EQ(absente.reglages.Mises, (std::array{2.2, 13.2, 46.2, 123.2, 277.2}));
 
     poser(fichier,
@@ -136,6 +234,11 @@ TEST(Configuration, NonSensPrendLeDefautEtSeNomme) {
                     "[BASE] AnciensTirages : « oui » n'est ni 0 ni 1",
                     "[INTERNET] archive : « ftp://x » n'est pas une adresse https",
                     "[INTERNET] delai : « 0 » n'est pas entre 1 et 600"}));
+    EXPECT_EQ(lue.avertissement(),
+              "Le fichier NORVANE.INI contient des valeurs inutilisables (" + lue.anomalies[0] +
+                  " ; " + lue.anomalies[1] + " ; " + lue.anomalies[2] +
+                  " ; …) : les valeurs par défaut les remplacent et le fichier reste tel quel, "
+                  "corrigez-le si besoin.");
     const Reglages defauts;
     EXPECT_EQ(lue.reglages.Mises, defauts.Mises);
     EXPECT_EQ(lue.reglages.TauxConversion, defauts.TauxConversion);
@@ -203,11 +306,17 @@ TEST(Configuration, EcrituresRefusees) {
         EXPECT_FALSE(illisible.ecrire("MONNAIE", "taux", "7"));
         EXPECT_TRUE(lire(fichier) == contenu);
     }
-    std::filesystem::remove(fichier);
-    std::filesystem::create_directory(fichier);
-    Configuration dossierNomme(fichier);
-    EXPECT_EQ(dossierNomme.anomalies.size(), 1U);
-    EXPECT_FALSE(dossierNomme.ecrire("MONNAIE", "taux", "7"));
+    for (const auto poserAutreChose :
+         {+[](const fs::path& nom) { fs::create_directory(nom); },
+          +[](const fs::path& nom) { fs::create_symlink("absent", nom); },
+          +[](const fs::path& nom) { fs::create_symlink(nom, nom); }}) {
+        fs::remove(fichier);
+        poserAutreChose(fichier);
+        Configuration illisible(fichier);
+        EXPECT_EQ(illisible.anomalies.size(), 1U);
+        EXPECT_FALSE(illisible.ecrire("MONNAIE", "taux", "7"));
+        EXPECT_EQ(dossier.noms(), Noms{NomConfiguration});
+    }
 }
 
 }  // namespace

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sqlite3.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <random>
 
 #include "base/BaseIntegree.h"
+#include "base/Fichiers.h"
 #include "base/Stockage.h"
 #include "Dossier.h"
 
@@ -171,11 +173,28 @@ TEST_F(Stockage, FichiersAbimes) {
 TEST_F(Stockage, ContenusRefuses) {
     using Cas = std::pair<const char*, const char*>;
     const char* const illisible = "son contenu n'est pas lisible";
+    const char* const etrangeres = "ses tables ne sont pas celles de Norvane";
     for (const auto& [sql, cause] : {
              Cas{"PRAGMA application_id=7", "ce n'est pas une base de Norvane"},
-             Cas{"PRAGMA user_version=0", "son contrôle d'intégrité échoue"},
-             Cas{"DROP TABLE tirages", illisible},
-             Cas{"DROP TABLE tirages; CREATE VIEW tirages AS SELECT 1 position", illisible},
+             Cas{"PRAGMA user_version=0", etrangeres},
+             Cas{"PRAGMA writable_schema=ON; UPDATE sqlite_schema SET sql='rien'", illisible},
+             Cas{"DROP TABLE tirages", etrangeres},
+             Cas{"DROP TABLE tirages; CREATE VIEW tirages AS SELECT 1 position", etrangeres},
+             Cas{"CREATE TABLE autre(x)", etrangeres},
+             Cas{"CREATE VIEW vue AS SELECT * FROM tirages", etrangeres},
+             Cas{"CREATE INDEX par_date ON tirages(date)", etrangeres},
+             Cas{"CREATE TRIGGER t AFTER DELETE ON tirages BEGIN DELETE FROM meta; END",
+                 etrangeres},
+             Cas{"ALTER TABLE tirages ADD COLUMN note TEXT", etrangeres},
+             Cas{"ALTER TABLE tirages ADD COLUMN double INTEGER AS (n1*2)", etrangeres},
+             Cas{"ALTER TABLE tirages RENAME COLUMN r9 TO r10", etrangeres},
+             Cas{"ALTER TABLE meta RENAME TO mets", etrangeres},
+             Cas{"PRAGMA writable_schema=ON; INSERT INTO sqlite_schema"
+                 " VALUES('table','v','v',0,'CREATE VIRTUAL TABLE v USING inconnu')",
+                 etrangeres},
+             Cas{"PRAGMA writable_schema=ON; UPDATE sqlite_schema SET sql=replace(sql,"
+                 "'r9 REAL NOT NULL','r9 REAL NOT NULL CHECK(r9<0)')",
+                 etrangeres},
              Cas{"DELETE FROM meta WHERE cle='NbAnciensTirages'", "une valeur manque"},
              Cas{"UPDATE meta SET valeur=4000 WHERE cle='NbAnciensTirages'", "anciens tirages"},
              Cas{"UPDATE meta SET valeur=-1 WHERE cle='NbAnciensTirages'", "anciens tirages"},
@@ -188,7 +207,7 @@ TEST_F(Stockage, ContenusRefuses) {
              Cas{"UPDATE tirages SET g1=0.5 WHERE position=5", "tirage n° 6 : g1 vaut 0.5"},
              Cas{"UPDATE tirages SET r1=9e999 WHERE position=5", "tirage n° 6 : r1 vaut inf"},
              Cas{"UPDATE tirages SET r9=r9+0.01 WHERE position=5", "sa somme de contrôle"},
-             Cas{"ALTER TABLE tirages DROP COLUMN r9", "type attendu"},
+             Cas{"ALTER TABLE tirages DROP COLUMN r9", etrangeres},
          }) {
         SCOPED_TRACE(sql);
         sauver(BaseIntegree(false));
@@ -199,6 +218,20 @@ TEST_F(Stockage, ContenusRefuses) {
         EXPECT_NE(lue.erreur().find(cause), std::string::npos) << lue.erreur();
         verifierMisDeCote(lire(fichier));
     }
+    // One record too large, and a file that ends far behind its last page.
+    sauver(BaseIntegree(false));
+    executer(fichier,
+             "PRAGMA writable_schema=ON; UPDATE sqlite_schema SET sql=sql||"
+             "replace(hex(zeroblob(40000)),'0',' ') WHERE name='meta'");
+    EXPECT_NE(LireStockage(fichier).erreur().find(illisible), std::string::npos);
+    verifierMisDeCote(lire(fichier));
+    sauver(BaseIntegree(false));
+    fs::resize_file(fichier, std::uintmax_t{1} << 40);
+    EXPECT_NE(LireStockage(fichier).erreur().find("dépasse la taille permise"), std::string::npos);
+    const BaseChargee immense = ChargerBase(dossier.chemin(), false);
+    EXPECT_FALSE(immense.laissee || immense.depuisFichier);
+    ASSERT_EQ(dossier.noms().size(), 1U);
+    fs::remove(dossier / dossier.noms()[0].c_str());
     // Saving over such a file keeps it too.
     poser(fichier, "autre chose");
     const Base base = marquee(false, 4);
@@ -216,17 +249,24 @@ TEST_F(Stockage, LaisseEnLEtat) {
     const BaseChargee recente = ChargerBase(dossier.chemin(), true);
     EXPECT_TRUE(memes(recente.base, BaseIntegree(true)));
     EXPECT_NE(recente.avertissement.find("plus récente"), std::string::npos);
+    EXPECT_TRUE(recente.laissee);
     EXPECT_FALSE(SauverBase(recente.base, fichier));
     EXPECT_TRUE(lire(fichier) == contenu);
     EXPECT_EQ(dossier.noms(), std::vector<std::string>{"norvane.db"});
-    // A folder of that name.
+    // A folder of that name, a link that leads nowhere or to itself.
     fs::remove(fichier);
     fs::create_directory(fichier);
-    const BaseChargee dossierNomme = ChargerBase(dossier.chemin(), false);
-    EXPECT_NE(dossierNomme.avertissement, "");
-    EXPECT_TRUE(memes(dossierNomme.base, BaseIntegree(false)));
-    EXPECT_FALSE(SauverBase(dossierNomme.base, fichier));
-    EXPECT_TRUE(fs::is_directory(fichier));
+    for (const char* but : {"absent.db", "norvane.db", ""}) {
+        SCOPED_TRACE(but);
+        const BaseChargee autreChose = ChargerBase(dossier.chemin(), false);
+        EXPECT_NE(autreChose.avertissement.find(" ne peut pas être lu ("), std::string::npos);
+        EXPECT_TRUE(autreChose.laissee);
+        EXPECT_TRUE(memes(autreChose.base, BaseIntegree(false)));
+        EXPECT_FALSE(SauverBase(autreChose.base, fichier));
+        EXPECT_EQ(dossier.noms(), std::vector<std::string>{"norvane.db"});
+        fs::remove(fichier);
+        if (*but != '\0') fs::create_symlink(but, fichier);
+    }
     // A folder that is not there, or a file in its place.
     poser(dossier / "plat", "x");
     for (const char* nom : {"absent", "plat"}) {
@@ -283,6 +323,22 @@ void tuer(std::mt19937& alea, unsigned limite, Travail travail) {
     int etat = 0;
     ASSERT_EQ(::waitpid(pid, &etat, 0), pid);
     ASSERT_TRUE(WIFSIGNALED(etat));
+}
+
+// The disk is full in the middle of a save: the old base stays.
+TEST_F(Stockage, DisquePleinEnSauvant) {
+    sauver(marquee(false, 1));
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+        SurvivreAuxLimitesDeTaille();
+        const rlimit limite{40000, 40000};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+        ::_exit(SauverBase(marquee(true, 2), fichier) ? 1 : 0);
+    }
+    int etat = -1;
+    ASSERT_EQ(::waitpid(pid, &etat, 0), pid);
+    EXPECT_EQ(etat, 0);
+    EXPECT_TRUE(memes(charger(false), marquee(false, 1)));
 }
 
 // A program killed while it saves, again and again: the old base or the new one is there, whole.

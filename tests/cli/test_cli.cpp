@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
+#include <cstdlib>
+#include <fstream>
 #include <iterator>
 #include <sstream>
 
@@ -45,7 +48,7 @@ class Cli : public testing::Test {
         return {statut, out.str(), err.str()};
     }
 
-    /// Refused with one line that says `dit`, and nothing printed.
+    /// Refus with one line that says `dit`, and nothing printed.
     template <typename Commande>
     void refuse(const Commande& commande, const char* dit) const {
         const Sortie sortie = lancer(commande);
@@ -178,7 +181,18 @@ TEST_F(Cli, RapportsSurLesGrilles) {
     EXPECT_EQ(Contenu(dossier), avant);
 
     poser(dossier / "NORVANE.INI", "[MONNAIE]\nsymbole=$\n");
-    EXPECT_EQ(lancer(base + "--de 5 --a 5 bilan une.grl").out, Attendu("bilan-second-dollar"));
+    const Sortie dollars = lancer(base + "--de 5 --a 5 bilan une.grl");
+    EXPECT_EQ(dollars.out, Attendu("bilan-second-dollar"));
+    EXPECT_EQ(dollars.err, "");
+    poser(dossier / "NORVANE.INI", "[MONNAIE]\nsymbole=$\ntaux=rien\n");
+    const Sortie averti = lancer(base + "--de 5 --a 5 bilan une.grl");
+    EXPECT_EQ(averti.statut, StatutFait);
+    EXPECT_EQ(averti.out, Attendu("bilan-second-dollar"));
+    EXPECT_EQ(
+        averti.err,
+        "Le fichier NORVANE.INI contient des valeurs inutilisables ([MONNAIE] taux : « rien » "
+        "n'est pas un nombre) : les valeurs par défaut les remplacent et le fichier reste tel "
+        "quel, corrigez-le si besoin.\n");
 }
 
 TEST_F(Cli, Refus) {
@@ -286,11 +300,45 @@ TEST_F(Cli, AideATousLesNiveauxEtVersion) {
 }
 
 TEST_F(Cli, SortieQuiEchoue) {
-    std::ostringstream out, err;
-    out.setstate(std::ios::badbit);
-    const Args args = {"base"};
-    EXPECT_EQ(Executer(args, out, err, dossier.chemin()), StatutRefus);
-    EXPECT_EQ(err.str(), "Les résultats n'ont pas pu être écrits sur la sortie standard.\n");
+    const std::pair<const char*, const char*> cas[] = {
+        {"base", "Les résultats n'ont pas pu être écrits sur la sortie standard.\n"},
+        {"--help", "L'aide n'a pas pu être écrite sur la sortie standard.\n"},
+        {"--version", "La version n'a pas pu être écrite sur la sortie standard.\n"}};
+    for (const auto& [commande, dit] : cas) {
+        std::ofstream out("/dev/full");  // fails when it is flushed, not before
+        std::ostringstream err;
+        const Args args = {commande};
+        EXPECT_EQ(Executer(args, out, err, dossier.chemin()), StatutRefus);
+        EXPECT_EQ(err.str(), dit);
+    }
+    // The program itself, beyond the size allowed for a file: told, not killed.
+    const std::string ligne = "cd '" + dossier.chemin().string() +
+                              "' && ulimit -f 8 && '" NORVANE_CLI "' tirages >sortie 2>erreur";
+    const int statut = std::system(ligne.c_str());
+    EXPECT_TRUE(WIFEXITED(statut) && WEXITSTATUS(statut) == StatutRefus) << statut;
+    EXPECT_EQ(lire(dossier / "erreur"), cas[0].second);
+}
+
+TEST_F(Cli, MessagesStayOnOneLine) {
+    const std::string nom = "a\nb\rc\td\x1B[31m\x7F\xC2\x9B é";
+    const std::string dit = "a\\nb\\rc\\td\\x1B[31m\\x7F\\xC2\\x9B é";
+    EXPECT_EQ(lancer(Args{nom}).err, "norvane-cli : argument inattendu « " + dit +
+                                         " »\nUsage : norvane-cli [OPTIONS] COMMANDE\n");
+    refuse(Args{"--base", nom + ".csv", "base"}, dit.c_str());
+}
+
+// A folder that the base cannot be read from: a link to nowhere, and too much.
+TEST_F(Cli, BasesOutOfReach) {
+    std::filesystem::create_symlink("absente.db", dossier / "norvane.db");
+    refuse(std::string("base"), "c'est un lien vers un fichier qui n'existe pas");
+    std::filesystem::remove(dossier / "norvane.db");
+    std::filesystem::create_symlink("norvane.db", dossier / "norvane.db");
+    refuse(std::string("base"), "les liens tournent en rond");
+    for (const char* nom : {"gros.csv", "gros.db"}) {
+        poser(dossier / nom, "");
+        std::filesystem::resize_file(dossier / nom, std::uintmax_t{1} << 40);
+        refuse(std::string("--base ") + nom + " base", "dépasse la taille permise de 67108864");
+    }
 }
 
 TEST_F(Cli, SortiesEntieresDesCommandesDeCombinaisons) {

@@ -29,11 +29,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     exiger(r.TauxConversion > 0 && r.DelaiSecondes >= 1 && r.DelaiSecondes <= 600);
     exiger(r.DecalageImprimanteBordHaut >= -50 && r.DecalageImprimanteBordHaut <= 50);
     for (const double mise : r.Mises) exiger(mise > 0);
-    exiger(*LireFichier(fichier) == contenu);
+    exiger(*LireFichier(fichier, 1 << 24) == contenu);
     if (configuration.ecrire("MONNAIE", "taux", "7.5")) {
         exiger(Configuration(fichier).reglages.TauxConversion == 7.5);
     } else {
-        exiger(*LireFichier(fichier) == contenu);
+        exiger(*LireFichier(fichier, 1 << 24) == contenu);
     }
     std::filesystem::remove(fichier);
     return 0;

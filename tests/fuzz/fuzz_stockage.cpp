@@ -28,7 +28,7 @@ std::vector<std::string> graines() {
         base.NbTirages = nombre;
         std::filesystem::remove(fichier);
         exiger(static_cast<bool>(SauverBase(base, fichier)));
-        contenus.push_back(*LireFichier(fichier));
+        contenus.push_back(*LireFichier(fichier, 1 << 24));
     }
     return contenus;
 }

@@ -1,9 +1,14 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// fuzz_<name> COUNT [FOLDER]: runs the target on its seeds, on the files of FOLDER, then on
-// COUNT random changes of them, the same ones at every run.
+// fuzz_<name> SECONDS FOLDER: runs the target on its seeds, on the files of FOLDER, then for so
+// long on random changes of them: the same ones in the same order at every run. The input that a
+// promise is broken on stays in a file of its own.
+#include <signal.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -15,7 +20,19 @@
 
 namespace {
 
+/// The input under trial, for the last words of the program.
+const std::string* enEssai = nullptr;
+
+void garderEntree(int signal) {
+    const std::string nom = "fuzz-" + std::to_string(::getpid()) + ".entree";
+    std::ofstream(nom, std::ios::binary) << *enEssai;
+    std::fprintf(stderr, "input kept in %s\n", nom.c_str());
+    ::signal(signal, SIG_DFL);
+    ::raise(signal);
+}
+
 void essayer(const std::string& entree) {
+    enEssai = &entree;
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(entree.data()), entree.size());
 }
 
@@ -54,23 +71,31 @@ std::string changer(std::string entree, const std::string& autre, std::mt19937& 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const unsigned long nombre = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 1000;
+    if (argc != 3 || !std::filesystem::is_directory(argv[2])) {
+        std::fprintf(stderr, "usage: %s SECONDS FOLDER\n", argv[0]);
+        return 2;
+    }
     std::vector<std::string> corpus = graines();
-    if (argc > 2 && std::filesystem::is_directory(argv[2])) {
-        std::set<std::filesystem::path> chemins;  // in the same order at every run
-        for (const auto& entree : std::filesystem::directory_iterator(argv[2]))
-            chemins.insert(entree.path());
-        for (const auto& chemin : chemins) {
-            std::ifstream flux(chemin, std::ios::binary);
-            corpus.emplace_back(std::istreambuf_iterator<char>(flux),
-                                std::istreambuf_iterator<char>());
-        }
+    std::set<std::filesystem::path> chemins;  // in the same order at every run
+    for (const auto& entree : std::filesystem::directory_iterator(argv[2]))
+        chemins.insert(entree.path());
+    for (const auto& chemin : chemins) {
+        std::ifstream flux(chemin, std::ios::binary);
+        corpus.emplace_back(std::istreambuf_iterator<char>(flux), std::istreambuf_iterator<char>());
     }
+    ::signal(SIGABRT, garderEntree);
     for (const std::string& entree : corpus) essayer(entree);
+
+    using Horloge = std::chrono::steady_clock;
+    const auto fin = Horloge::now() + std::chrono::seconds(std::strtol(argv[1], nullptr, 10));
     std::mt19937 alea(20240724);
-    for (unsigned long i = 0; i < nombre; ++i) {
+    unsigned long nombre = 0;
+    for (; Horloge::now() < fin; ++nombre) {
         const std::string& entree = corpus[alea() % corpus.size()];
-        essayer(changer(entree, corpus[alea() % corpus.size()], alea));
+        const std::string& autre = corpus[alea() % corpus.size()];
+        essayer(changer(entree, autre, alea));
     }
-    std::printf("%zu seeds, %lu changes\n", corpus.size(), nombre);
+    std::printf("%zu files, %zu seeds, %lu changes\n", chemins.size(), corpus.size(), nombre);
+    // A corpus that got lost must not pass for a run.
+    return chemins.empty() || nombre == 0 ? 1 : 0;
 }

@@ -68,7 +68,7 @@ inline ResultatStats OracleStats(const Presences& presences, int f, int l) {
     if (const auto& s = ecarts.dernierPlusLong; !ecarts.liste.empty())
         posEcart = s.fin == l ? s.debut : s.fin + 2;
     // A run is marked by its last draw, no run by 0. A maximum of 0 counts once.
-    return {.Sorties = static_cast<std::int16_t>(suites.total),
+    return {.Sorties = mot(suites.total),
             .Ecart = mot(finitPresent ? 0 : ecarts.longueur(0)),
             .EcartMax = mot(ecarts.plusLong),
             .NbEcartMax = mot(std::max(ecarts.nbPlusLongs, 1)),

@@ -9,6 +9,7 @@
 #include "OracleStats.h"
 #include "stats/Noyau.h"
 #include "stats/Occurrences.h"
+#include "stats/TableauStats.h"
 
 namespace norvane {
 
@@ -102,7 +103,7 @@ ListeOccurrences Attendue(const Presences& presences, Plage plage) {
 }
 
 template <std::size_t N, typename PresencesDe>
-void VerifierListes(const Base& base, Plage plage, const std::array<std::int16_t, N>& sorties,
+void VerifierListes(const Base& base, Plage plage, const Sorties<N>& sorties,
                     const std::array<ListeOccurrences, N>& listes, PresencesDe presencesDe) {
     for (std::size_t k = 0; k < N; ++k) {
         SCOPED_TRACE(k + 1);
@@ -137,6 +138,25 @@ TEST(Occurrences, ConstruitesGardeesEtRefaites) {
         EXPECT_EQ(occ.IntervalleSup, n + 1);
         EXPECT_EQ(occ.PositionNumero.size(), static_cast<std::size_t>(n + 1));
     }
+}
+
+// As many records as a base may have, all with the same numbers.
+TEST(Occurrences, NumbersThatComeOutInEachRecordOfAFullBase) {
+    const Base base = FaireBase(std::vector<Tirage>(
+        NbTiragesMax, Tirage{{3, 7, 20, 33, 41}, 2, 0, 2023001, 20230101, 1, 0}));
+    Occurrences occ;
+    ConstruireOccurrences(base, occ);
+    EXPECT_EQ(occ.SortiesNumeros[6], NbTiragesMax);
+    EXPECT_EQ(occ.SortiesChances[1], NbTiragesMax);
+    EXPECT_EQ(occ.SortiesIntervalle[40], NbTiragesMax);
+    const int dernier = NbTiragesMax - 1;
+    const std::array<int, 12> partout = {NbTiragesMax, 0, 0, 1, 1, NbTiragesMax, NbTiragesMax, 1,
+                                         NbTiragesMax, 0, 0, 0};
+    EXPECT_EQ(Valeurs(StatsIntervalle(occ.ListeNumeros[6], 0, dernier)), partout);
+    EXPECT_EQ(Valeurs(StatsJusqua(occ.ListeChances[1], dernier)), partout);
+    const LigneStats ligne = RemplirStats(GenreStats::Numeros, base, occ, 0, dernier)[6];
+    EXPECT_EQ(ligne.resultat.Sorties, NbTiragesMax);
+    EXPECT_EQ(ligne.cellules[static_cast<std::size_t>(ColonneStats::NbS)], "65534");
 }
 
 // The old records carry a Chance here, as no real one does, to tell the ranges apart.

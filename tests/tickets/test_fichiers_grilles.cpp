@@ -12,7 +12,8 @@ const std::vector<Grille> DeuxGrilles = {{2.2, {3, 14, 25, 31, 44}, {7}},
                                          {31.2, {1, 2, 3, 4, 5, 6}, {4, 10}}};
 const std::string TexteDeuxGrilles = "2\n2.2 5 3 14 25 31 44 1 7\n31.2 6 1 2 3 4 5 6 2 4 10\n";
 const LigneJoker Joker = {{1, 2, 3, 4, 5, 6, 7}, 3};
-const std::string TexteUnRecu = TexteDeuxGrilles + "1\n1 2 3 4 5 6 7 3 \n";
+const std::string TexteUnJoker = "1 2 3 4 5 6 7 3 \n";
+const std::string TexteUnRecu = TexteDeuxGrilles + "1\n" + TexteUnJoker;
 
 TEST(FichiersGrilles, TextsToTheLetterAndBack) {
     EXPECT_EQ(TexteGrilles(DeuxGrilles), TexteDeuxGrilles);
@@ -39,7 +40,7 @@ TEST(FichiersGrilles, TextsToTheLetterAndBack) {
 TEST(FichiersGrilles, Tolerated) {
     for (const char* texte :
          {"\xEF\xBB\xBF 2\r\n2.2 5 3 14 25 31 44 1 7\r\n31.2 6 1 2 3 4 5 6 2 4 10",
-          "2 2.20 5.0 3 14 25 3.1e1 44 1 7\t31.2\v6\f1 2 3 4 5 6 2 4 10\n\n \n"})
+          "2 2,20 5.0 3 14 25 3.1e1 44 1 7\t31,2\v6\f1 2 3 4 5 6 2 4 10\n\n \n"})
         EXPECT_EQ(*LireGrilles(texte), DeuxGrilles) << texte;
     EXPECT_EQ(LireRecu("0\n1\n1.9 2 3 4 5 6 7.5 3.2\n")->jokers, std::vector{Joker});
     // What nobody sells, but a hand or the safety copy of a grid in the making may hold.
@@ -71,10 +72,11 @@ TEST(FichiersGrilles, MalformedIsRefusedWithItsPlace) {
         {"1\n2.2 5 1 2 3 4 4.5 1 7\n", "pas « 4.5 »"},
         {"2\n2.2 5 1 2 3 4 5 1 7\n2.2 5 1 2 3 2 5 1 7\n",
          "ligne 3, grille 2 : un numéro (2) est répété"},
-        {"1\n2.2 5 1 2 3 4 5 2 7 7\n", "une chance (7) est répété"},
+        {"1\n2,2,0 5 1 2 3 4 5 1 7\n", "la mise est un nombre, pas « 2,2,0 »"},
+        {"1\n2.2 5 1 2 3 4,0 5 1 7\n", "un numéro est un nombre, pas « 4,0 »"},
+        {"1\n2.2 5 1 2 3 4 5 2 7 7\n", "une chance (7) est répétée"},
         {"1\n2.2 5 1 2 3 4 5 1 11\n", "une chance va de 1 à 10"},
         {"1\n2.2 5 1 2 3 4 5 1 7\n0\n", "à la ligne 3 : « 0 » est de trop à la fin"},
-        {"1\n2.2 5 1 2 3 4 5 1 1", "peut être un 10 coupé"},
     };
     const std::pair<const char*, const char*> recus[] = {
         {"0\n4000000000\n", "le nombre de Joker+ va de"},
@@ -89,10 +91,13 @@ TEST(FichiersGrilles, MalformedIsRefusedWithItsPlace) {
 }
 
 TEST(FichiersGrilles, CutAnywhereNothingWrongIsRead) {
-    for (std::size_t n = 0; n < TexteDeuxGrilles.size(); ++n) {
-        const auto lues = LireGrilles(std::string(TexteDeuxGrilles, 0, n));
-        EXPECT_TRUE(!lues || *lues == DeuxGrilles) << n;
-    }
+    // A list is whole without its last line end, so that of a last chance of 10 a 1 is whole too.
+    const std::size_t chance = TexteDeuxGrilles.rfind(' ') + 1;
+    for (std::size_t n = 0; n < chance; ++n)
+        EXPECT_FALSE(LireGrilles(std::string(TexteDeuxGrilles, 0, n))) << n;
+    EXPECT_EQ(LireGrilles(std::string(TexteDeuxGrilles, 0, chance + 1))->back().chances,
+              ChancesCochees({4, 1}));
+    EXPECT_EQ(*LireGrilles(std::string(TexteDeuxGrilles, 0, chance + 2)), DeuxGrilles);
     for (std::size_t n = 0; n < TexteUnRecu.size(); ++n) {
         const auto lu = LireRecu(std::string(TexteUnRecu, 0, n));
         EXPECT_TRUE(!lu || lu->jokers == std::vector{Joker}) << n;
@@ -121,13 +126,24 @@ TEST(FichiersGrilles, ReceiptsAreKeptByDateReplacedOrMerged) {
 
     // Refused: what stands there cannot be read, or has no room left; it stays as it is.
     const RecuDeJeu plein = {{NbGrillesMax, DeuxGrilles[0]}, {}};
-    for (const std::string& ancien : {std::string("1\n2.2 5 3 14"), TexteRecu(plein)}) {
+    const std::size_t tailleMax = std::size_t{16} << 20;
+    const std::size_t lignes = (tailleMax - 20) / TexteUnJoker.size();
+    const RecuDeJeu long_ = {{}, std::vector<LigneJoker>(lignes, Joker)};
+    for (const std::string& ancien :
+         {std::string("1\n2.2 5 3 14"), TexteRecu(plein), TexteRecu(long_)}) {
+        ASSERT_LE(ancien.size(), tailleMax);
         poser(fichier, ancien);
         const auto fait = EnregistrerRecu(trois, dossier.chemin(), 20230125, true);
         ASSERT_FALSE(fait);
         EXPECT_NE(fait.erreur().find("20230125.rdj"), std::string::npos) << fait.erreur();
-        EXPECT_EQ(lire(fichier), ancien);
+        EXPECT_TRUE(lire(fichier) == ancien);
     }
+    // What the reader would refuse is not written anew either; a link to nowhere is no free place.
+    const RecuDeJeu trop = {{}, std::vector<LigneJoker>(lignes + 2, Joker)};
+    EXPECT_FALSE(EnregistrerRecu(trop, dossier.chemin(), 20230126, true));
+    EXPECT_FALSE(std::filesystem::exists(FichierRecu(dossier.chemin(), 20230126)));
+    std::filesystem::create_symlink("absent.rdj", FichierRecu(dossier.chemin(), 20230127));
+    EXPECT_FALSE(EnregistrerRecu(trois, dossier.chemin(), 20230127, true));
 }
 
 TEST(FichiersGrilles, SafetyCopyAndFolder) {

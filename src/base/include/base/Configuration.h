@@ -55,6 +55,9 @@ class Configuration {
     /// "[MONNAIE] taux : « beaucoup » n'est pas un nombre".
     std::vector<std::string> anomalies;
 
+    /// One sentence for all anomalies, the first of them named; empty when there are none.
+    std::string avertissement() const;
+
     /// Changes one key and rewrites the file safely, all other lines kept. Refused when the file
     /// on the disk could not be read as a configuration at all.
     Resultat<Rien> ecrire(const std::string& section, const std::string& cle,

@@ -25,7 +25,7 @@ inline constexpr int NbColonnesCombinaison = 8;
 /// The draws with exactly `bons` numbers of the combination.
 struct LigneStatsCombinaison {
     int bons;
-    int NbFois;              ///< 0..65534, where resultat.Sorties is 16-bit and signed
+    int NbFois;              ///< 0..65534
     int date;                ///< yyyymmdd of the last of them, 0 for none
     ResultatStats resultat;  ///< the twelve results over the interval
     int ratioGraphique;      ///< 100 x 100 x NbFois / interval, rounded: of 10000

@@ -15,7 +15,7 @@ namespace norvane {
 /// The twelve results over records f..l. A gap counts records without the item; a run counts
 /// consecutive records with it. Positions are one-based draw numbers.
 struct ResultatStats {
-    std::int16_t Sorties;       ///< appearances inside the interval
+    std::uint16_t Sorties;      ///< appearances inside the interval
     std::uint16_t Ecart;        ///< records since the last appearance; the whole interval if none
     std::uint16_t EcartMax;     ///< longest gap, gaps at both ends included
     std::uint16_t NbEcartMax;   ///< how many gaps have that length

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -16,12 +17,16 @@ namespace norvane {
 using Occurrence = std::uint16_t;                  ///< a record index
 using ListeOccurrences = std::vector<Occurrence>;  ///< ascending, allocated exactly to size
 
+/// How often each of N elements came out: up to 65534 times, once in each record of a full base.
+template <std::size_t N>
+using Sorties = std::array<std::uint16_t, N>;
+
 struct Occurrences {
-    std::array<std::int16_t, NumeroMax> SortiesNumeros{};  ///< whole base; element k is number k+1
+    Sorties<NumeroMax> SortiesNumeros{};  ///< whole base; element k is number k+1
     std::array<ListeOccurrences, NumeroMax> ListeNumeros;
-    std::array<std::int16_t, ChanceMax> SortiesChances{};
+    Sorties<ChanceMax> SortiesChances{};
     std::array<ListeOccurrences, ChanceMax> ListeChances;
-    std::array<std::int16_t, NumeroMax> SortiesIntervalle{};  ///< over IntervalleInf..IntervalleSup
+    Sorties<NumeroMax> SortiesIntervalle{};  ///< over IntervalleInf..IntervalleSup
     std::array<ListeOccurrences, NumeroMax> ListeIntervalle;
 
     /// Per record and number: place 0..4 among the record's numbers, -1 when it is not in it.
@@ -42,13 +47,11 @@ struct Plage {
 
 // Counting and listing: one increment or one index for each number (or non-zero Chance) of each
 // record of the range. Counters are cleared first; lists are allocated exactly to the counts given.
-void CompterNumeros(const Base& base, Plage plage, std::array<std::int16_t, NumeroMax>& sorties);
-void ListerNumeros(const Base& base, Plage plage,
-                   const std::array<std::int16_t, NumeroMax>& sorties,
+void CompterNumeros(const Base& base, Plage plage, Sorties<NumeroMax>& sorties);
+void ListerNumeros(const Base& base, Plage plage, const Sorties<NumeroMax>& sorties,
                    std::array<ListeOccurrences, NumeroMax>& listes);
-void CompterChances(const Base& base, Plage plage, std::array<std::int16_t, ChanceMax>& sorties);
-void ListerChances(const Base& base, Plage plage,
-                   const std::array<std::int16_t, ChanceMax>& sorties,
+void CompterChances(const Base& base, Plage plage, Sorties<ChanceMax>& sorties);
+void ListerChances(const Base& base, Plage plage, const Sorties<ChanceMax>& sorties,
                    std::array<ListeOccurrences, ChanceMax>& listes);
 
 /// Ranges of the family: the whole base, and draws premier..dernier (one-based) of an interval.

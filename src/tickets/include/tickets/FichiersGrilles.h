@@ -42,8 +42,9 @@ std::string TexteRecu(const RecuDeJeu& recu);
 /// Reads the two forms. Refused with one sentence that says what and where: words for numbers, a
 /// text cut short, counts above NbGrillesMax or that do not fit the text, numbers or chances out of
 /// range or repeated, NaN and infinities, a stake below 0 or above a billion, something behind the
-/// end. A grid that is not sold (four numbers, no chance, ...) is taken: it is for the prize rules
-/// to say that it wins nothing. Nothing is allocated on the word of a count alone.
+/// end. The last line may lack its end; a stake may have a decimal comma. A grid that is not sold
+/// (four numbers, no chance, ...) is taken: it is for the prize rules to say that it wins nothing.
+/// Nothing is allocated on the word of a count alone.
 Resultat<std::vector<Grille>> LireGrilles(std::string_view texte);
 Resultat<RecuDeJeu> LireRecu(std::string_view texte);
 
@@ -63,7 +64,8 @@ std::filesystem::path FichierRecu(const std::filesystem::path& repertoire, int d
 std::optional<int> DateRecu(const std::filesystem::path& fichier);
 /// Writes a receipt to FichierRecu, folder made if missing. With `ajouter` the receipt that stands
 /// there comes first and this one behind it; refused, and nothing written, when it cannot be read
-/// or when both hold more than NbGrillesMax grids.
+/// or when both hold more than NbGrillesMax grids. Refused too: what the reader would refuse for
+/// its size.
 Resultat<Rien> EnregistrerRecu(const RecuDeJeu& recu, const std::filesystem::path& repertoire,
                                int date, bool ajouter);
 
