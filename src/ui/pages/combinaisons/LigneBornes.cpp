@@ -98,6 +98,7 @@ void LigneBornes::poser(const BornesAffichees& bornes) {
     inf.valeur = bornes.BorneInf;
     sup.valeur = bornes.BorneSup;
     for (Cote* cote : {&inf, &sup}) peindre(*cote, cote->saisie = cote->valeur);
+    tenir();
     poserIndice(inf.edit, indiceBorne(u"Inf"_s, bornes));
     poserIndice(sup.edit, indiceBorne(u"Sup"_s, bornes));
     ouvrirEdits();
@@ -158,17 +159,29 @@ void LigneBornes::quitter(Cote& cote) {
     if (!bornes_.calculee) return;
     const int repli = &cote == &inf ? bornes_.BorneInf : inf.valeur;
     choisir(cote, cote.saisie < bornes_.BorneInf ? repli : cote.saisie);
+    tenir();
 }
 
 void LigneBornes::deplacer(Cote& cote, int pas) {
     if (!ouverte()) return;
+    tenir();
     choisir(cote, std::clamp(cote.valeur + pas, bornes_.BorneInf, bornes_.BorneSup));
+    tenir();
 }
 
 void LigneBornes::choisir(Cote& cote, int v) {
-    Cote& autre = &cote == &inf ? sup : inf;
+    const bool basse = &cote == &inf;
+    Cote& autre = basse ? sup : inf;
     peindre(cote, cote.valeur = cote.saisie = v);
-    if (inf.valeur > sup.valeur) peindre(autre, autre.valeur = autre.saisie = v);
+    autre.valeur = autre.saisie = basse ? std::max(v, sup.propre) : std::min(v, inf.propre);
+    peindre(autre, autre.valeur);
+    if (!cote.edit->hasFocus()) tenir();
+}
+
+/// What stands holds from now on.
+void LigneBornes::tenir() {
+    inf.propre = inf.valeur;
+    sup.propre = sup.valeur;
 }
 
 void LigneBornes::peindre(const Cote& cote, int v) {

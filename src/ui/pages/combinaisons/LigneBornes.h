@@ -28,6 +28,7 @@ class LigneBornes final : public QObject {
         ChampNumero* edit;
         HautBas* hautBas;
         int valeur = 0;  ///< the bound, always within the limits
+        int propre = 0;  ///< what the bound comes back to when the other one lets it
         int saisie = 0;  ///< what is being typed; may still lie below the lower limit
     };
     Cote inf;
@@ -54,8 +55,10 @@ class LigneBornes final : public QObject {
     void saisir(Cote& cote, const QString& texte);
     void quitter(Cote& cote);
     void deplacer(Cote& cote, int pas);
-    /// `cote` takes `v`, and the other one goes along where it is passed.
+    /// `cote` takes `v`, and the other one goes along where it is passed; back, until `cote` is
+    /// left, as soon as it is not.
     void choisir(Cote& cote, int v);
+    void tenir();
     void peindre(const Cote& cote, int v);
     bool ouverte() const;
     void ouvrirEdits();
