@@ -7,11 +7,14 @@
 #include <optional>
 #include <QCalendarWidget>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
 #include <utility>
@@ -90,6 +93,43 @@ DateLue lire(const QString& texte, int enVigueur) {
     const int date = an * 10000 + mois * 100 + jour;
     if (jour > 31 || mois > 12 || !DateValide(date)) return {};
     return {date, mots.size() > An && mots.at(An).size() == 4};
+}
+
+/// A triangle in the colour of the heading's text.
+QIcon fleche(const QPalette& palette, int cote, bool gauche) {
+    QPixmap image(cote, cote);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(palette.color(QPalette::HighlightedText));
+    const double pointe = gauche ? 0.3 * cote : 0.7 * cote;
+    p.drawPolygon(QPolygonF(
+        {{cote - pointe, 0.2 * cote}, {cote - pointe, 0.8 * cote}, {pointe, 0.5 * cote}}));
+    return image;
+}
+
+/// Six whole weeks of seven days.
+QCalendarWidget* creerCalendrier(QWidget* cadre) {
+    auto* calendrier = new QCalendarWidget(cadre);
+    calendrier->setLocale(QLocale(QLocale::French, QLocale::France));
+    calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendrier->setFirstDayOfWeek(Qt::Monday);
+    // Only the marked days stand out.
+    for (const auto jour : {Qt::Saturday, Qt::Sunday}) calendrier->setWeekdayTextFormat(jour, {});
+    const QFontMetrics mesures = calendrier->fontMetrics();
+    for (const auto& nom : {u"qt_calendar_prevmonth"_s, u"qt_calendar_nextmonth"_s}) {
+        auto* bouton = calendrier->findChild<QToolButton*>(nom);
+        bouton->setIcon(fleche(calendrier->palette(), mesures.height(), nom.contains(u"prev"_s)));
+    }
+    // The view makes no day smaller than its headers allow: what is too narrow would be cut.
+    const auto* vue = calendrier->findChild<QTableView*>();
+    const int large = std::max(vue->horizontalHeader()->minimumSectionSize(),
+                               mesures.horizontalAdvance(u"00000"_s));
+    const int haut =
+        std::max(vue->verticalHeader()->minimumSectionSize(), mesures.height() + Unite);
+    calendrier->setMinimumSize(7 * large + 2 * Unite, 8 * haut + 2 * Unite);
+    return calendrier;
 }
 
 }  // namespace
@@ -210,7 +250,10 @@ bool ChampDate::taper(QChar touche) {
     const int la = partie();
     const auto devant = text().left(cursorPosition()).section(u'/', -1).size();
     const bool auBout = text().mid(cursorPosition()).startsWith(u'/');
-    if (touche.isDigit() && la == An) return devant == 4 && cursorPosition() == text().size();
+    if (touche.isDigit() && la == An && devant == 4 && cursorPosition() == text().size()) {
+        if (!isModified()) selectAll();  // behind a date that stands, another one begins
+        return isModified();
+    }
     if (auBout && (separateur || (touche.isDigit() && devant == 2))) {
         viserPartie(la + 1);
         return separateur;
@@ -274,17 +317,13 @@ void ChampDate::resizeEvent(QResizeEvent* evenement) {
 /// Made anew each time: its colours and its measures are those of the moment.
 void ChampDate::ouvrirCalendrier() {
     terminer();
+    selectAll();  // what is typed afterwards is a date of its own
     auto* cadre = new QFrame(this, Qt::Popup);
     cadre->setAttribute(Qt::WA_DeleteOnClose);
     cadre->setAttribute(Qt::WA_NoMouseReplay);  // the press that closes it must not open it again
     cadre->setObjectName(objectName() + u"Calendrier"_s);
     cadre->setFrameStyle(int{QFrame::Box} | int{QFrame::Plain});
-    auto* calendrier = new QCalendarWidget(cadre);
-    calendrier->setLocale(QLocale(QLocale::French, QLocale::France));
-    calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendrier->setFirstDayOfWeek(Qt::Monday);
-    // Only the marked days stand out.
-    for (const auto jour : {Qt::Saturday, Qt::Sunday}) calendrier->setWeekdayTextFormat(jour, {});
+    QCalendarWidget* calendrier = creerCalendrier(cadre);
     calendrier->setDateRange(enQDate(premier_), enQDate(dernier_));
     calendrier->setSelectedDate(enQDate(date_));
     marquer(*calendrier);
@@ -293,19 +332,16 @@ void ChampDate::ouvrirCalendrier() {
     const auto choisir = [this, cadre](QDate jour) {
         cadre->close();
         setText(versQt(DateCourte(enEntier(jour))));
+        selectAll();
         changer(enEntier(jour));
     };
     connect(calendrier, &QCalendarWidget::clicked, this, choisir);
     connect(calendrier, &QCalendarWidget::activated, this, choisir);
-
-    // Six weeks below their heading, each day with room for its two figures.
-    const QFontMetrics mesures = calendrier->fontMetrics();
-    const QSize grille(7 * mesures.horizontalAdvance(u"00000"_s), 8 * (mesures.height() + Unite));
-    calendrier->setMinimumSize(calendrier->sizeHint().expandedTo(grille));
     auto* dedans = new QHBoxLayout(cadre);
     dedans->setContentsMargins(1, 1, 1, 1);
     dedans->addWidget(calendrier);
     cadre->adjustSize();
+    // Below the field, or above it where the screen ends.
     const QRect ecran = screen()->availableGeometry();
     QPoint coin = mapToGlobal(QPoint(0, height()));
     if (coin.y() + cadre->height() > ecran.bottom()) {

@@ -58,7 +58,7 @@ QLayout* PaireIntervalle::creerRaccourcis(const QString& nom) {
         auto* bouton = new QPushButton(texte, this);
         bouton->setObjectName(nom + suffixe);
         bouton->setAccessibleName(indice);
-        bouton->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+        bouton->setFixedWidth(bouton->fontMetrics().horizontalAdvance(texte) + 4 * Unite);
         poserIndice(bouton, indice);
         connect(bouton, &QPushButton::clicked, this, [this, nombre] { choisirDerniers(nombre); });
         controles_ << bouton;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <QContextMenuEvent>
+#include <QFontInfo>
 #include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
@@ -69,7 +70,8 @@ void VueTableau::poserMesures() {
     int haute = 0;
     for (const ColonneTableau& c : modele_->colonnes()) {
         QFont fonte = font();
-        if (c.police > 0) fonte.setPixelSize(qRound(c.police * echelle_));
+        const int lisible = QFontInfo(fonte).pixelSize() * 85 / 100;
+        if (c.police > 0) fonte.setPixelSize(std::max(lisible, qRound(c.police * echelle_)));
         fonte.setBold(c.gras);
         // Figures have nothing below their line: rows as low as that, and more of them on show.
         const QFontMetrics mesures(fonte);
