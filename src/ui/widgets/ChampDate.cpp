@@ -172,6 +172,8 @@ void ChampDate::poserLimites(int premier, int dernier) {
 void ChampDate::poser(int date) {
     const bool tapee = date == date_ && lire(text(), date_).date == date;
     date_ = date;
+    premier_ = std::min(premier_, date);
+    dernier_ = std::max(dernier_, date);
     if (!tapee) setText(versQt(DateCourte(date)));
     montrerMots();
 }

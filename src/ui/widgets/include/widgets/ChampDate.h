@@ -28,7 +28,8 @@ class ChampDate final : public QLineEdit {
     ChampDate(const QString& nom, QWidget* parent);
 
     int date() const { return date_; }
-    /// Without a signal. A text that already gives this day is left to whoever types it.
+    /// Without a signal. A text that already gives this day is left to whoever types it. A day
+    /// outside the limits moves them.
     void poser(int date);
     /// First and last day that can be chosen.
     void poserLimites(int premier, int dernier);
