@@ -134,6 +134,8 @@ std::string EnCsv(const TableauExporte& tableau) {
         }
         texte += "\r\n";
     };
+    for (const auto& ligne : tableau.titre) ecrireLigne({ligne});
+    if (!tableau.titre.empty()) ecrireLigne({});
     ecrireLigne(tableau.entetes);
     for (const auto& ligne : tableau.lignes) ecrireLigne(ligne);
     return texte;

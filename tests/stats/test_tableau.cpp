@@ -193,7 +193,10 @@ TEST(ExportTableau, Texte) {
 
 TEST(ExportTableau, Csv) {
     EXPECT_EQ(EnCsv(Exemple),
-              "\xEF\xBB\xBFNum;Élément;EM;\r\n"
+              "\xEF\xBB\xBFStatistiques sur 2 tirages;;;\r\n"
+              "le <3> & le 5;;;\r\n"
+              ";;;\r\n"
+              "Num;Élément;EM;\r\n"
               "7;\"août; \"\"dit\"\"\";9,85;\r\n"
               "20;\"deux\nlignes\";;\r\n"
               "1;12  (02 0045);0,25;x<y\r\n");

@@ -11,7 +11,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QStatusTipEvent>
 #include <QTabWidget>
 #include <QTest>
 
@@ -22,6 +21,7 @@
 #include "shell/Aide.h"
 #include "soutien/Banc.h"
 #include "widgets/EtiquetteMode.h"
+#include "widgets/LigneEtat.h"
 #include "widgets/PlancheNumeros.h"
 #include "widgets/VueTableau.h"
 
@@ -201,6 +201,34 @@ class TestCoque final : public EssaisQt {
                  CodeFerme);
     }
 
+    /// Room for the title, lines of a readable length, and nothing of the text cut.
+    void mesuresDeLaBoite_data() {
+        QTest::addColumn<QString>("titre");
+        QTest::addColumn<QString>("detail");
+        const QString phrase = u"Le fichier « grilles.grl » ne peut pas être écrit ici. "_s;
+        QTest::newRow("bref") << u"Message"_s << u"Rien."_s;
+        QTest::newRow("titre long") << u"Effacer toutes les grilles de la sélection"_s << u""_s;
+        QTest::newRow("détail long") << u"Erreur"_s << phrase.repeated(12).trimmed();
+    }
+    void mesuresDeLaBoite() {
+        QFETCH(QString, titre);
+        QFETCH(QString, detail);
+        QTimer::singleShot(0, qApp, [&] {
+            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (boite == nullptr) qFatal("no message box");
+            const QFontMetrics mesures = boite->fontMetrics();
+            QVERIFY(boite->width() > mesures.horizontalAdvance(titre) + 4 * mesures.height());
+            if (!detail.isEmpty()) {
+                const auto* texte = boite->findChild<QLabel*>(u"qt_msgbox_informativelabel"_s);
+                const int lettres = texte->width() / mesures.averageCharWidth();
+                QVERIFY(texte->height() >= texte->heightForWidth(texte->width()));
+                QVERIFY(lettres < 80 && (detail.size() < 80 || lettres > 45));
+            }
+            boite->buttons().first()->click();
+        });
+        MessagesEcran().MessageErreur(u"Impossible."_s, titre, detail);
+    }
+
     void fermetureNormale() {
         FormeOuverte f;
         for (const int refus : {CodeFerme, CodeBouton2}) {
@@ -314,33 +342,58 @@ class TestCoque final : public EssaisQt {
         Base base = BaseIntegree(false);
         base.NbTirages = n;
         const FormeOuverte f(&base);
-        QCoreApplication::processEvents();
-        QVERIFY(f.posees.isEmpty());
-        QCOMPARE(f.de<QLabel>("PanneauIntervalle")->text().isEmpty(), n < 2);
-        if (n >= 2) QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text().toInt(), n);
-        if (n > 0) return;
-        f.forme->close();  // without a question
+        if (n >= 2) {
+            QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text().toInt(), n);
+            return;
+        }
+        // Never shown, and the loop ends at once, without a word.
+        QTimer::singleShot(5000, f.forme.get(), [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
         QVERIFY(!f.forme->isVisible() && f.posees.isEmpty());
+        QVERIFY(!f.banc.existe(NomStockage) && !f.banc.existe(NomConfiguration));
     }
 
     void indicesDansLaBarre() {
         FormeOuverte f;
-        auto* panneau = f.de<QLabel>("PanneauTexte");
+        auto* panneau = f.de<LigneEtat>("PanneauTexte");
         QPushButton bouton(f.forme.get());
         poserIndice(&bouton, u"court|long"_s);
         QCOMPARE(bouton.toolTip(), u"court"_s);
-        QStatusTipEvent indice(bouton.statusTip());
-        QCoreApplication::sendEvent(f.forme.get(), &indice);
+        const auto survoler = [&bouton] {
+            QEnterEvent entree({1, 1}, {1, 1}, {1, 1});
+            QCoreApplication::sendEvent(&bouton, &entree);
+        };
+        survoler();
         QCOMPARE(panneau->text(), u"long"_s);
+        // The hint of the control under the pointer is read as soon as it is another one.
+        bouton.show();
+        poserIndice(&bouton, u"un autre"_s);
+        QCOMPARE(panneau->text(), u"un autre"_s);
+        QEvent sortie(QEvent::Leave);
+        QCoreApplication::sendEvent(&bouton, &sortie);
+        poserIndice(&bouton, u"loin"_s);
+        QCOMPARE(panneau->text(), QString());
         // The text of work in progress keeps its place.
         auto* relais = f.forme->findChild<Relais*>();
         f.banc.atelier.activite.TraitementsEnCours = 1;
         relais->dire(u"Recherche en cours"_s);
-        QCoreApplication::sendEvent(f.forme.get(), &indice);
+        survoler();
         QCOMPARE(panneau->text(), u"Recherche en cours"_s);
+        // One line, whatever is said, and nothing of the window moves.
+        QCoreApplication::processEvents();
+        const QSize fenetre = f.forme->size();
+        const int haut = f.de<QWidget>("StatusBar1")->height();
+        relais->dire(u"deux\nlignes"_s);
+        QCOMPARE(panneau->texteVu(), u"deux lignes"_s);
+        relais->dire(u"mot "_s.repeated(300));
+        f.de<QWidget>("PanneauProgression")->show();
+        QCoreApplication::processEvents();
+        QVERIFY(panneau->texteVu().endsWith(u'…') && panneau->texteVu().startsWith(u"mot mot"_s));
+        QCOMPARE(f.forme->size(), fenetre);
+        QCOMPARE(f.de<QWidget>("StatusBar1")->height(), haut);
         relais->dire({});
-        QCoreApplication::sendEvent(f.forme.get(), &indice);
-        QCOMPARE(panneau->text(), u"long"_s);
+        survoler();
+        QCOMPARE(panneau->text(), u"loin"_s);
     }
 
     void aideGardee() {

@@ -87,9 +87,11 @@ class TestResultatsModes final : public EssaisQt {
 
         e.montrer(5);  // browsing loses nothing of it
         e.montrer(e.base().NbTirages);
-        e.presser({dedans});  // up while it is lit, and a mark is not the choice
+        e.presser({dedans});  // up, and out of the choice
         QVERIFY(!e.tenus().contains(dedans));
-        e.cliquer({u"ReInit"});
+        QVERIFY(e.texte(u"LabelMemoire"_s).endsWith(u"Choix libre : 11 + 2C"_s));
+        e.presser({dedans});
+        e.cliquer({u"ReInit"});  // what is down is taken
         QCOMPARE(e.tenus(), attendus);
         QVERIFY(e.page->ouvrir(VersTirage{7, {}}));  // from elsewhere: the choice is validated
         QCOMPARE(e.de(u"ReInit"_s)->text(), u"&Choix libre"_s);
@@ -104,23 +106,28 @@ class TestResultatsModes final : public EssaisQt {
         const Tirage& t = e.record(n - 1);
         const int allume = t.Numeros[2];
         const int gris = std::ranges::find(t.Numeros, 1) == std::end(t.Numeros) ? 1 : 48;
+        const Cases& choix = e.banc.atelier.choixLibre;
         e.presser({gris, 59});  // grey buttons are inert
-        QVERIFY(e.tenus().empty());
+        QVERIFY(e.tenus().empty() && !e.montre(u"DeSelect"_s));
         const VersTirage lien{n, Element{GenreStats::Numeros, allume}};
         for (int fois = 0; fois < 2; ++fois) {  // only if it is up
             e.page->ouvrir(lien);
             QCOMPARE(e.tenus(), std::set<int>{allume});
+            QVERIFY(e.montre(u"DeSelect"_s) && choix.numeros == Ensemble({allume}));
         }
         QCOMPARE(e.planche()->bouton(allume - 1)->police(), QColor(Qt::black));
         // It goes with the light of its number, and not before.
         for (int i = n - 2; !e.tenus().empty(); --i) {
             e.montrer(i + 1);
             QCOMPARE(!e.tenus().empty(), boutonsDe(e.record(i)).contains(allume));
+            QCOMPARE(choix.vide(), e.tenus().empty());
         }
         e.page->ouvrir(lien);
-        e.cliquer({u"ReInit", u"ReInit"});  // or with the lights
-        QVERIFY(e.tenus().empty());
-        e.selectionner(false);
+        e.presser({allume});
+        QVERIFY(choix.vide() && !e.montre(u"DeSelect"_s));
+        e.presser({allume});
+        e.selectionner(false);  // or with the lights
+        QVERIFY(e.tenus().empty() && choix.vide());
         e.page->ouvrir(lien);  // no link ticks a ticket
         QVERIFY(e.tenus().empty());
     }
@@ -137,7 +144,7 @@ class TestResultatsModes final : public EssaisQt {
         const QString sort =
             u"|&Vérifier gains|C&onsultation|&Choix libre|Tirage au sort de grilles"_s;
         const QString selection = u"Mode Sélection|"_s;
-        const QString retour = selection + u"Retour au Mode Normal"_s;
+        const QString retour = selection + u"Retour au mode Normal"_s;
         cas("normal", Normal, {}, u"+++++ +.. .-++... ++...++-++-"_s,
             u"Mode Normal|&Vérifier gains|C&onsultation|&Choix libre|Rapports du 2nd Tirage"_s);
         cas("choix", Normal, u"ReInit"_s, u"----+ +.. .-..... +.+..------"_s,
@@ -154,13 +161,15 @@ class TestResultatsModes final : public EssaisQt {
             retour + u'|' + numeros);
         cas("date", Recu, u"NormalMode RadioJoker0 Button66"_s, u"----+ ..+ .-..... -+..+------"_s,
             retour + u"|&Vérifier gains|C&onsultation|&Choix libre|Participation du Reçu de Jeu"_s);
-        const QString consultation = u"Mode Consultation|&Bilan Gains|&Terminer|&Choix libre|"_s;
+        const QString consultation =
+            u"Mode Consultation|Retour au mode Normal|&Bilan Gains|&Terminer|&Choix libre|"_s;
         const QString premier = u"Rapports du 1er Tirage"_s;
-        cas("consultation", Consultation, {}, u"+++++ +.. +-++.++ -+...+++-+-"_s,
+        cas("consultation", Consultation, {}, u"+++++ +.. +-++.++ -+..++++-+-"_s,
             consultation + premier);
-        cas("du reçu", Consultation, u"RadioButtonJeu"_s, u"+++++ +.. +-++.++ -+...++.-+-"_s,
-            u"Mode Consultation|&Vérifier gains|&Terminer|&Choix libre|"_s + premier);
-        cas("vidée", Consultation, u"SupprGrille"_s, u"+++++ +.. +--+.-- -+...++--+-"_s,
+        cas("du reçu", Consultation, u"RadioButtonJeu"_s, u"+++++ +.. +-++.++ -+..+++.-+-"_s,
+            u"Mode Consultation|Retour au mode Normal|&Vérifier gains|&Terminer|&Choix libre|"_s +
+                premier);
+        cas("vidée", Consultation, u"SupprGrille"_s, u"+++++ +.. +--+.-- -+..+++--+-"_s,
             consultation + premier);
     }
 
@@ -179,13 +188,16 @@ class TestResultatsModes final : public EssaisQt {
         for (const QString& clic : cas.clics.split(u' ', Qt::SkipEmptyParts)) e.de(clic)->click();
         QCOMPARE(imageDe(e), cas.image);
         QCOMPARE(textesDe(e), cas.textes);
+        // Of two captions with the same key, one has it.
+        const bool consulte = cas.depart == Depart::Consultation;
+        QCOMPARE(e.de(u"NormalMode"_s)->text(), u"&Terminer"_s);
+        QCOMPARE(e.de(u"NormalMode"_s)->shortcut().isEmpty(), consulte);
         if (cas.depart == Depart::Normal) return;
         // Back to the normal view: the draw, and the focus where the next entry begins.
         e.page->show();
         e.page->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(e.page.get()));
-        for (int fois = 0; fois < 2 && e.mode() != Mode::Normal; ++fois)
-            e.de(e.mode() == Mode::Selection ? u"NormalMode"_s : u"Consultation"_s)->click();
+        for (int fois = 0; fois < 2 && e.mode() != Mode::Normal; ++fois) e.cliquer({u"NormalMode"});
         QCOMPARE(e.mode(), Mode::Normal);
         QVERIFY(!e.allumes().empty() && e.tenus().empty());
         QCOMPARE(QApplication::focusWidget(), e.de(u"SelectGrilles"_s));
@@ -240,11 +252,10 @@ class TestResultatsModes final : public EssaisQt {
         // The tab key goes from left to right and down; the board is one stop, where it was left.
         e.date()->setFocus();
         QStringList tour;
-        do {  // the parts of a date are stops of their own
-            const QString nom = QApplication::focusWidget()->objectName();
-            if (tour.isEmpty() || tour.last() != nom) tour << nom;
+        do {
+            tour << QApplication::focusWidget()->objectName();
             aller(Qt::Key_Tab);
-        } while ((tour.size() == 1 || QApplication::focusWidget() != e.date()) && tour.size() < 40);
+        } while (QApplication::focusWidget() != e.date() && tour.size() < 40);
         QCOMPARE(tour.join(u' '),
                  u"DateTimePicker ComboBox3 EditTirGlob MaskEdit1 Button40 AdvStringGrid8 "
                  u"RadioButtonSimple ReInit CommunsButton VerifGains ChargerGrilles SelectGrilles "

@@ -12,6 +12,7 @@
 #include "soutien/EssaiStats.h"
 #include "stats/TableauStats.h"
 #include "widgets/Bulle.h"
+#include "widgets/ColonnesStats.h"
 
 using namespace norvane::ui::essais;
 
@@ -53,10 +54,11 @@ class TestStats final : public EssaisQt {
         // From 100..200 of 3214.
         QTest::newRow("dedans") << true << u"150"_s << 150 << 200;
         QTest::newRow("la basse tire la haute") << true << u"300"_s << 300 << 300;
-        QTest::newRow("la haute tire la basse") << false << u"50"_s << 5 << 50;
+        QTest::newRow("la haute tire la basse") << false << u"50"_s << 50 << 50;
+        QTest::newRow("la basse revient") << false << u"150"_s << 100 << 150;
         QTest::newRow("zéro") << true << u"0"_s << 1 << 200;
         QTest::newRow("zéros de tête") << true << u"007"_s << 107 << 200;  // 0 turns 1 at once
-        QTest::newRow("au-delà") << false << u"99999"_s << 9 << 3214;
+        QTest::newRow("au-delà") << false << u"99999"_s << 100 << 3214;
         QTest::newRow("basse au-delà") << true << u"99999"_s << 3214 << 3214;
         QTest::newRow("sans chiffre") << true << u"a -+.e"_s << 100 << 200;
     }
@@ -65,8 +67,7 @@ class TestStats final : public EssaisQt {
         QFETCH(QString, frappe);
         for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances}) {
             PageOuverte o(genre);
-            o.inf->poserValeur(100);
-            o.sup->poserValeur(200);
+            o.poserIntervalle(100, 200);
             const QSignalSpy remplissages(o.table->model(), &QAbstractItemModel::modelReset);
             SpinTirage* spin = basse ? o.inf : o.sup;
             PageOuverte::taper(spin, frappe);
@@ -81,6 +82,51 @@ class TestStats final : public EssaisQt {
                 LibelleIntervalle(o.banc.atelier.base, o.inf->value(), o.sup->value());
             if (chiffres) QCOMPARE(o.libelle(), versQt(libelle));
         }
+    }
+
+    /// What stands when a bound is left holds: nothing comes back from then on.
+    void borneQuittee() {
+        PageOuverte o(GenreStats::Numeros);
+        o.poserIntervalle(100, 3214);
+        PageOuverte::taper(o.sup, u"50"_s);
+        PageOuverte::taper(o.inf, u"70"_s);
+        QCOMPARE(o.sup->value(), 70);
+        PageOuverte::taper(o.inf, u"20"_s);
+        QCOMPARE(o.sup->value(), 50);
+        PageOuverte::taper(o.sup, u"80"_s);
+        QCOMPARE(o.inf->value(), 20);
+    }
+
+    void raccourcis() {
+        for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances}) {
+            PageOuverte o(genre);
+            const IntervalleStats& sien = genre == GenreStats::Numeros
+                                              ? o.banc.atelier.StatsNumeros
+                                              : o.banc.atelier.StatsChances;
+            const QString nom = o.inf->objectName();
+            const QSignalSpy remplissages(o.table->model(), &QAbstractItemModel::modelReset);
+            for (const int n : {10, 30, 100, 3214}) {
+                const QString suite = n > 100 ? u"Tout"_s : u"Derniers%1"_s.arg(n);
+                o.page->findChild<QAbstractButton*>(nom + suite)->click();
+                QCOMPARE(sien, (IntervalleStats{3215 - n, 3214}));
+                QVERIFY(o.libelle().startsWith(u"Statistiques sur %1 tirages"_s.arg(n)));
+            }
+            QCOMPARE(remplissages.size(), 4);
+            const Base petite = QuatreTirages();
+            PageOuverte p(genre, &petite);
+            p.page->findChild<QAbstractButton*>(nom + u"Derniers10"_s)->click();
+            QVERIFY(p.inf->value() == 1 && p.sup->value() == 4);
+        }
+    }
+
+    /// A taller screen shows more rows.
+    void lignesSelonLEcran() {
+        const auto visibles = [](double echelle) {
+            const VueTableau table(colonnesStats(GenreStats::Numeros), 2, echelle, nullptr);
+            return 600 * echelle / table.verticalHeader()->defaultSectionSize();
+        };
+        QVERIFY(visibles(1.28) > 30);
+        QVERIFY(visibles(1.8) > visibles(1.28) + 3);
     }
 
     /// The interval is the atelier's: other pages work over it, and are told of each change once.
@@ -116,13 +162,14 @@ class TestStats final : public EssaisQt {
             PageOuverte o(genre);
             const bool numeros = genre == GenreStats::Numeros;
             o.table->setFocus();
-            const QStringList attendus =
-                numeros ? QStringList{u"RxSpinEditStats"_s, u"RxSpinEditStats2"_s,
-                                      u"RatioNumerosGraphique"_s, u"BitBtnWithColor7"_s,
-                                      u"BitBtnWithColor6"_s}
-                        : QStringList{u"RxSpinEditStatsE"_s, u"RxSpinEditStats2E"_s,
-                                      u"RatioEtoilesGraphique"_s, u"BitBtnWithColor17"_s,
-                                      u"BitBtnWithColor19"_s};
+            QStringList attendus = {o.inf->objectName(), o.sup->objectName()};
+            for (const auto& suite :
+                 {u"Tout"_s, u"Derniers10"_s, u"Derniers30"_s, u"Derniers100"_s})
+                attendus << o.inf->objectName() + suite;
+            attendus << (numeros ? QStringList{u"RatioNumerosGraphique"_s, u"BitBtnWithColor7"_s,
+                                               u"BitBtnWithColor6"_s}
+                                 : QStringList{u"RatioEtoilesGraphique"_s, u"BitBtnWithColor17"_s,
+                                               u"BitBtnWithColor19"_s});
             for (const QString& nom : attendus) {
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
                 QCOMPARE(QApplication::focusWidget()->objectName(), nom);

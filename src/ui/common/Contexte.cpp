@@ -3,6 +3,9 @@
 
 #include "common/Contexte.h"
 
+#include <QCoreApplication>
+#include <QStatusTipEvent>
+
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
@@ -17,6 +20,11 @@ void poserIndice(QWidget* cible, const QString& indice) {
     const auto barre = indice.indexOf(u'|');
     cible->setToolTip(barre < 0 ? indice : indice.left(barre));
     cible->setStatusTip(barre < 0 ? indice : indice.mid(barre + 1));
+    // The status bar hears of a hint when the pointer comes in only.
+    if (cible->isVisible() && cible->underMouse()) {
+        QStatusTipEvent lu(cible->statusTip());
+        QCoreApplication::sendEvent(cible, &lu);
+    }
 }
 
 }  // namespace norvane::ui

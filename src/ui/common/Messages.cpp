@@ -3,9 +3,12 @@
 
 #include "common/Messages.h"
 
+#include <algorithm>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 namespace norvane::ui {
 
@@ -16,6 +19,27 @@ const QString Ok = u"OK"_s;
 const QString Annuler = u"Annuler"_s;
 const QString Oui = u"Oui"_s;
 const QString Non = u"Non"_s;
+
+constexpr int CaracteresMax = 64;  // of a line that reads well
+constexpr int LargeurMax = 1000;   // the toolkit makes no box wider,
+constexpr int MargeEcran = 480;    // nor one that leaves less of the screen
+constexpr int LargeurIcone = 160;  // the picture, the margins
+
+/// Wide enough for the title beside the buttons of its bar, and for lines of a readable length.
+void elargir(QMessageBox& boite) {
+    const QFontMetrics mesures = boite.fontMetrics();
+    QFont gras = boite.font();
+    gras.setBold(true);
+    int largeur = QFontMetrics(gras).horizontalAdvance(boite.windowTitle()) + 6 * mesures.height();
+    const int lignes = std::max(mesures.size(0, boite.text()).width(),
+                                mesures.size(0, boite.informativeText()).width());
+    largeur = std::max(largeur, std::min(lignes, CaracteresMax * mesures.averageCharWidth()));
+    const int ecran = boite.screen()->availableSize().width();
+    const int limite = std::min(ecran <= 1024 ? ecran : ecran - MargeEcran, LargeurMax);
+    auto* texte = boite.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    texte->setMinimumWidth(std::min(largeur, limite - LargeurIcone));
+}
+
 }  // namespace
 
 int Messages::MessageInfo(const QString& instruction, const QString& titre, const QString& detail) {
@@ -78,6 +102,7 @@ int MessagesEcran::poser(const DemandeMessage& demande) {
     boite.setTextFormat(Qt::PlainText);
     boite.setText(demande.instruction);
     boite.setInformativeText(demande.detail);
+    elargir(boite);
     QList<QAbstractButton*> boutons;
     for (const QString& texte : demande.boutons) {
         auto* bouton = boite.addButton(texte, QMessageBox::ActionRole);

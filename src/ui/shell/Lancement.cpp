@@ -59,7 +59,6 @@ int lancer(int argc, char** argv, const std::function<void()>& premierePeinture)
     Services services = Services::reels();
     Application app(argc, argv, *services.messages);
     QCoreApplication::setApplicationName(u"norvane"_s);
-    QGuiApplication::setApplicationDisplayName(u"Norvane"_s);
     QGuiApplication::setDesktopFileName(u"norvane"_s);
     QCoreApplication::setApplicationVersion(QLatin1StringView(NORVANE_VERSION));
     franciser(app);

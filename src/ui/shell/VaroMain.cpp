@@ -24,6 +24,7 @@
 #include "shell/Aide.h"
 #include "stats/TableauStats.h"
 #include "widgets/EtiquetteMode.h"
+#include "widgets/LigneEtat.h"
 
 namespace norvane::ui {
 
@@ -36,7 +37,7 @@ TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* ins
       instance_(instance),
       fermeture_(contexte_) {
     setObjectName(u"TVaroMainForm"_s);
-    setWindowTitle(QApplication::applicationDisplayName());
+    setWindowTitle(u"Norvane"_s);
     setWindowIcon(QIcon(u":/norvane/norvane.svg"_s));
     const Echelles echelles = Echelles::de(screen()->size());
     contexte_.Echelle = echelles.Echelle;
@@ -88,15 +89,13 @@ void TVaroMainForm::relier() {
 void TVaroMainForm::creerEtat() {
     auto* barre = statusBar();
     barre->setObjectName(u"StatusBar1"_s);
-    texteEtat_ = new QLabel(barre);
+    texteEtat_ = new LigneEtat(barre);
     texteEtat_->setObjectName(u"PanneauTexte"_s);
     texteEtat_->setContentsMargins(Unite, 0, Unite, 0);
-    // A long hint must not force the window wider.
-    texteEtat_->setMinimumWidth(1);
-    texteEtat_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     progression_ = new QProgressBar(barre);
     progression_->setObjectName(u"PanneauProgression"_s);
     progression_->setMaximumWidth(contexte_.px(140));
+    progression_->setMaximumHeight(barre->fontMetrics().height());
     progression_->setTextVisible(false);
     progression_->hide();
     intervalle_ = new QLabel(barre);
@@ -105,9 +104,16 @@ void TVaroMainForm::creerEtat() {
     barre->addWidget(texteEtat_, 1);
     barre->addPermanentWidget(progression_);
     barre->addPermanentWidget(intervalle_);
+    // Whatever comes and goes in it, the page above stays as it is.
+    barre->setFixedHeight(barre->fontMetrics().height() + 2 * Unite);
 }
 
 void TVaroMainForm::montrer() {
+    if (contexte_.atelier.base.NbTirages < 2) {
+        // Nothing can be shown of such a base: the program ends without a word.
+        QTimer::singleShot(0, this, [] { QCoreApplication::quit(); });
+        return;
+    }
     const Ouverture ouverture = ouvertureFenetre(
         versQt(contexte_.atelier.configuration.reglages.Fenetre), screen()->availableGeometry());
     setGeometry(ouverture.place);
@@ -122,11 +128,6 @@ void TVaroMainForm::showEvent(QShowEvent* evenement) {
     QMainWindow::showEvent(evenement);
     if (montree_) return;
     montree_ = true;
-    if (contexte_.atelier.base.NbTirages < 2) {
-        // Nothing can be shown of such a base: the program ends without a word.
-        QTimer::singleShot(0, this, [this] { QCoreApplication::quit(); });
-        return;
-    }
     premierAffichage();
     if (!contexte_.atelier.avertissements.empty()) {
         QTimer::singleShot(0, this, &TVaroMainForm::direAvertissements);

@@ -18,8 +18,8 @@ namespace {
 
 const QString FinIndice = u": cliquez pour trier (SHIFT+CLIC=tri secondaire)"_s;
 
-constexpr double PolicePosition = 8.0;  // points, times Echelle
-constexpr double PoliceElement = 13.0;  // points, times Echelle
+constexpr double PolicePosition = 8.0;  // pixels, times Echelle
+constexpr double PoliceElement = 13.0;  // pixels, times Echelle
 constexpr double LargeurDate = 215.0;   // design units
 
 ColonneTableau chiffres(const QString& entete, const QString& sens, double largeur,

@@ -4,6 +4,7 @@
 #include "widgets/EnteteTableau.h"
 
 #include <algorithm>
+#include <QFontInfo>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -73,7 +74,7 @@ void EnteteTableau::paintSection(QPainter* peintre, const QRect& cadre, int colo
 void EnteteTableau::peindreMarque(QPainter& p, const QRect& cadre, const QString& marque) const {
     // The arrow is drawn: not every font has one, and a borrowed one would sit off the line.
     QFont petite = police_;
-    petite.setPointSizeF(petite.pointSizeF() * 0.8);
+    petite.setPixelSize(QFontInfo(petite).pixelSize() * 8 / 10);
     const QFontMetrics mesure(petite);
     const QString rang = marque.left(1);
     const double cote = mesure.ascent() * 0.62;

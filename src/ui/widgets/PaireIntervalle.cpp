@@ -4,16 +4,23 @@
 #include "widgets/PaireIntervalle.h"
 
 #include <algorithm>
+#include <limits>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 
 #include "common/Contexte.h"
 #include "common/Theme.h"
+#include "widgets/Fiche.h"
 #include "widgets/SpinTirage.h"
 
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int ToutLaBase = std::numeric_limits<int>::max();
+}  // namespace
 
 PaireIntervalle::PaireIntervalle(const QString& nomInf, const QString& nomSup,
                                  const QString& indice, QWidget* parent)
@@ -33,24 +40,70 @@ PaireIntervalle::PaireIntervalle(const QString& nomInf, const QString& nomSup,
         poserIndice(libelle, indice);
         grille->addWidget(libelle, rang, 0);
         grille->addWidget(spin, rang++, 1);
+        controles_ << spin;
     };
     ajouter(inf_, nomInf, u"Tirage inférieur :"_s);
     ajouter(sup_, nomSup, u"Tirage supérieur :"_s);
 
-    connect(inf_, &SpinTirage::tirageChange, this, [this](int tirage) {
-        if (tirage > sup_->value()) sup_->poserValeur(tirage);
+    grille->addLayout(creerRaccourcis(nomInf), rang, 0, 1, 3);
+    relier(inf_);
+    relier(sup_);
+}
+
+QLayout* PaireIntervalle::creerRaccourcis(const QString& nom) {
+    auto* rangee = new QHBoxLayout;
+    rangee->setSpacing(Unite);
+    const auto ajouter = [&](const QString& suffixe, const QString& texte, const QString& indice,
+                             int nombre) {
+        auto* bouton = new QPushButton(texte, this);
+        bouton->setObjectName(nom + suffixe);
+        bouton->setAccessibleName(indice);
+        bouton->setFixedWidth(bouton->fontMetrics().horizontalAdvance(texte) + 4 * Unite);
+        poserIndice(bouton, indice);
+        connect(bouton, &QPushButton::clicked, this, [this, nombre] { choisirDerniers(nombre); });
+        controles_ << bouton;
+        rangee->addWidget(bouton);
+    };
+    ajouter(u"Tout"_s, u"Toute la base"_s, u"Tous les tirages de la base"_s, ToutLaBase);
+    rangee->addWidget(legende(u"Derniers :"_s, this));
+    for (const int nombre : {10, 30, 100}) {
+        ajouter(u"Derniers%1"_s.arg(nombre), QString::number(nombre),
+                u"Les %1 derniers tirages"_s.arg(nombre), nombre);
+    }
+    rangee->addStretch(1);
+    return rangee;
+}
+
+void PaireIntervalle::relier(SpinTirage* spin) {
+    connect(spin, &SpinTirage::tirageChange, this, [this, spin](int tirage) {
+        if (spin == inf_) {
+            sup_->poserValeur(std::max(tirage, propreSup_));
+        } else {
+            inf_->poserValeur(std::min(tirage, propreInf_));
+        }
+        if (!spin->hasFocus()) tenir();
         Q_EMIT intervalleChange(inf_->value(), sup_->value());
     });
-    connect(sup_, &SpinTirage::tirageChange, this, [this](int tirage) {
-        if (tirage < inf_->value()) inf_->poserValeur(tirage);
-        Q_EMIT intervalleChange(inf_->value(), sup_->value());
-    });
+    connect(spin, &QAbstractSpinBox::editingFinished, this, &PaireIntervalle::tenir);
+}
+
+/// What stands holds from now on.
+void PaireIntervalle::tenir() {
+    propreInf_ = inf_->value();
+    propreSup_ = sup_->value();
+}
+
+void PaireIntervalle::choisirDerniers(int nombre) {
+    const int dernier = sup_->maximum();
+    poser(dernier, std::max(1, dernier - nombre + 1), dernier);
+    Q_EMIT intervalleChange(inf_->value(), sup_->value());
 }
 
 void PaireIntervalle::poser(int nbTirages, int inf, int sup) {
     const int maximum = std::max(1, nbTirages);
     inf_->poser(1, maximum, inf);
     sup_->poser(1, maximum, sup);
+    tenir();
 }
 
 void PaireIntervalle::poserAttenteSaisie(bool attente) {

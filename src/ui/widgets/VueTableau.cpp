@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <QContextMenuEvent>
+#include <QFontInfo>
 #include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
@@ -69,14 +70,16 @@ void VueTableau::poserMesures() {
     int haute = 0;
     for (const ColonneTableau& c : modele_->colonnes()) {
         QFont fonte = font();
-        fonte.setPointSizeF(c.police * echelle_);
+        const int lisible = QFontInfo(fonte).pixelSize() * 85 / 100;
+        if (c.police > 0) fonte.setPixelSize(std::max(lisible, qRound(c.police * echelle_)));
         fonte.setBold(c.gras);
-        haute = std::max(haute, QFontMetrics(fonte).height());
+        // Figures have nothing below their line: rows as low as that, and more of them on show.
+        const QFontMetrics mesures(fonte);
+        haute = std::max(haute, c.police > 0 ? mesures.capHeight() + Unite : mesures.height() + 2);
         polices.push_back(fonte);
     }
-    verticalHeader()->setDefaultSectionSize(haute + 2);
+    verticalHeader()->setDefaultSectionSize(haute);
     QFont titres = font();
-    titres.setPointSizeF(ColonneTableau{}.police * echelle_);
     titres.setBold(true);
     static_cast<EnteteTableau*>(horizontalHeader())->poserPolice(titres);
     if (figees_ != nullptr) {

@@ -7,17 +7,19 @@
 #include <cmath>
 #include <initializer_list>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
+#include <QTest>
 #include <QToolButton>
 #include <set>
 
 #include "base/BaseIntegree.h"
+#include "base/Dates.h"
 #include "common/Mode.h"
 #include "resultats/PageResultats.h"
 #include "soutien/Banc.h"
+#include "widgets/ChampDate.h"
 #include "widgets/PlancheNumeros.h"
 
 namespace norvane::ui::essais {
@@ -47,7 +49,12 @@ struct Essai {
     }
     QString texte(const QString& nom) const { return de<QLabel>(nom)->text(); }
     QLineEdit* numero() const { return de<QLineEdit>(u"EditTirGlob"_s); }
-    QDateEdit* date() const { return de<QDateEdit>(u"DateTimePicker"_s); }
+    ChampDate* date() const { return de<ChampDate>(u"DateTimePicker"_s); }
+    /// Types a date, yyyymmdd, over the one that stands there.
+    void dater(int date_) const {
+        date()->selectAll();
+        QTest::keyClicks(date(), versQt(DateCourte(date_)));
+    }
     QComboBox* selecteur() const { return de<QComboBox>(u"ComboBox3"_s); }
     void montrer(int numeroTirage) const { numero()->setText(QString::number(numeroTirage)); }
     Mode mode() const { return modeEnCours(banc.atelier); }
@@ -106,7 +113,7 @@ inline QString ecartAvec(const Essai& e, int indice) {
         if (!juste) fautes << quoi;
     };
     exiger(e.numero()->text() == QString::number(indice + 1), u"numéro"_s);
-    exiger(e.date()->date().toString(u"yyyyMMdd"_s) == QString::number(t.DateTirage), u"date"_s);
+    exiger(e.date()->date() == t.DateTirage, u"date"_s);
     exiger(e.selecteur()->currentText() == (second ? u"2nd"_s : u"1er"_s), u"sélecteur"_s);
     for (int i = 0; i < NbBoules; ++i) {
         const auto* boule = e.de<QLabel>(u"Label%1"_s.arg(i + 1));

@@ -13,6 +13,7 @@
 #include "BasesEssai.h"
 #include "soutien/Banc.h"
 #include "statistiques/PageStats.h"
+#include "widgets/PaireIntervalle.h"
 #include "widgets/SpinTirage.h"
 #include "widgets/VueTableau.h"
 
@@ -46,6 +47,9 @@ struct PageOuverte {
     template <typename T>
     T* trouver(const char* nom) {
         return page->findChild<T*>(QString::fromUtf8(nom));
+    }
+    void poserIntervalle(int bas, int haut) const {
+        page->findChild<PaireIntervalle*>()->poser(banc.atelier.base.NbTirages, bas, haut);
     }
     void cliquer(const char* nom) {
         auto* bouton = trouver<QAbstractButton>(nom);

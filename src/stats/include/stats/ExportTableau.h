@@ -20,8 +20,9 @@ struct TableauExporte {
 /// in characters, not bytes). LF line ends.
 std::string EnTexte(const TableauExporte& tableau);
 
-/// RFC 4180 with `;` as separator (the decimal sign is a comma), heading first, no title,
-/// CRLF line ends, a byte order mark so that spreadsheets read the accents.
+/// RFC 4180 with `;` as separator (the decimal sign is a comma): the lines of the title, each in
+/// the first cell of its row, an empty row, the heading, the rows. CRLF line ends, a byte order
+/// mark so that spreadsheets read the accents.
 std::string EnCsv(const TableauExporte& tableau);
 
 /// A complete HTML page, for printing: title, one table, repeated heading.

@@ -30,8 +30,10 @@ constexpr auto Actif = Acces::Actif;
 constexpr auto Inactif = Acces::Inactif;
 constexpr auto Visible = true;
 constexpr auto Cache = false;
+constexpr auto SansTouche = true;
 
-constexpr const char16_t* LibelleTerminer = u"Retour au Mode Normal";
+constexpr const char16_t* RetourNormal = u"Retour au mode Normal";
+constexpr const char16_t* Terminer = u"&Terminer";
 constexpr const char16_t* IndiceVerifier =
     u"Calcul des gains pour toutes les grilles (voir le fichier \"Lotoveri.dat\")\n";
 constexpr const char16_t* IndiceBilan =
@@ -48,6 +50,7 @@ struct RegleCommande {
     Acces acces;
     const char16_t* texte = nullptr;   ///< caption; null: the control keeps its own
     const char16_t* indice = nullptr;  ///< hint; the same
+    bool sansTouche = false;           ///< the key of its caption belongs to another control
 };
 
 namespace {
@@ -107,13 +110,13 @@ constexpr auto Regles = std::to_array<RegleCommande>({
     {"DeSelect", Tous, nullptr, Cache, Actif},
     {"ProgressBarBilan", Tous, &Situation::bilanEnCours, Visible, Actif},
     {"ProgressBarBilan", Tous, nullptr, Cache, Actif},
-    {"NormalMode", EtatRecu, &Situation::versDate, Visible, Actif, nullptr,
+    {"NormalMode", EtatRecu, &Situation::versDate, Visible, Actif, Terminer,
      u"Passer à la saisie de la date de participation"},
-    {"NormalMode", EtatRecu, &Situation::versJoker, Visible, Actif, nullptr,
+    {"NormalMode", EtatRecu, &Situation::versJoker, Visible, Actif, Terminer,
      u"Passer à la saisie des Numéros Joker+"},
-    {"NormalMode", Planche | Jokers, nullptr, Visible, Actif, nullptr, LibelleTerminer},
-    {"NormalMode", Consultations, nullptr, Cache, Actif, nullptr, u"Retour au mode normal"},
-    {"NormalMode", Tous, nullptr, Cache, Actif, nullptr, LibelleTerminer},
+    {"NormalMode", Planche | Jokers, nullptr, Visible, Actif, Terminer, RetourNormal},
+    {"NormalMode", Consultations, nullptr, Visible, Actif, Terminer, RetourNormal, SansTouche},
+    {"NormalMode", Tous, nullptr, Cache, Actif, Terminer, RetourNormal},
     {"VerifGains", Tous, &Situation::bilanEnCours, Visible, Actif, u"STOP",
      u"Arrêter le bilan des gains"},
     {"VerifGains", Libres, &Situation::bilan, Visible, Actif, u"&Bilan Gains", IndiceBilan},
@@ -127,8 +130,7 @@ constexpr auto Regles = std::to_array<RegleCommande>({
     {"ButtonSauverGrilles", Tous, nullptr, Visible, Inactif},
     {"SelectGrilles", EtatNormal | Planche, nullptr, Visible, Actif},
     {"SelectGrilles", Tous, nullptr, Visible, Inactif},
-    {"Consultation", Consultations, nullptr, Visible, Actif, u"&Terminer",
-     u"Retour au mode normal"},
+    {"Consultation", Consultations, nullptr, Visible, Actif, Terminer, u"Retour au mode normal"},
     {"Consultation", EtatNormal, nullptr, Visible, Actif, u"C&onsultation",
      u"Vérification des grilles en mémoire"},
     {"Consultation", Tous, nullptr, Visible, Inactif, u"C&onsultation",
@@ -170,6 +172,7 @@ void appliquerRegle(QWidget* widget, const RegleCommande& regle) {
         const QString texte = QString::fromUtf16(regle.texte);
         if (auto* bouton = qobject_cast<QAbstractButton*>(widget); bouton != nullptr) {
             bouton->setText(texte);
+            if (regle.sansTouche) bouton->setShortcut({});
         } else {
             qobject_cast<QLabel*>(widget)->setText(texte);
         }

@@ -127,7 +127,7 @@ void PageResultats::premierAffichage() {
 
 void PageResultats::surChange(const Changement& changement) {
     if (changement.base) {
-        marques_ = {};
+        lever(marques_);
         tirage_->reprendre();
     } else if (changement.reglages) {
         montrerTirage();
@@ -159,12 +159,20 @@ void PageResultats::presser(GenreStats genre, int valeur) {
         billets_->Button1Click(genre, valeur);
         return;
     }
+    Cases& choix = contexte.atelier.choixLibre;
     if (choixEnCours_) {
-        contexte.atelier.choixLibre.basculer(genre, valeur);
+        choix.basculer(genre, valeur);
     } else if (saisie_.etat() == EtatTickets::Normal && eclairees().contient(genre, valeur)) {
-        marques_.basculer(genre, valeur);
+        choix.basculer(genre, valeur);
+        const bool marque = choix.contient(genre, valeur) || marques_.contient(genre, valeur);
+        if (marque) marques_.basculer(genre, valeur);
     }
     montrer();
+}
+
+void PageResultats::lever(Cases cases) {
+    contexte.atelier.choixLibre = contexte.atelier.choixLibre.sans(cases);
+    marques_ = marques_.sans(cases);
 }
 
 /// Presses a button that is up.
@@ -176,6 +184,7 @@ void PageResultats::appuyer(const Element& element) {
 void PageResultats::ReInitClick() {
     choixEnCours_ = !choixEnCours_;
     if (choixEnCours_) rangee_->leverCommuns();
+    marques_ = {};  // what is down at the start is chosen like the rest
     montrer();
 }
 
@@ -187,8 +196,7 @@ void PageResultats::DeSelectClick() {
     if (saisie_.surPlanche()) {
         saisie_.decocherTout();
     } else {
-        contexte.atelier.choixLibre = {};
-        marques_ = {};
+        lever(contexte.atelier.choixLibre);
     }
     montrer();
     // The button goes with the last one that it let up.
@@ -237,7 +245,7 @@ Cases PageResultats::eclairees() const {
 }
 
 Cases PageResultats::tenues() const {
-    if (saisie_.etat() == EtatTickets::Normal) return contexte.atelier.choixLibre.ecart(marques_);
+    if (saisie_.etat() == EtatTickets::Normal) return contexte.atelier.choixLibre;
     const Grille& grille = saisie_.grilleEnMain();
     return {grille.numeros.ensemble(), grille.chances.ensemble()};
 }
@@ -259,7 +267,7 @@ void PageResultats::montrerTirage() {
 void PageResultats::montrer() {
     // A mark goes with the light of its number, and with the Normal mode.
     const bool normal = etat() == EtatNormal;
-    marques_ = normal ? marques_.commun(eclairees()) : Cases{};
+    lever(normal ? marques_.sans(eclairees()) : marques_);
     planche_->eclairer(eclairees());
     planche_->tenir(tenues());
     commandes_->appliquer(situation());

@@ -42,6 +42,7 @@ class PageResultats final : public Page {
     // What the board serves besides the tickets.
     void presser(GenreStats genre, int valeur);
     void appuyer(const Element& element);
+    void lever(Cases cases);
     void ReInitClick();
     void DeSelectClick();
     void quitterChoix();
@@ -60,7 +61,7 @@ class PageResultats final : public Page {
 
     SaisieBillets& saisie_;
     bool choixEnCours_ = false;  ///< "&OK!" stands on ReInit
-    Cases marques_;              ///< lit buttons pressed in Normal mode, on top of the free choice
+    Cases marques_;              ///< what of the free choice goes up with its light
     EtatTickets etatMontre_ = EtatTickets::Normal;
 
     PanneauTirage* tirage_ = nullptr;

@@ -4,21 +4,18 @@
 #include "resultats/PanneauTirage.h"
 
 #include <algorithm>
-#include <QCalendarWidget>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QScopedValueRollback>
-#include <QTextCharFormat>
 
 #include "base/Textes.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "resultats/ChampJoker.h"
 #include "widgets/BandeTirage.h"
+#include "widgets/ChampDate.h"
 #include "widgets/ChampNumero.h"
 #include "widgets/Fiche.h"
 
@@ -28,32 +25,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QDate enQDate(int date) {
-    return QDate(date / 10000, date / 100 % 100, date % 100);
-}
-
 int enEntier(QDate date) {
     return date.year() * 10000 + date.month() * 100 + date.day();
-}
-
-QDateEdit* creerDate(QWidget* parent) {
-    auto* date = new QDateEdit(parent);
-    date->setObjectName(u"DateTimePicker"_s);
-    date->setLocale(QLocale(QLocale::French, QLocale::France));
-    date->setDisplayFormat(u"dddd d MMMM yyyy"_s);
-    date->setCalendarPopup(true);
-    date->setAccessibleName(u"Date du tirage"_s);
-    poserIndice(date, u"Sélection de tirages par date"_s);
-    QCalendarWidget* calendrier = date->calendarWidget();
-    calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendrier->setFirstDayOfWeek(Qt::Monday);
-    // Only the days of draws stand out, see marquerCalendrier.
-    calendrier->setWeekdayTextFormat(Qt::Saturday, {});
-    calendrier->setWeekdayTextFormat(Qt::Sunday, {});
-    // The longest date keeps the control from moving with each draw.
-    date->setMinimumWidth(date->fontMetrics().horizontalAdvance(u"mercredi 24 septembre 2024"_s) +
-                          54);
-    return date;
 }
 
 }  // namespace
@@ -72,7 +45,13 @@ PanneauTirage::PanneauTirage(Contexte& ctx, QWidget* parent)
 }
 
 QLayout* PanneauTirage::creerChoix(QWidget* fiche) {
-    date_ = creerDate(fiche);
+    date_ = new ChampDate(u"DateTimePicker"_s, fiche);
+    date_->setAccessibleName(u"Date du tirage"_s);
+    poserIndice(date_, u"Sélection de tirages par date"_s);
+    const Base& base = contexte_.atelier.base;
+    date_->poserMarques([&base](int date) {
+        return TirageParDate(base.Tirages, date, base.NbTirages).indice >= 0;
+    });
     selecteur_ = new QComboBox(fiche);
     selecteur_->setObjectName(u"ComboBox3"_s);
     selecteur_->addItems({u"1er"_s, u"2nd"_s});
@@ -95,7 +74,7 @@ QLayout* PanneauTirage::creerChoix(QWidget* fiche) {
 
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(3 * Unite);
-    ligne->addLayout(colonne(u"Date"_s, rangee({date_}), fiche));
+    ligne->addLayout(colonne(u"Date"_s, rangee({date_, date_->mots()}), fiche));
     ligne->addLayout(colonne(u"Tirage"_s, rangee({selecteur_}), fiche));
     ligne->addLayout(colonne(u"Numéro"_s, rangee({numero_, fleches_, surTotal_}), fiche));
     ligne->addStretch(1);
@@ -126,10 +105,13 @@ QLayout* PanneauTirage::creerBoules(QWidget* fiche) {
 }
 
 void PanneauTirage::relier() {
-    connect(date_, &QDateEdit::dateChanged, this, [this](QDate date) {
-        if (garde_) return;
-        choix_.ChoisirParDate(enEntier(date));
+    connect(date_, &ChampDate::dateChange, this, [this](int date) {
+        choix_.ChoisirParDate(date);
         montrer();
+    });
+    connect(date_, &QLineEdit::editingFinished, this, [this] {
+        // A text that gives no day takes the day on show back.
+        if (!date_->valable()) date_->poser(choix_.date());
     });
     connect(selecteur_, &QComboBox::currentIndexChanged, this, [this](int place) {
         if (garde_) return;
@@ -138,7 +120,12 @@ void PanneauTirage::relier() {
     });
     connect(numero_, &QLineEdit::textChanged, this, [this](const QString& texte) {
         if (garde_ || texte.isEmpty()) return;
-        choix_.ChoisirParNumero(texte.toInt());
+        // What is typed is the draw wanted, also after a date without one.
+        if (numero_->isModified()) {
+            choix_.montrer(texte.toInt());
+        } else {
+            choix_.ChoisirParNumero(texte.toInt());
+        }
         montrer();
     });
     connect(numero_, &QLineEdit::editingFinished, this, [this] {
@@ -155,8 +142,6 @@ void PanneauTirage::relier() {
     connect(numero_, &ChampNumero::extremite, this, [this](bool derniere) {
         montrerTirage(derniere ? contexte_.atelier.base.NbTirages : 1);
     });
-    connect(date_->calendarWidget(), &QCalendarWidget::currentPageChanged, this,
-            &PanneauTirage::marquerCalendrier);
 }
 
 void PanneauTirage::reprendre() {
@@ -171,8 +156,6 @@ void PanneauTirage::montrerTirage(int numero) {
 }
 
 void PanneauTirage::choisirDate(int date) {
-    const QDate voulue = enQDate(date);
-    if (voulue > date_->maximumDate()) date_->setMaximumDate(voulue);
     choix_.ChoisirParDate(date);
     montrer();
 }
@@ -189,8 +172,7 @@ void PanneauTirage::montrer() {
         const QString numero = tirage == nullptr ? QString() : QString::number(choix_.indice() + 1);
         // Text that is right already keeps its cursor: the user may be typing in it.
         if (numero_->text() != numero) numero_->setText(numero);
-        const QDate date = enQDate(choix_.date());
-        if (date_->date() != date) date_->setDate(date);
+        date_->poser(choix_.date());
         selecteur_->setCurrentIndex(choix_.second() ? 1 : 0);
         bande_->disposer(choix_.avecChance());
         montrerCellules();
@@ -231,30 +213,12 @@ void PanneauTirage::montrerNumeroAnnee() {
 }
 
 void PanneauTirage::poserLimites() {
-    const QScopedValueRollback garde(garde_, true);
     const Base& base = contexte_.atelier.base;
-    QDate fin = contexte_.services.horloge->aujourdhui();
+    int fin = enEntier(contexte_.services.horloge->aujourdhui());
     // A clock that runs behind the base must not hide draws.
-    if (base.NbTirages > 0) fin = std::max(fin, enQDate(base.enUsage().back().DateTirage));
-    date_->setDateRange(enQDate(DatePremierTirage), fin);
+    if (base.NbTirages > 0) fin = std::max(fin, base.enUsage().back().DateTirage);
+    date_->poserLimites(DatePremierTirage, fin);
     surTotal_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(base.NbTirages))));
-    const QCalendarWidget* calendrier = date_->calendarWidget();
-    marquerCalendrier(calendrier->yearShown(), calendrier->monthShown());
-}
-
-/// Days with a draw stand out in the calendar.
-void PanneauTirage::marquerCalendrier(int annee, int mois) {
-    QCalendarWidget* calendrier = date_->calendarWidget();
-    calendrier->setDateTextFormat(QDate(), {});
-    QTextCharFormat format;
-    format.setFontWeight(QFont::Bold);
-    format.setForeground(teintes(palette()).accent);
-    const int debut = annee * 10000 + mois * 100;
-    const auto tirages = contexte_.atelier.base.enUsage();
-    auto t = std::ranges::lower_bound(tirages, debut, {}, &Tirage::DateTirage);
-    for (; t != tirages.end() && t->DateTirage < debut + 100; ++t) {
-        calendrier->setDateTextFormat(enQDate(t->DateTirage), format);
-    }
 }
 
 }  // namespace norvane::ui

@@ -9,7 +9,6 @@
 #include "resultats/ChoixTirage.h"
 
 class QComboBox;
-class QDateEdit;
 class QHBoxLayout;
 class QLabel;
 class QLayout;
@@ -19,6 +18,7 @@ namespace norvane::ui {
 
 struct Contexte;
 class BandeTirage;
+class ChampDate;
 class ChampNumero;
 class HautBas;
 
@@ -50,14 +50,13 @@ class PanneauTirage final : public QWidget {
     void montrerCellules();
     void montrerNumeroAnnee();
     void poserLimites();
-    void marquerCalendrier(int annee, int mois);
 
     Contexte& contexte_;
     ChoixTirage choix_;
     bool garde_ = false;  ///< the controls follow the choice: what they tell is no wish
     bool communs_ = false;
 
-    QDateEdit* date_ = nullptr;
+    ChampDate* date_ = nullptr;
     QComboBox* selecteur_ = nullptr;
     ChampNumero* numero_ = nullptr;
     HautBas* fleches_ = nullptr;

@@ -221,12 +221,10 @@ QGroupBox* PageStats::construireLegende() {
 
 void PageStats::poserOrdreTabulation() {
     QWidget* precedent = table_;
-    for (QWidget* suivant :
-         {static_cast<QWidget*>(&intervalle_->controleInf()),
-          static_cast<QWidget*>(&intervalle_->controleSup()),
-          static_cast<QWidget*>(ratio_->button(Simple)),
-          static_cast<QWidget*>(ratio_->button(Graphique)), static_cast<QWidget*>(boutonSauver_),
-          static_cast<QWidget*>(boutonImprimer_)}) {
+    QList<QWidget*> suite = intervalle_->controles();
+    suite << ratio_->button(Simple) << ratio_->button(Graphique) << boutonSauver_
+          << boutonImprimer_;
+    for (QWidget* suivant : suite) {
         setTabOrder(precedent, suivant);
         precedent = suivant;
     }

@@ -25,8 +25,8 @@ struct ColonneTableau {
     QString indice;      ///< hint of the header
     double largeur = 0;  ///< design units, multiplied by Echelle
     Qt::Alignment alignement = Qt::AlignHCenter;
-    double police = 7.5;    ///< font size in points, multiplied by Echelle
-    bool gras = false;      ///< bold
+    double police = 0;  ///< of figures: font size in pixels, multiplied by Echelle; 0: the table's
+    bool gras = false;  ///< bold
     bool position = false;  ///< shows the place of the row in the sort, from 1; is never a key
     bool adaptable = true;  ///< may grow beyond `largeur` when `etalon` or the header asks for it
     QString etalon;         ///< the widest text that the column is made for
