@@ -115,8 +115,17 @@ Resultat<Rien> EnregistrerGrilles(std::span<const Grille> grilles, const fs::pat
 }
 
 Resultat<Rien> SauverGrillesSecours(std::span<const Grille> grilles, const fs::path& repertoire) {
-    return EcrireDansDossier(repertoire / DossierGrilles / NomGrillesSecours,
-                             TexteGrilles(grilles));
+    const fs::path copie = repertoire / DossierGrilles / NomGrillesSecours;
+    const std::string texte = TexteGrilles(grilles);
+    std::error_code erreur;
+    if (fs::is_regular_file(copie, erreur)) {
+        const auto ancienne = LireFichier(copie, TailleMax);
+        if (ancienne && *ancienne == texte) return Rien{};
+        if (!ancienne) return Erreur{ancienne.erreur()};
+        const fs::path garde = fs::path(copie) += "~";
+        if (auto gardee = EcrireFichier(garde, *ancienne); !gardee) return gardee;
+    }
+    return EcrireDansDossier(copie, texte);
 }
 
 fs::path FichierRecu(const fs::path& repertoire, int date) {

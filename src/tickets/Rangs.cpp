@@ -121,6 +121,14 @@ auto Chercher(const std::array<Ligne, Taille>& table, int cle)
 
 }  // namespace
 
+bool RangExiste(const Tirage& tirage, int rang) {
+    if (EstSecondTirage(tirage)) return rang < NbRangs2nd;
+    if (tirage.DateTirage < DateNouveauLoto) return false;
+    // The ranks that came with the Chance: 4N + C, 3N + C and 2N + C.
+    const bool nouveau = rang == 2 || rang == 4 || rang == 6;
+    return !nouveau || tirage.DateTirage >= DateNouveauxRangs;
+}
+
 Bons CompterBons(const Grille& grille, const Tirage& tirage) {
     return {grille.numeros.ensemble().commun(Ensemble::de(tirage.Numeros)).taille(),
             grille.chances.contient(tirage.Chance) ? 1 : 0};

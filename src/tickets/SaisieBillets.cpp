@@ -55,7 +55,7 @@ CarteGrille SaisieBillets::carte(const Base& base, int tirage) const {
     if (surPlanche()) {
         carte.avecMise = enMain_.complete();
         carte.incomplete = !carte.avecMise && !enMain_.vide();
-        carte.grille.mise = MiseGrille(enMain_.n(), enMain_.c(), option2nd_);
+        carte.grille = grilleARanger();
     } else if (enConsultation() && grille_ > 0) {
         carte.avecMise = true;
         const auto i = static_cast<std::size_t>(tirage);
@@ -74,6 +74,11 @@ int SaisieBillets::stockees() const {
     return nombre() - (!liste().empty() && liste().back().vide() ? 1 : 0);
 }
 
+/// The ticket in hand is not a ticket of the list yet.
+bool SaisieBillets::surCaseOuverte() const {
+    return grille_ == 0 || liste()[static_cast<std::size_t>(grille_ - 1)].vide();
+}
+
 void SaisieBillets::passer(EtatTickets etat) {
     etat_ = etat;
     if (enConsultation() || modeRecu_) bilan_ = enConsultation() && !modeRecu_;
@@ -89,6 +94,8 @@ void SaisieBillets::commencer(bool recu) {
         billets_.ListeRecu.clear();
         billets_.ListeJoker.clear();
         liste().clear();
+        dateRecu_ = 0;
+        recuSansFichier_ = tirageAProposer_ = option2nd_ = false;
     } else {
         CopierListe(liste(), billets_.ListeChoix);
     }
@@ -142,12 +149,25 @@ void SaisieBillets::poserOption(bool option2nd) {
     if (surPlanche()) option2nd_ = option2nd;
 }
 
+/// The ticket in hand with its stake. One that is as it stands in its place keeps the stake that it
+/// has there, which a file may tell otherwise than the price list.
+Grille SaisieBillets::grilleARanger() const {
+    if (!surCaseOuverte()) {
+        const Grille& enPlace = liste()[static_cast<std::size_t>(grille_ - 1)];
+        if (enPlace.numeros == enMain_.numeros && enPlace.chances == enMain_.chances &&
+            ParticipeAu2ndTirage(enPlace) == option2nd_) {
+            return enPlace;
+        }
+    }
+    return FaireGrille(enMain_.numeros, enMain_.chances, option2nd_);
+}
+
 /// Puts the ticket in hand and the option into place `indice`, or behind the last one; gives back
 /// the place, one-based.
 int SaisieBillets::EnregistrerGrille(std::vector<Grille>& grilles, int indice) const {
     const auto place = std::min(static_cast<std::size_t>(std::max(0, indice)), grilles.size());
     if (place == grilles.size()) NouvelleGrille(grilles, place);
-    grilles[place] = FaireGrille(enMain_.numeros, enMain_.chances, option2nd_);
+    grilles[place] = grilleARanger();
     return static_cast<int>(place) + 1;
 }
 
@@ -208,11 +228,11 @@ void SaisieBillets::tirerAuHasard(TypeGrille type, int nombre) {
     }
 }
 
-/// From the open place on. A ticket in hand that is complete comes first.
+/// From the open place on.
 void SaisieBillets::tirerLot(TypeGrille type, int voulues) {
-    if (enMain_.complete()) ranger();
+    if (enMain_.complete() && !surCaseOuverte()) ranger();
     RetirerVides(liste());
-    AjouterGrillesHasard(liste(), hasard_, type, std::min(voulues, NbGrillesMax - nombre()));
+    AjouterGrillesHasard(liste(), hasard_, type, std::min(voulues, libres()));
     AfficherGrille(nombre());
 }
 
@@ -253,6 +273,8 @@ void SaisieBillets::supprimerTout() {
             billets_.aSauver = false;
         } else {
             billets_.ListeJoker.clear();
+            dateRecu_ = 0;
+            recuSansFichier_ = tirageAProposer_ = false;
         }
     }
     AfficherGrille(0);
@@ -277,6 +299,7 @@ void SaisieBillets::terminer() {
     if (recu && !liste().empty()) {
         billets_.ListeJoker.clear();
         compteJoker_ = 0;
+        jokerRepris_.reset();
         etape_ = EtapeJoker::Compte;
         passer(EtatTickets::Joker);
     } else {
@@ -295,6 +318,7 @@ void SaisieBillets::terminerGrilles() {
     grille_ = nombre();
     if (ModeGrilles() && !ListesEgales(liste(), billets_.ListeChoix))
         billets_.aSauver = !liste().empty();
+    if (modeRecu_) recuSansFichier_ = true;
     CopierListe(source(), liste());
 }
 

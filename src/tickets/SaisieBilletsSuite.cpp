@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <unordered_set>
 
 #include "base/Dates.h"
 #include "tickets/FichiersGrilles.h"
@@ -18,6 +19,34 @@ namespace {
 Refus AucuneGrille() {
     return {Refus::Titre::Message, "Aucune grille sélectionnée...",
             "Cliquez sur le bouton Sélection afin de saisir des grilles."};
+}
+
+constexpr std::size_t NbChiffresJoker = 7;
+
+Refus JokerIncomplet(std::size_t tapes) {
+    std::string detail = "Un Numéro Joker+ a sept chiffres.";
+    if (tapes < NbChiffresJoker) {
+        const std::size_t manquants = NbChiffresJoker - tapes;
+        detail += fmt::format(" Il en manque {} : complétez-le, puis validez.", manquants);
+    }
+    return {Refus::Titre::Attention, "Erreur de saisie, Numéro Joker+...", std::move(detail)};
+}
+
+/// The tickets of `grilles` that `autres` does not hold, each counted once.
+std::vector<Grille> Difference(const std::vector<Grille>& grilles,
+                               const std::vector<Grille>& autres) {
+    const auto texte = [](const Grille& grille) { return TexteGrilles({&grille, 1}); };
+    std::unordered_multiset<std::string> connues;
+    for (const Grille& grille : autres) connues.insert(texte(grille));
+    std::vector<Grille> nouvelles;
+    for (const Grille& grille : grilles) {
+        if (const auto connue = connues.find(texte(grille)); connue != connues.end()) {
+            connues.erase(connue);
+        } else {
+            nouvelles.push_back(grille);
+        }
+    }
+    return nouvelles;
 }
 
 constexpr int NumerosDignesDEtreGardes = 3;
@@ -50,16 +79,27 @@ int SaisieBillets::jokersRestants() const {
 void SaisieBillets::choisirCompteJoker(int compte) {
     if (etat_ != EtatTickets::Joker || etape_ != EtapeJoker::Compte) return;
     compteJoker_ = compte;
+    jokerRepris_.reset();
     etape_ = compte > 0 ? EtapeJoker::Numeros : EtapeJoker::Date;
 }
 
 Reponse SaisieBillets::validerJoker(std::string_view chiffres, int mises, bool plusOuMoins) {
     if (etat_ != EtatTickets::Joker || etape_ != EtapeJoker::Numeros) return {};
     const auto lus = LireChiffresJoker(chiffres);
-    if (!lus) return Refus{Refus::Titre::Attention, "Erreur de saisie, Numéro Joker+...", {}};
+    if (!lus) return JokerIncomplet(chiffres.size());
     billets_.ListeJoker.push_back({*lus, mises + (plusOuMoins ? 2 : 0)});
+    jokerRepris_.reset();
     if (jokersRestants() <= 0) etape_ = EtapeJoker::Date;
     return {};
+}
+
+void SaisieBillets::reprendreJoker() {
+    if (etat_ != EtatTickets::Joker || etape_ == EtapeJoker::Compte) return;
+    jokerRepris_.reset();
+    etape_ = billets_.ListeJoker.empty() ? EtapeJoker::Compte : EtapeJoker::Numeros;
+    if (etape_ == EtapeJoker::Compte) return;
+    jokerRepris_ = billets_.ListeJoker.back();
+    billets_.ListeJoker.pop_back();
 }
 
 Reponse SaisieBillets::peutDater(int date) const {
@@ -81,6 +121,9 @@ Resultat<Rien> SaisieBillets::enregistrerRecu(const std::filesystem::path& reper
             CopierListe(liste(), billets_.ListeRecu);
         }
     }
+    dateRecu_ = date;
+    recuSansFichier_ = false;
+    tirageAProposer_ = true;
     grille_ = 1;
     passer(EtatTickets::Normal);
     return ecrit;
@@ -98,9 +141,13 @@ Reponse SaisieBillets::consulter() {
     return {};
 }
 
-void SaisieBillets::entrerConsultation(bool recu) {
+void SaisieBillets::prendreListe(bool recu) {
     modeRecu_ = recuVoulu_ = recu;
     CopierListe(liste(), source());
+}
+
+void SaisieBillets::entrerConsultation(bool recu) {
+    prendreListe(recu);
     passer(EtatTickets::Consultation);
     AfficherGrille(liste().empty() ? 0 : 1);
 }
@@ -108,7 +155,9 @@ void SaisieBillets::entrerConsultation(bool recu) {
 void SaisieBillets::choisirListe(bool recu) {
     if (!listeOfferte(recu)) return;
     if (etat_ == EtatTickets::Normal) {
-        recuVoulu_ = recu;
+        prendreListe(recu);
+        grille_ = nombre();
+        bilan_ = !recu;
     } else if (recu != modeRecu_) {
         entrerConsultation(recu);
     }
@@ -175,6 +224,8 @@ Resultat<Rien> SaisieBillets::ouvrirRecu(const std::filesystem::path& fichier) {
     if (!lu) return Erreur{lu.erreur()};
     billets_.ListeRecu = std::move(lu->grilles);
     billets_.ListeJoker = std::move(lu->jokers);
+    dateRecu_ = DateRecu(fichier).value_or(0);
+    recuSansFichier_ = tirageAProposer_ = false;
     entrerConsultation(true);
     return Rien{};
 }
@@ -193,9 +244,23 @@ std::vector<Grille> SaisieBillets::grillesEnCours() const {
 }
 
 std::vector<Grille> SaisieBillets::grillesSecours() const {
-    // The place in hand counts, whatever becomes of it.
-    const bool enCours = billets_.ListeChoix.empty() || (enSelection() && nombre() > 1);
-    return enCours ? grillesEnCours() : billets_.ListeChoix;
+    const auto& stock = billets_.ListeChoix;
+    std::vector<Grille> copie = billets_.aSauver ? stock : std::vector<Grille>{};
+    std::vector<Grille> suite;
+    if (surPlanche() && ModeGrilles()) {
+        std::vector<Grille> saisies = grillesEnCours();
+        suite = Difference(saisies, stock);
+        if (!billets_.aSauver && !suite.empty()) suite = std::move(saisies);
+    } else if (surPlanche()) {
+        suite = grillesEnCours();
+    } else if (recuSansFichier_) {
+        suite = billets_.ListeRecu;
+    }
+    copie.insert(copie.end(), suite.begin(), suite.end());
+    // A longer list could not be read back: what was entered last stays.
+    const auto trop = std::ssize(copie) - NbGrillesMax;
+    if (trop > 0) copie.erase(copie.begin(), copie.begin() + trop);
+    return copie;
 }
 
 }  // namespace norvane

@@ -86,6 +86,8 @@ struct Essai {
                 return saisie.choisirCompteJoker(n), "";
             case 'j':
                 return dire(saisie.validerJoker(fmt::format("{:07}", n), 2, true));
+            case 'J':
+                return saisie.reprendreJoker(), "";
             case 'v':
                 return echec(saisie.enregistrerRecu(dossier.chemin(), n, false));
             case 'V':

@@ -149,9 +149,14 @@ TEST(FichiersGrilles, ReceiptsAreKeptByDateReplacedOrMerged) {
 TEST(FichiersGrilles, SafetyCopyAndFolder) {
     const Dossier dossier;
     const auto copie = dossier.chemin() / DossierGrilles / NomGrillesSecours;
-    for (const auto& grilles : {std::vector<Grille>{}, DeuxGrilles}) {
-        ASSERT_TRUE(SauverGrillesSecours(grilles, dossier.chemin()));
-        EXPECT_EQ(*ChargerGrilles(copie), grilles);
+    // The one before stays beside it, through a copy that says the same.
+    const auto garde = dossier.chemin() / DossierGrilles / "Grlbak.grl~";
+    ASSERT_TRUE(SauverGrillesSecours({}, dossier.chemin()));
+    EXPECT_FALSE(std::filesystem::exists(garde));
+    for (int fois = 0; fois < 2; ++fois) {
+        ASSERT_TRUE(SauverGrillesSecours(DeuxGrilles, dossier.chemin()));
+        EXPECT_EQ(lire(copie), TexteDeuxGrilles);
+        EXPECT_EQ(lire(garde), "0\n");
     }
     ASSERT_TRUE(EnregistrerGrilles(DeuxGrilles, dossier / "a.grl"));
     EXPECT_EQ(lire(dossier / "a.grl"), TexteDeuxGrilles);

@@ -249,5 +249,23 @@ TEST(Montants, Texts) {
     EXPECT_EQ(LibelleMonnaie("$", true), " $");
 }
 
+TEST(RangExiste, ByTheTimeOfTheDraw) {
+    const auto rangs = [](int date, int sousTirage) {
+        Tirage tirage{};
+        tirage.DateTirage = date;
+        tirage.SousTirage = sousTirage;
+        std::string image;
+        for (int rang = 0; rang < NbRangsLoto; ++rang)
+            image += RangExiste(tirage, rang) ? '+' : '-';
+        return image;
+    };
+    EXPECT_EQ(rangs(20081004, 2), "---------");
+    EXPECT_EQ(rangs(20081006, 1), "++-+-+-++");
+    EXPECT_EQ(rangs(20170305, 1), "++-+-+-++");
+    EXPECT_EQ(rangs(20170306, 1), "+++++++++");
+    EXPECT_EQ(rangs(20191104, 1), "+++++++++");
+    EXPECT_EQ(rangs(20191104, 2), "++++-----");
+}
+
 }  // namespace
 }  // namespace norvane

@@ -82,6 +82,14 @@ TEST(SaisieBillets, Receipt) {
         {"E1 t3 f n1 x o1 s S a d1", "", "JokerCompte 1/1 _ [t3] recu[t3] choix[]"},
         {"E1 t3 f k0", "", "JokerDate 1/1 _ [t3] recu[t3] choix[]"},
         {"E1 t3 f k2 j12345", "", "JokerNumeros 1/1 _ [t3] recu[t3] choix[] J0012345x4"},
+        // Back to a number, to the one before it, to the count; from the date too.
+        {"E1 t3 f k3 j1 j2 J j3", "",
+         "JokerNumeros 1/1 _ [t3] recu[t3] choix[] J0000001x4 "
+         "J0000003x4"},
+        {"E1 t3 f k2 j1 j2 J J", "", "JokerNumeros 1/1 _ [t3] recu[t3] choix[]"},
+        {"E1 t3 f k2 j1 J J k0 J J", "", "JokerCompte 1/1 _ [t3] recu[t3] choix[]"},
+        // The option 2nd Tirage is that of this receipt alone.
+        {"E1 o1 t3 a t4 f k0 v20240805 E1 t5", "", "Recu 1/1 9.8.7.6.5+6@0 [_] recu[] choix[]"},
         {"E1 t3 f k1 j9876543", "", "JokerDate 1/1 _ [t3] recu[t3] choix[] J9876543x4"},
         {"E1 t3 f k1 j12345678", "Erreur de saisie, Numéro Joker+...",
          "JokerNumeros 1/1 _ [t3] recu[t3] choix[]"},
@@ -112,11 +120,15 @@ TEST(SaisieBillets, ConsultationCopyAndFiles) {
         {"E0 t3 a t4 f C d9", "", "Consultation 2/2 t4 [t3 t4] recu[] choix[t3 t4]*"},
         {"E0 t3 a o1 t4 f C d2 f", "", "Normal 2/2 _ 2nd [t3 t4'] recu[] choix[t3 t4']*"},
         // One list only: that one, whatever was wished.
+        {"E0 t3 f l1", "", "Normal 0/0 _ [] recu[] choix[t3]*"},
         {"E0 t3 f l1 C", "", "Consultation 1/1 t3 [t3] recu[] choix[t3]*"},
         {"E0 t3 f E1 t4 Q l0 C", "", "Consultation 1/1 t3 [t3] recu[t4] choix[t3]*"},
         {"E0 t3 f E1 t4 Q C", "", "Consultation 1/1 t4 [t4] recu[t4] choix[t3]*"},
         {"E1 t4 Q E0 t3 f C l1", "", "Consultation 1/1 t4 [t4] recu[t4] choix[t3]*"},
         {"E0 t3 f C l1", "", "Consultation 1/1 t3 [t3] recu[] choix[t3]*"},
+        // Chosen in Normal: what the reports take from then on.
+        {"E0 t3 f E1 t4 a t5 f k0 v20300102 l0", "", "Normal 1/1 _ [t3] recu[t4 t5] choix[t3]*"},
+        {"E1 t4 a t5 f k0 v20300102 E0 t3 f l1", "", "Normal 2/2 _ [t4 t5] recu[t4 t5] choix[t3]*"},
         // What is deleted here is deleted for good.
         {"E0 t3 a t4 f w C s", "", "Consultation 1/1 t4 [t4] recu[] choix[t4]*"},
         {"E0 t3 a t4 f w C d2 s", "", "Consultation 1/1 t3 [t3] recu[] choix[t3]*"},
@@ -188,7 +200,8 @@ TEST(SaisieBillets, WhatIsAskedBefore) {
         {"E0 t3 f", false, true, true, true},    {"C", true, true, false, true},
         {"f", true, true, true, true},           {"E0", true, true, false, false},
         {"f E1 t4", false, false, false, false}, {"f", false, false, false, false},
-        {"f l0 C", true, true, true, true},      {"l1", false, false, true, true},
+        {"f l0", true, true, true, true},        {"l1", false, false, true, true},
+        {"l0 C", true, true, true, true},        {"l1", false, false, true, true},
         {"f E0 f", false, true, true, true},     {"C S", true, true, true, false},
     };
     Essai b;
@@ -282,19 +295,65 @@ TEST(SaisieBillets, RandomTickets) {
     EXPECT_EQ(e.saisie.grilleEnMain().numeros, TirerGrille(hasard, {5, 1}).numeros);
     EXPECT_EQ(e.saisie.nombre(), 1);
     EXPECT_TRUE(e.billets.ListeGrilles[0].vide());
-    // The one in hand is kept, the batch follows and its last ticket shows; without the option.
+    EXPECT_TRUE(e.saisie.enMainPerdue());
+    // A batch takes the open place; the ticket in hand is kept when it was added before.
     const Grille enMain = e.saisie.grilleEnMain();
     std::vector<Grille> attendues = {FaireGrille(enMain.numeros, enMain.chances, true)};
     AjouterGrillesHasard(attendues, hasard, {5, 1}, 3);
-    e.jouer("h3");
+    e.jouer("a h3");
     EXPECT_EQ(e.billets.ListeGrilles, attendues);
     EXPECT_EQ(e.saisie.grilleEnMain(), attendues.back());
     EXPECT_EQ(e.saisie.grille(), 4);
-    EXPECT_FALSE(e.saisie.option2nd());
-    // None: the open place goes, what is not whole with it.
-    e.jouer("a n1 h0");
-    EXPECT_EQ(e.billets.ListeGrilles, attendues);
-    EXPECT_EQ(e.saisie.grille(), 4);
+    EXPECT_FALSE(e.saisie.option2nd() || e.saisie.enMainPerdue());
+    // None: the open place goes, and the ticket on it.
+    for (const char* rien : {"a n1 h0", "a t3 h0"}) {
+        e.jouer(rien);
+        EXPECT_EQ(e.billets.ListeGrilles, attendues);
+        EXPECT_EQ(e.saisie.grille(), 4);
+    }
+    // One that has its place goes there before the batch.
+    e.jouer("d1 t3 o0 h2");
+    EXPECT_EQ(e.saisie.nombre(), 6);
+    EXPECT_EQ(e.billets.ListeGrilles[0], Ticket(3));
+}
+
+TEST(SaisieBillets, RoomForRandomTickets) {
+    Essai e;
+    const auto places = [&e](const char* evenements) {
+        e.jouer(evenements);
+        return std::pair(e.saisie.reste(), e.saisie.libres());
+    };
+    EXPECT_EQ(places("E0"), std::pair(9999, 9999));
+    EXPECT_EQ(places("h2"), std::pair(9998, 9997));
+    EXPECT_EQ(places("a"), std::pair(9997, 9997));
+    e.jouer("S f");
+    e.billets.ListeChoix.assign(NbGrillesMax - 2, Ticket(1));
+    EXPECT_EQ(places("E0"), std::pair(2, 2));
+    EXPECT_EQ(places("h3"), std::pair(1, 0));
+    EXPECT_EQ(e.saisie.nombre(), NbGrillesMax);
+}
+
+// A stake that a file tells otherwise than the price list stays while nothing else changes.
+TEST(SaisieBillets, AnUnchangedTicketKeepsItsStake) {
+    const Grille lue{2.5, {3, 14, 25, 31, 44}, {7}};
+    const struct {
+        const char* evenements;
+        double mise;
+        bool changee;
+    } cas[] = {
+        {"d1 d2 d1 f", 2.5, false},         {"d1 n3 n3 d2 f", 3.0, true},
+        {"d1 o0 o1 d2 f", 2.5, false},      {"d1 o0 d2 f", 2.2, true},
+        {"d1 n44 n44 c7 c7 f", 2.5, false}, {"d1 n44 n45 d2 f", 3.0, true},
+    };
+    for (const auto& c : cas) {
+        Essai e;
+        e.billets.ListeChoix = {lue, Ticket(4)};
+        e.jouer("E0 s d1");
+        EXPECT_EQ(e.saisie.carte(Base{}, -1).grille, lue);
+        e.jouer(c.evenements);
+        EXPECT_EQ(e.billets.ListeChoix[0].mise, c.mise) << c.evenements;
+        EXPECT_EQ(e.billets.aSauver, c.changee) << c.evenements;
+    }
 }
 
 TEST(SaisieBillets, CardOfTheTicketOnShow) {
@@ -331,19 +390,32 @@ TEST(SaisieBillets, WhatTheSafetyCopyTakes) {
     } cas[] = {
         {"", ""},
         {"E0 t3 f", "t3"},
+        {"E0 t3 f C", "t3"},
+        // What a file holds is not copied, were it looked at or entered anew, until it changes.
+        {"E0 t3 f w", ""},
+        {"E0 t3 a t4 f w g f E0 s d1 d2", ""},
+        {"E0 t3 a t4 f w E0 s t4 d1 s", ""},
+        {"E0 t3 a t4 f w C s", "t4"},
+        {"E0 t3 f w E0 t4", "t3 t4"},
+        {"E0 t3 a t3 f w E0 t3", "t3 t3 t3"},
+        // The stock, then what is being entered.
+        {"E0 t3 f E0 t4", "t3 t4"},
+        {"E0 t3 f E0 S t4", "t3 t4"},
+        {"E0 t3 f E1 t4 a t5", "t3 t4 t5"},
+        {"E0 t3 f E1 t4 a t5 f k0", "t3 t4 t5"},
+        {"E0 t3 f w E1 t4", "t4"},
+        // A receipt without its file.
         {"E1 t3 f f", "t3"},
-        {"E0 t3 f E1 t4 f f", "t3"},
-        {"E0 t3 f E1 t4", "t3"},    // the place in hand is the only one
-        {"E0 t3 f E1 t4 a", "t4"},  // two places, of which one stays
+        {"E1 t3 f k0 v20240805", ""},
+        {"E1 t3 f f E1", ""},
+        {"E1 t3 f k0 v20240805 r20240805", ""},
+        {"E1 t3 f f C S", ""},
+        // The ticket in hand as it stands, from three numbers on.
         {"E0 n1 n2", ""},
-        {"E0 n1 n2 n3", "1.2.3+@1"},  // as it stands
+        {"E0 n1 n2 n3", "1.2.3+@1"},
         {"E0 t3 a n1 n2", "t3"},
         {"E0 t3 a t4 d1 x n1", "t3 t4"},  // not the last one: its place is as it was
         {"E0 t3 a t4", "t3 t4"},
-        {"E0 t3 f E0 t4", "t3 t4"},
-        {"E0 t3 f E0 S t4", "t3"},
-        {"E0 t3 f C", "t3"},
-        {"E0 t3 f E1 t4 a t5 f k0", "t4 t5"},
     };
     for (const auto& c : cas) {
         Essai e;
@@ -352,6 +424,14 @@ TEST(SaisieBillets, WhatTheSafetyCopyTakes) {
         EXPECT_EQ(Dire(e.saisie.grillesSecours()), c.copie) << c.evenements;
         EXPECT_EQ(e.etat(), avant) << "closing may still be refused";
     }
+    // No more than can be read back; what was entered last stays.
+    Essai e;
+    e.billets.ListeChoix.assign(NbGrillesMax, Ticket(1));
+    e.billets.aSauver = true;
+    e.jouer("E1 t3 a t4 f f");
+    const auto copie = e.saisie.grillesSecours();
+    ASSERT_EQ(copie.size(), std::size_t{NbGrillesMax});
+    EXPECT_EQ(copie.back(), Ticket(4));
 }
 
 TEST(SaisieBillets, AFileThatFailsChangesNothing) {
@@ -371,11 +451,34 @@ TEST(SaisieBillets, AFileThatFailsChangesNothing) {
     EXPECT_EQ(lire(FichierRecu(e.dossier.chemin(), 20240805)), "1\n2.2 5 9 8 7 6 5 1 6\n0\n");
 }
 
+TEST(SaisieBillets, TheDateOfAReceiptAndItsDraw) {
+    const struct {
+        const char* evenements;
+        int date;
+        bool proposer;
+    } etapes[] = {
+        {"E1 t3 f f", 0, false},          {"E1 t3 f k0 v20240805", 20240805, true},
+        {"C f E0 t4 f", 20240805, true},  {"E1 x", 0, false},
+        {"f r20240805", 20240805, false}, {"S", 0, false},
+    };
+    Essai e;
+    for (const auto& etape : etapes) {
+        e.jouer(etape.evenements);
+        EXPECT_EQ(e.saisie.dateRecu(), etape.date) << etape.evenements;
+        EXPECT_EQ(e.saisie.tirageAProposer(), etape.proposer) << etape.evenements;
+    }
+    e.jouer("f E1 t3 f k0 v20240805");
+    e.saisie.tirageEstPropose();
+    EXPECT_FALSE(e.saisie.tirageAProposer());
+}
+
 TEST(SaisieBillets, JokerAndDates) {
     Essai e;
     e.jouer("E1 t3 f k4");
     for (const char* faux : {"", "123456", "12345678", "123456 ", "1.3.4.5", "-123456", "12345a7"})
         EXPECT_TRUE(e.saisie.validerJoker(faux, 1, false)) << faux;
+    EXPECT_EQ(e.saisie.validerJoker("12345", 1, false)->detail,
+              "Un Numéro Joker+ a sept chiffres. Il en manque 2 : complétez-le, puis validez.");
     EXPECT_EQ(e.saisie.jokersRestants(), 4);
     for (const bool option : {false, true})
         for (const int mises : {1, 2}) e.saisie.validerJoker("0918273", mises, option);
@@ -386,6 +489,11 @@ TEST(SaisieBillets, JokerAndDates) {
     EXPECT_EQ(e.saisie.etape(), EtapeJoker::Date);
     EXPECT_EQ(e.saisie.compteJoker(), 4);
     EXPECT_EQ(e.saisie.jokersRestants(), 0);
+    e.jouer("J");
+    EXPECT_EQ(e.saisie.jokerRepris()->code, 4);
+    EXPECT_EQ(e.saisie.jokersRestants(), 1);
+    e.jouer("j1");
+    EXPECT_FALSE(e.saisie.jokerRepris());
     // Monday 26 February 2024 to Sunday 3 March.
     const std::pair<int, int> prochains[] = {
         {20240226, 20240226}, {20240227, 20240228}, {20240228, 20240228}, {20240229, 20240302},

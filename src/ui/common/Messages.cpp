@@ -88,8 +88,13 @@ int Messages::AvertissementAnnuler(const QString& instruction, const QString& ti
 }
 
 int Messages::AvertissementOuiNon(const QString& instruction, const QString& titre,
-                                  const QString& detail) {
-    return poser({IconeMessage::Avertissement, instruction, titre, detail, {Oui, Non}});
+                                  const QString& detail, BoutonPropose propose) {
+    return poser({IconeMessage::Avertissement,
+                  instruction,
+                  titre,
+                  detail,
+                  {Oui, Non},
+                  propose == BoutonPropose::Oui ? 0 : 1});
 }
 
 int MessagesEcran::poser(const DemandeMessage& demande) {

@@ -19,7 +19,8 @@ class DialoguesFichiersEcran final : public DialoguesFichiers {
  public:
     QString enregistrer(QWidget* parent, const QString& titre, const QString& nomPropose,
                         const QString& filtres, QString& filtreChoisi) override {
-        return QFileDialog::getSaveFileName(parent, titre, nomPropose, filtres, &filtreChoisi);
+        return QFileDialog::getSaveFileName(parent, titre, nomPropose, filtres, &filtreChoisi,
+                                            QFileDialog::DontConfirmOverwrite);
     }
     QString ouvrir(QWidget* parent, const QString& titre, const QString& dossier,
                    const QString& filtres, const QString& filtrePreset) override {

@@ -3,7 +3,8 @@
 
 #include "shell/Fermeture.h"
 
-#include "common/Mode.h"
+#include <cstdio>
+
 #include "tickets/FichiersGrilles.h"
 
 namespace norvane::ui {
@@ -18,50 +19,42 @@ bool Fermeture::demander() {
         return false;
     }
     if (atelier.base.NbTirages == 0) return true;
-    bool ferme = false;
-    switch (modeEnCours(atelier)) {
-        case Mode::AjoutLibre:
-            ferme = atelier.Relance || fermerApresAjout();
-            break;
-        case Mode::Normal:
-        case Mode::Consultation:
-            ferme = fermerModeNormal();
-            break;
-        default:
-            ferme = fermerSelection();
-    }
+    const Mode mode = modeEnCours(atelier);
+    // The program that is about to start again has been saved.
+    const bool relance = mode == Mode::AjoutLibre && atelier.Relance;
+    const bool ferme = relance || ((sansQuestion || confirmer(mode)) && sauver(mode));
     if (!ferme) atelier.activite.QuitterEnAttente = false;
     return ferme;
 }
 
-bool Fermeture::fermerApresAjout() {
-    const int code = contexte_.services.messages->MessageAnnuler(
-        u"Norvane doit redémarrer..."_s, u"Message"_s,
-        u"Le logiciel doit être relancé pour prendre en compte les changements effectués dans la "
-        u"base. Cliquez donc sur \"OK\" pour terminer cette session et sauvegarder les "
-        u"modifications."_s);
-    if (code != CodeBouton1) return false;
-    if (!sauverBase() || !restaurerFiltre()) return false;
+bool Fermeture::confirmer(Mode mode) {
+    Messages& messages = *contexte_.services.messages;
+    switch (mode) {
+        case Mode::AjoutLibre:
+            return messages.MessageAnnuler(
+                       u"Norvane doit redémarrer..."_s, u"Message"_s,
+                       u"Le logiciel doit être relancé pour prendre en compte les changements "
+                       u"effectués dans la base. Cliquez donc sur \"OK\" pour terminer cette "
+                       u"session et sauvegarder les modifications."_s) == CodeBouton1;
+        case Mode::Normal:
+        case Mode::Consultation:
+            return contexte_.atelier.Relance ||
+                   messages.QuestionQuitter(u"Souhaitez vous quitter l'application ?"_s,
+                                            u"Confirmation"_s,
+                                            u"Faites votre choix"_s) == CodeBouton1;
+        default:
+            return messages.MessageAnnuler(u"Abandonner la sélection en cours ?"_s,
+                                           u"Confirmation"_s) == CodeBouton1;
+    }
+}
+
+bool Fermeture::sauver(Mode mode) {
+    if (!sauverGrilles() || !sauverBase() || !restaurerFiltre()) return false;
+    if (mode != Mode::AjoutLibre) return true;
     const auto neutre = EcrireCombCalcNeutre(contexte_.atelier.Repertoire);
     if (!neutre && !quitterMalgre(versQt(neutre.erreur()))) return false;
-    contexte_.atelier.Relance = true;
+    contexte_.atelier.Relance = !sansQuestion;
     return true;
-}
-
-bool Fermeture::fermerModeNormal() {
-    if (!contexte_.atelier.Relance &&
-        contexte_.services.messages->QuestionQuitter(u"Souhaitez vous quitter l'application ?"_s,
-                                                     u"Confirmation"_s,
-                                                     u"Faites votre choix"_s) != CodeBouton1) {
-        return false;
-    }
-    return sauverGrilles() && sauverBase() && restaurerFiltre();
-}
-
-bool Fermeture::fermerSelection() {
-    return contexte_.services.messages->MessageAnnuler(u"Abandonner la sélection en cours ?"_s,
-                                                       u"Confirmation"_s) == CodeBouton1 &&
-           sauverGrilles() && sauverBase() && restaurerFiltre();
 }
 
 bool Fermeture::sauverGrilles() {
@@ -83,9 +76,13 @@ bool Fermeture::restaurerFiltre() {
 }
 
 bool Fermeture::quitterMalgre(const QString& echec) {
+    if (sansQuestion) {
+        std::fprintf(stderr, "%s\n", qPrintable(echec));
+        return true;
+    }
     return contexte_.services.messages->AvertissementOuiNon(
-               u"Quitter malgré l'échec de la sauvegarde ?"_s, u"Avertissement"_s, echec) ==
-           CodeBouton1;
+               u"Quitter malgré l'échec de la sauvegarde ?"_s, u"Avertissement"_s, echec,
+               BoutonPropose::Non) == CodeBouton1;
 }
 
 }  // namespace norvane::ui

@@ -5,12 +5,11 @@
 
 #include <filesystem>
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 
 #include "common/Theme.h"
 #include "dialogs/Splash.h"
+#include "shell/Francais.h"
+#include "shell/SignauxFin.h"
 #include "shell/VaroMain.h"
 
 namespace norvane::ui {
@@ -39,15 +38,6 @@ class Application final : public QApplication {
     Messages& messages_;
 };
 
-/// The toolkit's own texts (dialogs, calendars, print options) in French too.
-void franciser(QApplication& app) {
-    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-    auto* traduction = new QTranslator(&app);
-    if (traduction->load(u"qtbase_fr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(traduction);
-    }
-}
-
 }  // namespace
 
 int lancer(int argc, char** argv, const std::function<void()>& premierePeinture) {
@@ -70,6 +60,8 @@ int lancer(int argc, char** argv, const std::function<void()>& premierePeinture)
     Atelier atelier(repertoire);
     appliquerTheme(app, apparenceDe(atelier.configuration.reglages.Apparence));
     TVaroMainForm form(atelier, services, &instance);
+    const SignauxFin signaux;
+    QObject::connect(&signaux, &SignauxFin::finVoulue, &form, &TVaroMainForm::fermerSansQuestion);
     QObject::connect(&form, &TVaroMainForm::premierePeinture, &form, [&] {
         splash.hide();
         if (premierePeinture) premierePeinture();

@@ -205,6 +205,11 @@ void TVaroMainForm::direAvertissements() {
     contexte_.atelier.avertissements.clear();
 }
 
+void TVaroMainForm::fermerSansQuestion() {
+    fermeture_.sansQuestion = true;
+    close();
+}
+
 void TVaroMainForm::closeEvent(QCloseEvent* evenement) {
     if (!fermeture_.demander()) {
         evenement->ignore();

@@ -6,16 +6,18 @@
 #include <algorithm>
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QPageLayout>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 
 #include "base/Fichiers.h"
+#include "common/Enregistrement.h"
 
 namespace norvane::ui {
 
@@ -93,31 +95,68 @@ double mettreEnPages(QTextDocument& document, const QSizeF& page) {
     return 1.0;
 }
 
-bool imprimerHtml(QPrinter& imprimante, const QString& html) {
+/// The pages to print, from 1; 0 for no such bound.
+struct Pages {
+    int premiere = 0;
+    int derniere = 0;
+};
+
+/// A printer, or a PDF in the making.
+bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const Pages& voulues) {
     QPainter p;
-    if (!p.begin(&imprimante)) return false;
-    const QRectF feuille(QPointF(0, 0), imprimante.pageRect(QPrinter::DevicePixel).size());
+    if (!p.begin(&support)) return false;
+    const QRectF feuille(QPointF(0, 0),
+                         support.pageLayout().paintRectPixels(support.logicalDpiX()).size());
     QTextDocument document;
-    document.documentLayout()->setPaintDevice(&imprimante);
+    document.documentLayout()->setPaintDevice(&support);
     document.setDocumentMargin(0);
     QFont fonte = QApplication::font();
     fonte.setPointSizeF(9);
     document.setDefaultFont(fonte);
     document.setHtml(html);
     mettreEnForme(document);
-    const double pied = imprimante.logicalDpiY() * (PolicePied * 2 / 72.0);
+    const double pied = support.logicalDpiY() * (PolicePied * 2 / 72.0);
     const double echelle =
         mettreEnPages(document, QSizeF(feuille.width(), feuille.height() - pied));
 
     const int total = document.pageCount();
-    const int premiere = std::clamp(std::max(1, imprimante.fromPage()), 1, total);
+    const int premiere = std::clamp(voulues.premiere, 1, total);
     const int derniere =
-        imprimante.toPage() > 0 ? std::clamp(imprimante.toPage(), premiere, total) : total;
+        voulues.derniere > 0 ? std::clamp(voulues.derniere, premiere, total) : total;
     for (int page = premiere; page <= derniere; ++page) {
-        if (page > premiere && !imprimante.newPage()) return false;
+        if (page > premiere && !support.newPage()) return false;
         dessinerPage(p, document, page, feuille, echelle);
     }
     return p.end();
+}
+
+/// Made in memory and written at once, so that nothing but a whole file replaces another one.
+void imprimerPdf(Contexte& contexte, const QPrinter& imprimante, const QString& html,
+                 const Pages& pages) {
+    std::size_t format = 0;
+    const QString choisi = imprimante.outputFileName();
+    const QString fichier = nomComplet(choisi, {{u"Document PDF (*.pdf)"_s, u"pdf"_s}}, 0, format);
+    // The dialog asked about the name that it was given.
+    if (fichier != choisi && !accepteRemplacement(contexte, fichier)) return;
+    QByteArray contenu;
+    QBuffer memoire(&contenu);
+    memoire.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&memoire);
+    pdf.setResolution(imprimante.resolution());
+    pdf.setPageLayout(imprimante.pageLayout());
+    pdf.setTitle(imprimante.docName());
+    pdf.setCreator(u"Norvane"_s);
+    const bool fait = imprimerHtml(pdf, html, pages);
+    memoire.close();
+    const auto ecrit =
+        fait ? EcrireFichier(QFile::encodeName(fichier).toStdString(), contenu.toStdString())
+             : Resultat<Rien>(Erreur{"Le document PDF n'a pas pu être composé : fermez d'autres "
+                                     "programmes, puis recommencez."});
+    if (ecrit) {
+        direEnregistre(contexte, u"Tableau imprimé"_s, fichier);
+    } else {
+        contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
+    }
 }
 
 }  // namespace
@@ -125,27 +164,15 @@ bool imprimerHtml(QPrinter& imprimante, const QString& html) {
 void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                    const QString& titre, const QString& nomPropose) {
     const QString dossier = QFile::decodeName(contexte.atelier.Repertoire.string().c_str());
-    QString filtre;
-    QString chemin = contexte.services.fichiers->enregistrer(
-        parent, titre, dossier + u'/' + nomPropose, u"Format Texte (*.txt);;Format CSV (*.csv)"_s,
-        filtre);
-    if (chemin.isEmpty()) return;
-    const QString suffixe = QFileInfo(chemin).suffix().toLower();
-    bool csv = suffixe == u"csv"_s;
-    if (!csv && suffixe != u"txt"_s) {
-        csv = filtre.contains(u"*.csv"_s);
-        chemin += csv ? u".csv"_s : u".txt"_s;
-        // The dialog asked about the name without its extension only.
-        if (QFileInfo::exists(chemin) &&
-            contexte.services.messages->AvertissementOuiNon(
-                u"Le fichier « %1 » existe déjà."_s.arg(QFileInfo(chemin).fileName()),
-                u"Confirmation"_s, u"Faut-il le remplacer ?"_s) != CodeBouton1) {
-            return;
-        }
-    }
-    const auto ecrit = EcrireFichier(QFile::encodeName(chemin).toStdString(),
-                                     csv ? EnCsv(tableau) : EnTexte(tableau));
-    if (!ecrit) contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
+    enregistrerSous(contexte, parent,
+                    {titre,
+                     dossier + u'/' + nomPropose,
+                     {{u"Format Texte (*.txt)"_s, u"txt"_s}, {u"Format CSV (*.csv)"_s, u"csv"_s}},
+                     u"Tableau enregistré"_s,
+                     [&tableau](const std::filesystem::path& fichier, std::size_t format) {
+                         return EcrireFichier(fichier,
+                                              format == 0 ? EnTexte(tableau) : EnCsv(tableau));
+                     }});
 }
 
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
@@ -156,9 +183,13 @@ void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& 
     imprimante.setPageMargins(QMarginsF(MargePage, MargePage, MargePage, MargePage),
                               QPageLayout::Millimeter);
     if (!contexte.services.imprimantes->choisir(parent, imprimante, titre)) return;
-    if (!imprimerHtml(imprimante, versQt(EnHtml(tableau)))) {
+    const QString html = versQt(EnHtml(tableau));
+    const Pages pages{imprimante.fromPage(), imprimante.toPage()};
+    if (imprimante.outputFormat() == QPrinter::PdfFormat) {
+        imprimerPdf(contexte, imprimante, html, pages);
+    } else if (!imprimerHtml(imprimante, html, pages)) {
         contexte.services.messages->MessageErreur(
-            u"L'impression n'a pas pu se faire : vérifiez l'imprimante ou le fichier choisi, puis recommencez."_s,
+            u"L'impression n'a pas pu se faire : vérifiez l'imprimante, puis recommencez."_s,
             u"Erreur"_s);
     }
 }

@@ -11,6 +11,7 @@
 #include "base/Textes.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
+#include "tickets/Rangs.h"
 
 namespace norvane::ui {
 
@@ -102,8 +103,13 @@ void TableRapports::poser(int rang, Colonne colonne, const QString& texte, const
     cellule->setStatusTip(longue);
 }
 
-void TableRapports::afficher(const RapportsTirage& rapports, const Reglages& reglages) {
+void TableRapports::afficher(const Tirage& tirage, const RapportsTirage& rapports,
+                             const Reglages& reglages) {
     for (int rang = 0; rang < rowCount(); ++rang) {
+        if (!RangExiste(tirage, rang)) {
+            viderRang(rang);
+            continue;
+        }
         const Rapport& r = rapports[static_cast<std::size_t>(rang)];
         QString gagnants = versQt(FormaterCompte(std::llround(r.Gagnants)));
         if (gagnants.isEmpty()) gagnants = u"0"_s;
@@ -116,10 +122,12 @@ void TableRapports::afficher(const RapportsTirage& rapports, const Reglages& reg
 }
 
 void TableRapports::vider() {
-    for (int rang = 0; rang < rowCount(); ++rang) {
-        item(rang, Gagnants)->setText({});
-        poser(rang, Montants, {}, {}, {});
-    }
+    for (int rang = 0; rang < rowCount(); ++rang) viderRang(rang);
+}
+
+void TableRapports::viderRang(int rang) {
+    item(rang, Gagnants)->setText({});
+    poser(rang, Montants, {}, {}, {});
 }
 
 void TableRapports::setFacteurs(const Facteurs& facteurs) {

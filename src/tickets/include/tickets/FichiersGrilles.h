@@ -55,6 +55,7 @@ Resultat<RecuDeJeu> ChargerRecu(const std::filesystem::path& fichier);
 Resultat<Rien> EnregistrerGrilles(std::span<const Grille> grilles,
                                   const std::filesystem::path& fichier);
 /// Writes the safety copy "Grilles&Reçus/Grlbak.grl" below `repertoire`, folder made if missing.
+/// The one that it replaces becomes "Grlbak.grl~", unless it says the same.
 Resultat<Rien> SauverGrillesSecours(std::span<const Grille> grilles,
                                     const std::filesystem::path& repertoire);
 

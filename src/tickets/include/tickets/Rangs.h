@@ -25,6 +25,11 @@ extern const std::array<const char*, NbRangs2nd> LibellesRang2nd;
 using ComptesRangs = std::array<int, NbRangsLoto>;  ///< wins per rank of a 1er Tirage
 using ComptesRangs2nd = std::array<int, NbRangs2nd>;
 
+/// True when the game had rank `rang` (0..8) on the day of that draw: its first four for a 2nd
+/// Tirage with prizes of its own; six of nine before DateNouveauxRangs; none whose prizes the base
+/// knows before DateNouveauLoto.
+bool RangExiste(const Tirage& tirage, int rang);
+
 struct Bons {
     int numeros;  ///< of the ticket among the five drawn
     int chances;  ///< 0 or 1

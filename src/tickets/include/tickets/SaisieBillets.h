@@ -103,11 +103,22 @@ class SaisieBillets {
     int nombre() const { return static_cast<int>(billets_.ListeGrilles.size()); }
     /// How many tickets may still be asked of the program, 10000 less the places of the list.
     int reste() const { return NbGrillesMax + 1 - nombre(); }
+    /// How many of them find a place behind the tickets of the list.
+    int libres() const { return NbGrillesMax - stockees(); }
+    /// The ticket in hand is whole and has no place in the list yet: a batch drawn at random would
+    /// drop it.
+    bool enMainPerdue() const { return surPlanche() && enMain_.complete() && surCaseOuverte(); }
     bool option2nd() const { return option2nd_; }
     SuiteSaisie suite() const;
     /// Joker+ numbers to enter in all, and those that are still missing.
     int compteJoker() const { return compteJoker_; }
     int jokersRestants() const;
+    /// The number taken back by reprendreJoker(), to be entered again; nothing for a fresh one.
+    const std::optional<LigneJoker>& jokerRepris() const { return jokerRepris_; }
+    /// The date of the receipt in memory, yyyymmdd; 0 when none was given to it.
+    int dateRecu() const { return dateRecu_; }
+    /// The receipt was just dated, and nothing was verified since.
+    bool tirageAProposer() const { return tirageAProposer_; }
     /// `tirage`: the record on show, -1 for none.
     CarteGrille carte(const Base& base, int tirage) const;
 
@@ -129,8 +140,9 @@ class SaisieBillets {
     Reponse peutAjouter() const;
     /// Puts the ticket in hand into its place and opens a new one.
     Reponse ajouter();
-    /// One ticket in hand in the order of its drawing when `nombre` is 1, else a sorted batch
-    /// behind the list, as far as it has room.
+    /// One ticket in hand in the order of its drawing when `nombre` is 1, else a sorted batch of
+    /// that many behind the list, or of libres() where that is fewer. A batch drops a ticket that
+    /// has no place yet, see enMainPerdue().
     void tirerAuHasard(TypeGrille type, int nombre);
 
     // ---- Deletion, also in consultation, where what it copies loses the tickets too ----
@@ -157,6 +169,9 @@ class SaisieBillets {
     void choisirCompteJoker(int compte);
     /// `chiffres`: the seven digits, nothing else; `mises` 1 or 2.
     Reponse validerJoker(std::string_view chiffres, int mises, bool plusOuMoins);
+    /// One step back: to the last number entered, which is taken out to be entered again, or to
+    /// the count when there is none.
+    void reprendreJoker();
     /// Before the question of enregistrerRecu(): a day of draws, yyyymmdd.
     Reponse peutDater(int date) const;
     /// Writes the receipt below `repertoire`, behind the one that its date has already when
@@ -167,7 +182,8 @@ class SaisieBillets {
 
     // ---- Consultation ----
     Reponse consulter();
-    /// In consultation, shows that list; in Normal, keeps it for the next one.
+    /// In consultation, shows that list; in Normal, has the reports take it, and the next
+    /// consultation.
     void choisirListe(bool recu);
     /// Before a copy is prepared.
     Reponse peutCopier() const;
@@ -175,6 +191,8 @@ class SaisieBillets {
     Copie CopierversBulletins(std::span<const Grille> grilles);
     /// Before RedigerVerification.
     Reponse peutVerifier(bool avecTirage) const;
+    /// The draw of the receipt's date was proposed, whatever the answer.
+    void tirageEstPropose() { tirageAProposer_ = false; }
 
     // ---- Files ----
     /// Writes the stock, during an entry of grids the entry as it stands; nothing is unsaved then.
@@ -187,9 +205,12 @@ class SaisieBillets {
     Resultat<Rien> ouvrirRecu(const std::filesystem::path& fichier);
 
     // ---- Closing ----
-    /// What the safety copy takes were the program to end now; empty: no copy. Of an entry, a
-    /// ticket in hand with three numbers or more as it stands, in its place; one with fewer is left
-    /// out if it is the last, and so is every empty place.
+    /// What the safety copy takes were the program to end now: all that no file of the user's
+    /// holds, NbGrillesMax at most; empty: no copy. The stock when it is unsaved, then the grids of
+    /// an entry under way that the stock does not hold, or those of a receipt that has no file.
+    /// Grids entered behind a stock that a file holds are copied with it, as they would stand at
+    /// the end of the entry. Of an entry, a ticket in hand with three numbers or more as it stands,
+    /// in its place; one with fewer is left out if it is the last, and so is every empty place.
     std::vector<Grille> grillesSecours() const;
 
  private:
@@ -197,12 +218,15 @@ class SaisieBillets {
     const std::vector<Grille>& liste() const { return billets_.ListeGrilles; }
     std::vector<Grille>& source();
     int stockees() const;
+    bool surCaseOuverte() const;
 
     void passer(EtatTickets etat);
     void ouvrirCase();
+    Grille grilleARanger() const;
     int EnregistrerGrille(std::vector<Grille>& grilles, int indice) const;
     void ranger() { grille_ = EnregistrerGrille(liste(), grille_ - 1); }
     std::vector<Grille> grillesEnCours() const;
+    void prendreListe(bool recu);
     void AfficherGrille(int numero);
     Reponse cocher(GenreStats genre, int valeur);
     void tirerLot(TypeGrille type, int nombre);
@@ -219,6 +243,10 @@ class SaisieBillets {
     bool option2nd_ = false;
     int grille_ = 0;
     int compteJoker_ = 0;
+    std::optional<LigneJoker> jokerRepris_;
+    int dateRecu_ = 0;
+    bool recuSansFichier_ = false;
+    bool tirageAProposer_ = false;
     Grille enMain_;
     GenerateurHasard hasard_{0};
 };

@@ -3,9 +3,11 @@
 
 #include "resultats/CommandesBillets.h"
 
-#include <QFileInfo>
+#include <QFile>
 
+#include "base/Dates.h"
 #include "common/Contexte.h"
+#include "common/Enregistrement.h"
 #include "resultats/Refus.h"
 #include "tickets/FichiersGrilles.h"
 
@@ -107,8 +109,19 @@ void CommandesBillets::SupprAllGrillesClick() {
 
 void CommandesBillets::ButtonAleatoireClick(TypeGrille type, int nombre) {
     if (contexte_.refuserSiOccupe()) return;
+    if (nombre != 1 && saisie_.enMainPerdue() && !garderEnMain()) return;
     saisie_.tirerAuHasard(type, nombre);
     annoncer();
+}
+
+/// What becomes of the whole ticket on the board before a batch takes its place; false when it is
+/// to stay there.
+bool CommandesBillets::garderEnMain() {
+    const int reponse = messages().QuestionOuiNon(
+        u"Ajouter une grille en mémoire ?"_s, Confirmation,
+        u"La grille de la planche n'est pas encore dans la liste : les grilles tirées au sort "
+        u"prennent sa place si vous ne l'ajoutez pas."_s);
+    return reponse == CodeBouton2 || (reponse == CodeBouton1 && accepte(saisie_.ajouter()));
 }
 
 // ---- From one state to the next ----------------------------------------------------------------
@@ -209,6 +222,13 @@ void CommandesBillets::suivreJoker() {
     Q_EMIT jokerAttendu();
 }
 
+void CommandesBillets::reprendreJoker() {
+    if (contexte_.refuserSiOccupe()) return;
+    saisie_.reprendreJoker();
+    annoncer();
+    Q_EMIT etapeJoker();
+}
+
 /// The receipt is whole: it goes to the file of its date.
 void CommandesBillets::dater(int date) {
     if (contexte_.refuserSiOccupe()) return;
@@ -227,7 +247,35 @@ void CommandesBillets::dater(int date) {
         if (reponse == CodeFerme) return;  // neither: the date is still to be settled
         ajouter = reponse == CodeBouton1;
     }
-    if (reussi(saisie_.enregistrerRecu(repertoire, date, ajouter))) annoncer();
+    if (!reussi(saisie_.enregistrerRecu(repertoire, date, ajouter))) return;
+    annoncer();
+    direEnregistre(contexte_, u"Reçu de Jeu du %1 enregistré"_s.arg(versQt(DateLongue(date))),
+                   QFile::decodeName(FichierRecu(repertoire, date).c_str()));
+}
+
+bool CommandesBillets::proposerTirage(int dateMontree) {
+    const int date = saisie_.dateRecu();
+    if (!saisie_.tirageAProposer() || saisie_.ModeGrilles() || saisie_.bilan() ||
+        saisie_.nombre() == 0 || date == dateMontree || contexte_.atelier.activite.occupe()) {
+        return true;
+    }
+    const QString jour = versQt(DateLongue(date));
+    const Base& base = contexte_.atelier.base;
+    const bool connu = TirageParDate(base.Tirages, date, base.NbTirages).indice >= 0;
+    const int reponse =
+        connu ? messages().QuestionOuiNon(
+                    u"Vérifier le reçu avec le tirage du %1 ?"_s.arg(jour), Confirmation,
+                    u"C'est sa date de participation. Sinon, il sera vérifié avec le tirage "
+                    u"affiché."_s)
+              : messages().AvertissementOuiNon(
+                    u"Le tirage du %1, date du reçu, n'est pas dans la base."_s.arg(jour),
+                    Avertissement, u"Faut-il vérifier le reçu avec le tirage affiché ?"_s,
+                    BoutonPropose::Non);
+    if (reponse == CodeFerme) return false;
+    const bool oui = reponse == CodeBouton1;
+    if (connu || oui) saisie_.tirageEstPropose();
+    if (connu && oui) Q_EMIT dateDemandee(date);
+    return connu || oui;
 }
 
 // ---- Files, and what comes from other pages ----------------------------------------------------
@@ -246,14 +294,16 @@ void CommandesBillets::ButtonSauverGrillesClick() {
 
 /// Asks for a file and writes the grids; false when they are in no file after all.
 bool CommandesBillets::sauver() {
-    QString filtre;
-    QString fichier = contexte_.services.fichiers->enregistrer(
-        page_, u"Enregistrer les grilles sélectionnées"_s, dossierGrilles(), FiltreGrilles, filtre);
-    if (fichier.isEmpty()) return false;
-    if (QFileInfo(fichier).suffix().isEmpty()) fichier += u".grl"_s;
-    if (!reussi(saisie_.sauver(fichier.toStdString()))) return false;
-    annoncer();
-    return true;
+    return enregistrerSous(contexte_, page_,
+                           {u"Enregistrer les grilles sélectionnées"_s,
+                            dossierGrilles(),
+                            {{FiltreGrilles, u"grl"_s}},
+                            u"Grilles enregistrées"_s,
+                            [this](const std::filesystem::path& fichier, std::size_t) {
+                                auto ecrit = saisie_.sauver(fichier);
+                                if (ecrit) annoncer();
+                                return ecrit;
+                            }});
 }
 
 void CommandesBillets::ChargerGrillesClick() {

@@ -42,7 +42,11 @@ class CommandesBillets final : public QObject {
     void choisirListe(bool recu);
     void Button66Click(int compte);
     void validerJoker(const QString& chiffres, int mises, bool plusOuMoins);
+    void reprendreJoker();
     void dater(int date);
+    /// Before a verification against the draw of `dateMontree`: a receipt just dated is offered
+    /// the draw of its own date. False when nothing is to be verified after all.
+    bool proposerTirage(int dateMontree);
 
     // Files, and what comes from other pages.
     void ButtonSauverGrillesClick();
@@ -58,7 +62,7 @@ class CommandesBillets final : public QObject {
     void etapeJoker();
     /// What is to be typed for it takes the focus back: a box had it.
     void jokerAttendu();
-    /// The date of an opened receipt, yyyymmdd.
+    /// The date of a receipt, yyyymmdd, whose draw is to be shown.
     void dateDemandee(int date);
 
  private:
@@ -69,6 +73,7 @@ class CommandesBillets final : public QObject {
     bool demander(const QString& question, const QString& titre);
     void annoncer();
     void suivreJoker();
+    bool garderEnMain();
     void commencer();
     bool sauver();
     void ouvrirRecu(const std::filesystem::path& fichier);

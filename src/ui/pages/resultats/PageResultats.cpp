@@ -14,19 +14,12 @@
 #include "resultats/PanneauRapports.h"
 #include "resultats/PanneauTirage.h"
 #include "resultats/RangeeCommandes.h"
+#include "resultats/TextesBillets.h"
 #include "widgets/PlancheNumeros.h"
 
 namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString compte(std::size_t n, const QString& mot) {
-    return u"%1 %2%3"_s.arg(n).arg(mot, n > 1 ? u"s"_s : QString());
-}
-
-}  // namespace
 
 PageResultats::PageResultats(Contexte& ctx, QWidget* parent)
     : Page(ctx, u"Varo1"_s, u"Résultats"_s, parent), saisie_(ctx.atelier.saisie) {
@@ -77,8 +70,12 @@ void PageResultats::relierTirage() {
     connect(planche_, &PlancheNumeros::appui, this, &PageResultats::presser);
     connect(rangee_, &RangeeCommandes::ReInitClick, this, &PageResultats::ReInitClick);
     connect(rangee_, &RangeeCommandes::DeSelectClick, this, &PageResultats::DeSelectClick);
-    connect(rangee_, &RangeeCommandes::VerifGainsClick, this,
-            [this] { gains_->VerifGainsClick(tirage_->choix().indice()); });
+    connect(rangee_, &RangeeCommandes::VerifGainsClick, this, [this] {
+        // A receipt just dated may be sent to its draw, which is then the one on show.
+        if (gains_->enCours() || billets_->proposerTirage(tirage_->choix().date())) {
+            gains_->VerifGainsClick(tirage_->choix().indice());
+        }
+    });
     connect(gains_, &CalculGains::enCoursChange, this, &PageResultats::montrer);
 }
 
@@ -116,6 +113,7 @@ void PageResultats::relierCommandes() {
 void PageResultats::relierJoker() {
     connect(joker_, &PanneauJoker::Button66Click, billets_, &CommandesBillets::Button66Click);
     connect(joker_, &PanneauJoker::numeroValide, billets_, &CommandesBillets::validerJoker);
+    connect(joker_, &PanneauJoker::retour, billets_, &CommandesBillets::reprendreJoker);
     connect(joker_, &PanneauJoker::dateValidee, billets_, &CommandesBillets::dater);
     connect(billets_, &CommandesBillets::etapeJoker, joker_, &PanneauJoker::entrer);
     connect(billets_, &CommandesBillets::jokerAttendu, joker_, &PanneauJoker::viser);
@@ -280,11 +278,11 @@ void PageResultats::montrer() {
 void PageResultats::montrerFiche() {
     fiche_->montrerListe(saisie_.recuVoulu());
     fiche_->montrerOption(saisie_.option2nd());
-    if (saisie_.surPlanche()) aleatoire_->poserReste(saisie_.reste());
+    if (saisie_.surPlanche()) aleatoire_->poserReste(saisie_.reste(), saisie_.libres());
     if (!saisie_.enConsultation()) rapports_->montrerGains(false, {});
     switch (etat()) {
         case EtatNormal:
-            fiche_->montrerTexte(u"En mémoire"_s, texteMemoire());
+            fiche_->montrerTexte(u"En mémoire"_s, texteMemoire(contexte.atelier));
             break;
         case EtatChoix: {
             const Cases& choix = contexte.atelier.choixLibre;
@@ -298,7 +296,7 @@ void PageResultats::montrerFiche() {
         case EtatJokerCompte:
         case EtatJokerNumeros:
         case EtatJokerDate:
-            fiche_->montrerTexte(u"Reçu de Jeu"_s, texteRecu());
+            fiche_->montrerTexte(u"Reçu de Jeu"_s, texteRecu(contexte.atelier.billets));
             break;
         default:
             montrerGrille();
@@ -313,21 +311,6 @@ void PageResultats::montrerGrille() {
     if (saisie_.surPlanche()) return;
     const ResultatGrille resultat = carte.resultat.value_or(ResultatGrille{});
     rapports_->montrerGains(resultat.second, resultat.comptes);
-}
-
-QString PageResultats::texteRecu() const {
-    const Billets& billets = contexte.atelier.billets;
-    return compte(billets.ListeRecu.size(), u"grille"_s) +
-           u", %1 Joker+"_s.arg(billets.ListeJoker.size());
-}
-
-QString PageResultats::texteMemoire() const {
-    const Cases& choix = contexte.atelier.choixLibre;
-    const QStringList lignes{
-        u"Grilles au choix : %1"_s.arg(contexte.atelier.billets.ListeChoix.size()),
-        u"Reçu de Jeu : "_s + texteRecu(),
-        u"Choix libre : %1 + %2C"_s.arg(choix.numeros.taille()).arg(choix.chances.taille())};
-    return lignes.join(u'\n');
 }
 
 }  // namespace norvane::ui

@@ -56,8 +56,6 @@ class PageResultats final : public Page {
     void montrer();
     void montrerFiche();
     void montrerGrille();
-    QString texteRecu() const;
-    QString texteMemoire() const;
 
     SaisieBillets& saisie_;
     bool choixEnCours_ = false;  ///< "&OK!" stands on ReInit

@@ -10,10 +10,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 
 #include "base/Textes.h"
 #include "common/Theme.h"
 #include "pages/Page.h"
+#include "resultats/TextesBillets.h"
 #include "widgets/ChampNumero.h"
 #include "widgets/Fiche.h"
 
@@ -28,6 +30,9 @@ PanneauAleatoire::PanneauAleatoire(QWidget* parent) : QWidget(parent) {
     pile->setSpacing(Unite);
     pile->addWidget(creerTypes(), 1);
     pile->addLayout(creerNombre());
+    effet_ = legende({}, this);
+    effet_->setObjectName(u"LabelEffet"_s);
+    pile->addWidget(effet_);
 }
 
 /// One column for each count of numbers, one row for each count of chances.
@@ -78,11 +83,14 @@ QLayout* PanneauAleatoire::creerNombre() {
     return ligne;
 }
 
-void PanneauAleatoire::poserReste(int reste) {
-    if (reste == reste_) return;
+void PanneauAleatoire::poserReste(int reste, int libres) {
+    if (reste == reste_ && libres == libres_) return;
+    const bool autre = reste != reste_;
     reste_ = reste;
+    libres_ = libres;
     surReste_->setText(u"sur %1"_s.arg(versQt(FormaterCompte(reste))));
-    nombre_->setText(QString::number(reste));
+    if (autre) nombre_->setText(QString::number(reste));
+    borner();
 }
 
 int PanneauAleatoire::nombre() const {
@@ -94,8 +102,23 @@ void PanneauAleatoire::deplacer(int pas) {
 }
 
 void PanneauAleatoire::borner() {
-    if (nombre() > reste_) nombre_->setText(QString::number(reste_));
+    const bool coupe = nombre() > reste_;
+    if (coupe) {
+        const QSignalBlocker silence(nombre_);
+        nombre_->setText(QString::number(reste_));
+    }
     tirer_->setEnabled(!nombre_->text().isEmpty());
+    effet_->setText(effet(coupe));
+}
+
+QString PanneauAleatoire::effet(bool coupe) const {
+    const int n = nombre();
+    const QString place = u"La liste n'a plus de place que pour %1"_s.arg(
+        compte(static_cast<std::size_t>(libres_), u"grille"_s));
+    if (coupe || (n > 1 && n > libres_)) return place;
+    if (n == 1) return u"Une grille tirée sur la planche"_s;
+    if (n == 0) return {};
+    return u"%1 grilles ajoutées à la liste"_s.arg(versQt(FormaterCompte(n)));
 }
 
 }  // namespace norvane::ui

@@ -24,8 +24,9 @@ class PanneauAleatoire final : public QWidget {
  public:
     explicit PanneauAleatoire(QWidget* parent);
 
-    /// At most `reste` tickets can be asked for; Edit24 shows that figure.
-    void poserReste(int reste);
+    /// At most `reste` tickets can be asked for; Edit24 shows that figure. A batch of more than
+    /// `libres` is cut to that, which is told.
+    void poserReste(int reste, int libres);
 
  Q_SIGNALS:
     /// So many tickets of that type are asked for.
@@ -37,11 +38,14 @@ class PanneauAleatoire final : public QWidget {
     int nombre() const;
     void deplacer(int pas);
     void borner();
+    QString effet(bool coupe) const;
 
     int reste_ = 0;
+    int libres_ = 0;
     QButtonGroup* types_ = nullptr;
     ChampNumero* nombre_ = nullptr;
     QLabel* surReste_ = nullptr;
+    QLabel* effet_ = nullptr;  ///< what the next click will do
     QPushButton* tirer_ = nullptr;
 };
 

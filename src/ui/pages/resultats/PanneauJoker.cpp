@@ -124,7 +124,8 @@ QWidget* PanneauJoker::creerSaisie() {
     tete->insertStretch(1, 1);
     pile->addLayout(tete);
     chiffres_ = champJoker(u"ChiffresJoker"_s, page);
-    chiffres_->setInputMask(u"9.9.9.9.9.9.9;_"_s);
+    // Blanks are allowed, so that Enter on them is heard and answered.
+    chiffres_->setInputMask(u"0.0.0.0.0.0.0;_"_s);
     pile->addWidget(chiffres_, 0, Qt::AlignLeft);
     mise_ = creerMise(page);
     pile->addWidget(mise_);
@@ -132,9 +133,13 @@ QWidget* PanneauJoker::creerSaisie() {
     pile->addWidget(date_);
     pile->addWidget(dateLongue_);
     valider_ = bouton(u"ButtonValiderJack"_s, u"&Valider"_s, {}, page);
-    pile->addWidget(valider_, 0, Qt::AlignLeft);
+    retour_ = bouton(u"JokerPrecedent"_s, u"&Précédent"_s, {}, page);
+    auto* pied = rangee({valider_, retour_});
+    pied->addStretch(1);
+    pile->addLayout(pied);
     pile->addStretch(1);
     connect(valider_, &QPushButton::clicked, this, &PanneauJoker::valider);
+    connect(retour_, &QPushButton::clicked, this, &PanneauJoker::retour);
     connect(chiffres_, &QLineEdit::returnPressed, valider_, &QPushButton::click);
     return page;
 }
@@ -238,13 +243,27 @@ void PanneauJoker::demanderNumero() {
         (reste > 1 ? u"%1 Numéros restant à saisir"_s : u"%1 Numéro restant à saisir"_s)
             .arg(reste));
     poserIndice(valider_, u"Valider ce Numéro Joker+"_s);
+    poserIndice(retour_, saisie_.jokersRestants() < saisie_.compteJoker()
+                             ? u"Revenir au Numéro Joker+ précédent"_s
+                             : u"Revenir au nombre de Numéros Joker+"_s);
+    // Its own options, or none: those of the number before are not this one's.
+    const LigneJoker repris = saisie_.jokerRepris().value_or(LigneJoker{{}, 1});
+    mises_->item(1 - repris.code % 2)->setCheckState(Qt::Checked);
+    plusOuMoins_->setChecked(repris.code > 2);
     chiffres_->clear();
+    if (saisie_.jokerRepris()) {
+        QString chiffres;
+        for (const int chiffre : repris.chiffres) chiffres += QString::number(chiffre);
+        chiffres_->setText(chiffres);
+    }
     chiffres_->setCursorPosition(0);
 }
 
 void PanneauJoker::demanderDate() {
     numero_->setText(u"Date de participation :"_s);
     poserIndice(valider_, u"Valider la date de participation"_s);
+    poserIndice(retour_, saisie_.compteJoker() > 0 ? u"Revenir au Numéro Joker+ précédent"_s
+                                                   : u"Revenir au nombre de Numéros Joker+"_s);
     const int date = ProchainJourDeTirage(enEntier(contexte_.services.horloge->aujourdhui()));
     date_->setDate(QDate(date / 10000, date / 100 % 100, date % 100));
     dateLongue_->setText(versQt(DateLongue(date)));

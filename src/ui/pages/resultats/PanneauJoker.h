@@ -43,6 +43,8 @@ class PanneauJoker final : public QWidget {
     void numeroValide(const QString& chiffres, int mises, bool plusOuMoins);
     /// yyyymmdd.
     void dateValidee(int date);
+    /// One step back is asked for.
+    void retour();
 
  private:
     QWidget* creerCompte();
@@ -71,6 +73,7 @@ class PanneauJoker final : public QWidget {
     QDateEdit* date_ = nullptr;
     QLabel* dateLongue_ = nullptr;
     QPushButton* valider_ = nullptr;
+    QPushButton* retour_ = nullptr;
 };
 
 }  // namespace norvane::ui

@@ -46,6 +46,7 @@ void PanneauRapports::montrer(const ChoixTirage& choix) {
             table->vider();
         } else {
             table->afficher(
+                *choix.tirage(),
                 contexte_.atelier.base.Rapports[static_cast<std::size_t>(choix.indice())],
                 contexte_.atelier.configuration.reglages);
         }

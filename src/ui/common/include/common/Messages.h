@@ -19,6 +19,9 @@ inline constexpr int CodeBouton1 = 100;  ///< first button (OK, "Oui")
 inline constexpr int CodeBouton2 = 101;  ///< second button ("Annuler", "Non")
 inline constexpr int CodeBouton3 = 102;  ///< third button
 
+/// The button that Enter presses.
+enum class BoutonPropose { Oui, Non };
+
 /// One dialog: an instruction line, a title, a detail text (may be empty), one to three buttons.
 struct DemandeMessage {
     IconeMessage icone;
@@ -49,7 +52,7 @@ class Messages {
     int AvertissementAnnuler(const QString& instruction, const QString& titre,
                              const QString& detail = {});
     int AvertissementOuiNon(const QString& instruction, const QString& titre,
-                            const QString& detail = {});
+                            const QString& detail = {}, BoutonPropose propose = BoutonPropose::Oui);
 
  protected:
     /// Shows the dialog and waits for its answer, one of the codes above.

@@ -21,8 +21,9 @@ namespace norvane::ui {
 class DialoguesFichiers {
  public:
     virtual ~DialoguesFichiers() = default;
-    /// Asks where to save. `filtres` in the toolkit's form ("Format Texte (*.txt);;..."); on
-    /// return `filtreChoisi` is the chosen one. Overwriting is confirmed. Empty when cancelled.
+    /// Asks where to save, for enregistrerSous, which completes the name and asks before it
+    /// replaces a file. `filtres` in the toolkit's form ("Format Texte (*.txt);;..."); on return
+    /// `filtreChoisi` is the chosen one. Empty when cancelled.
     virtual QString enregistrer(QWidget* parent, const QString& titre, const QString& nomPropose,
                                 const QString& filtres, QString& filtreChoisi) = 0;
     /// Asks for a file that exists; `filtrePreset` is one of `filtres`, empty for the first. Empty

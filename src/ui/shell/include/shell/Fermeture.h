@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "common/Contexte.h"
+#include "common/Mode.h"
 
 namespace norvane::ui {
 
@@ -17,14 +18,16 @@ class Fermeture {
     /// Asks the running worker to stop; called when the window is closed during its work.
     std::function<void()> arreterTraitement = [] {};
 
+    /// Nobody is there to answer: nothing is asked, what fails is told on standard error.
+    bool sansQuestion = false;
+
     /// Asks what has to be asked and saves what has to be saved. True when the window may close;
     /// on false everything is as it was.
     bool demander();
 
  private:
-    bool fermerApresAjout();
-    bool fermerModeNormal();
-    bool fermerSelection();
+    bool confirmer(Mode mode);
+    bool sauver(Mode mode);
     bool sauverGrilles();
     bool sauverBase();
     bool restaurerFiltre();

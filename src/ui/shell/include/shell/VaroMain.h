@@ -38,6 +38,8 @@ class TVaroMainForm final : public QMainWindow {
 
     /// Closes the window with all its questions.
     void ExitClick() { close(); }
+    /// Closes it without any, as soon as the work in hand has stopped: the system wishes it.
+    void fermerSansQuestion();
     /// Brings everything in line after the base in memory changed.
     void RecalculBase();
 

@@ -11,13 +11,13 @@
 
 namespace norvane::ui {
 
-/// Asks for a file and writes the table as text or CSV, after the file's extension; the chosen
-/// filter's own is appended to a name that has neither. A failure is told.
+/// Asks for a file and writes the table as text or CSV, after the file's extension or else the
+/// filter chosen: see enregistrerSous.
 void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                    const QString& titre, const QString& nomPropose);
 
 /// Asks for a printer and prints the table on A4 pages with a repeated heading and page numbers.
-/// A failure is told.
+/// A PDF replaces the file of its name when it is whole, and not before. A failure is told.
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                      const QString& titre);
 

@@ -25,8 +25,9 @@ class TableRapports final : public QTableWidget {
     /// `rangs`: NbRangsLoto or NbRangs2nd rows.
     TableRapports(const QString& nom, int rangs, double echelle, QWidget* parent = nullptr);
 
-    /// Winners, amounts with the currency symbol, and the value in francs as hint of the amount.
-    void afficher(const RapportsTirage& rapports, const Reglages& reglages);
+    /// Winners, amounts with the currency symbol, and the value in francs as hint of the amount;
+    /// nothing for a rank that the game did not have on the day of `tirage`.
+    void afficher(const Tirage& tirage, const RapportsTirage& rapports, const Reglages& reglages);
     /// Every cell of winners and amounts empty.
     void vider();
     /// Column N and the hints of the rows that are won.
@@ -36,6 +37,7 @@ class TableRapports final : public QTableWidget {
     QSize minimumSizeHint() const override { return sizeHint(); }
 
  private:
+    void viderRang(int rang);
     void poser(int rang, Colonne colonne, const QString& texte, const QString& court,
                const QString& longue);
 

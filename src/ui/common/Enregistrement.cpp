@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 the Norvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "common/Enregistrement.h"
+
+#include <algorithm>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace norvane::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString filtresDe(const std::vector<FormatFichier>& formats) {
+    QStringList filtres;
+    for (const FormatFichier& format : formats) filtres << format.filtre;
+    return filtres.join(u";;"_s);
+}
+
+}  // namespace
+
+QString nomComplet(const QString& nom, const std::vector<FormatFichier>& formats,
+                   std::size_t defaut, std::size_t& format) {
+    for (format = 0; format < formats.size(); ++format) {
+        const QString suffixe = u'.' + formats[format].suffixe;
+        if (nom.endsWith(suffixe, Qt::CaseInsensitive)) {
+            return nom.chopped(suffixe.size()) + suffixe;
+        }
+    }
+    format = defaut;
+    return nom + u'.' + formats[defaut].suffixe;
+}
+
+bool accepteRemplacement(Contexte& contexte, const QString& fichier) {
+    const QFileInfo info(fichier);
+    if (!info.exists() && !info.isSymLink()) return true;
+    return contexte.services.messages->AvertissementOuiNon(
+               u"Le fichier « %1 » existe déjà."_s.arg(info.fileName()), u"Confirmation"_s,
+               u"Faut-il le remplacer ?"_s, BoutonPropose::Non) == CodeBouton1;
+}
+
+void direEnregistre(Contexte& contexte, const QString& fait, const QString& fichier) {
+    contexte.relais.dire(
+        u"%1 dans « %2 »."_s.arg(fait, QDir::toNativeSeparators(QDir::cleanPath(fichier))));
+}
+
+bool enregistrerSous(Contexte& contexte, QWidget* parent, const Enregistrement& demande) {
+    QString propose = demande.propose;
+    for (;;) {
+        QString filtre;
+        const QString choisi = contexte.services.fichiers->enregistrer(
+            parent, demande.titre, propose, filtresDe(demande.formats), filtre);
+        if (choisi.isEmpty()) return false;
+        const auto voulu = std::ranges::find(demande.formats, filtre, &FormatFichier::filtre);
+        const std::size_t defaut = voulu == demande.formats.end()
+                                       ? 0
+                                       : static_cast<std::size_t>(voulu - demande.formats.begin());
+        std::size_t format = 0;
+        const QString fichier = nomComplet(choisi, demande.formats, defaut, format);
+        propose = fichier;
+        if (!accepteRemplacement(contexte, fichier)) continue;
+        const auto ecrit = demande.ecrire(QFile::encodeName(fichier).toStdString(), format);
+        if (!ecrit) {
+            contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
+            return false;
+        }
+        direEnregistre(contexte, demande.fait, fichier);
+        return true;
+    }
+}
+
+}  // namespace norvane::ui
