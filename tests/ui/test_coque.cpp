@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -118,38 +117,37 @@ class TestCoque final : public EssaisQt {
         QVERIFY(activite.QuitterEnAttente && f.forme->isVisible() && f.posees.size() == 1);
     }
 
-    /// A double click on "Numéros" and "Chances" leads to the draw, with the item pressed.
-    void versUnTirage() {
-        FormeOuverte f;
-        auto* onglets = f.de<QTabWidget>("PageControl1");
-        for (const char* nom : {"AdvStringGrid1", "AdvStringGrid4"}) {
-            auto* table = f.de<VueTableau>(nom);
-            onglets->setCurrentIndex(table->objectName().endsWith(u'1') ? 1 : 2);
-            const QModelIndex date = table->model()->index(6, 4);
-            Q_EMIT table->celluleActivee(date);
-            QCOMPARE(onglets->currentIndex(), 0);
-            const auto tirage = std::get<NumeroTirage>(*table->modele().cellule(date).cible);
-            QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), QString::number(tirage.numero));
-            const int place = onglets->widget(1)->isAncestorOf(table) ? 7 : NumeroMax + 7;
-            auto* planche = f.de<PlancheNumeros>("Panel1");
-            QVERIFY(planche->bouton(place - 1)->enfonce());
-        }
-    }
-
-    /// Every place that one can be sent to brings its page to front.
+    /// Every place that one can be sent to brings its page to front; a double click on "Numéros"
+    /// and "Chances" leads to the draw, with the item pressed.
     void destinations() {
         FormeOuverte f;
         auto* onglets = f.de<QTabWidget>("PageControl1");
         auto* relais = f.forme->findChild<Relais*>();
+        const auto* numero = f.de<QLineEdit>("EditTirGlob");
+        const auto enfonces = [planche = f.de<PlancheNumeros>("Panel1")] {
+            QList<int> places;
+            for (int place = 0; place < NbBoutons; ++place)
+                if (planche->bouton(place)->enfonce()) places << place + 1;
+            return places;
+        };
         relais->aller(VersHistorique{Element{GenreStats::Chances, 3}, 20, 300});
         QCOMPARE(onglets->currentWidget()->objectName(), u"Varo6"_s);
         QCOMPARE(onglets->currentWidget()->findChild<QLabel*>(u"Detail"_s)->text(),
                  u"Historique demandé : chance 3, tirages 20 à 300."_s);
         relais->aller(VersTirage{1234, {}});
-        QCOMPARE(onglets->currentIndex(), 0);
-        QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text(), u"1234"_s);
-        const auto* planche = f.de<PlancheNumeros>("Panel1");
-        for (int place = 0; place < NbBoutons; ++place) QVERIFY(!planche->bouton(place)->enfonce());
+        QVERIFY(onglets->currentIndex() == 0 && enfonces().isEmpty());
+        QCOMPARE(numero->text(), u"1234"_s);
+        for (const auto& [nom, place] :
+             {std::pair{"AdvStringGrid1", 7}, std::pair{"AdvStringGrid4", NumeroMax + 7}}) {
+            auto* table = f.de<VueTableau>(nom);
+            onglets->setCurrentIndex(place > NumeroMax ? 2 : 1);
+            const QModelIndex date = table->model()->index(6, 4);
+            Q_EMIT table->celluleActivee(date);
+            QCOMPARE(onglets->currentIndex(), 0);
+            const auto tirage = std::get<NumeroTirage>(*table->modele().cellule(date).cible);
+            QCOMPARE(numero->text(), QString::number(tirage.numero));
+            QVERIFY(enfonces().contains(place));
+        }
     }
 
     void apparenceSauvee() {
@@ -172,61 +170,6 @@ class TestCoque final : public EssaisQt {
         f.de<QAction>("Apparence_auto")->trigger();
         QCOMPARE(f.posees.size(), 1);
         QCOMPARE(f.posees.last().instruction, u"L'apparence choisie ne sera pas gardée."_s);
-    }
-
-    /// The real message box: what is asked, and the code of each way to answer.
-    void boiteDeMessage() {
-        MessagesEcran messages;
-        const auto repondre = [&messages](auto geste) {
-            QTimer::singleShot(0, qApp, [geste] {
-                auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                if (boite == nullptr) qFatal("no message box");
-                geste(*boite);
-            });
-            return messages.QuestionOuiNonAnnuler(u"instruction"_s, u"titre"_s, u"détail"_s);
-        };
-        const QStringList boutons{u"Oui"_s, u"Non"_s, u"Annuler"_s};
-        for (int i = 0; i < 3; ++i) {
-            QCOMPARE(repondre([texte = boutons.at(i)](QMessageBox& boite) {
-                         const QString textes = boite.text() + boite.informativeText();
-                         QCOMPARE(textes, u"instructiondétail"_s);
-                         QCOMPARE(boite.icon(), QMessageBox::Question);
-                         QCOMPARE(boite.defaultButton()->text(), u"Oui"_s);
-                         for (auto* bouton : boite.buttons())
-                             if (bouton->text() == texte) bouton->click();
-                     }),
-                     CodeBouton1 + i);
-        }
-        QCOMPARE(repondre([](QMessageBox& boite) { QTest::keyClick(&boite, Qt::Key_Escape); }),
-                 CodeFerme);
-    }
-
-    /// Room for the title, lines of a readable length, and nothing of the text cut.
-    void mesuresDeLaBoite_data() {
-        QTest::addColumn<QString>("titre");
-        QTest::addColumn<QString>("detail");
-        const QString phrase = u"Le fichier « grilles.grl » ne peut pas être écrit ici. "_s;
-        QTest::newRow("bref") << u"Message"_s << u"Rien."_s;
-        QTest::newRow("titre long") << u"Effacer toutes les grilles de la sélection"_s << u""_s;
-        QTest::newRow("détail long") << u"Erreur"_s << phrase.repeated(12).trimmed();
-    }
-    void mesuresDeLaBoite() {
-        QFETCH(QString, titre);
-        QFETCH(QString, detail);
-        QTimer::singleShot(0, qApp, [&] {
-            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (boite == nullptr) qFatal("no message box");
-            const QFontMetrics mesures = boite->fontMetrics();
-            QVERIFY(boite->width() > mesures.horizontalAdvance(titre) + 4 * mesures.height());
-            if (!detail.isEmpty()) {
-                const auto* texte = boite->findChild<QLabel*>(u"qt_msgbox_informativelabel"_s);
-                const int lettres = texte->width() / mesures.averageCharWidth();
-                QVERIFY(texte->height() >= texte->heightForWidth(texte->width()));
-                QVERIFY(lettres < 80 && (detail.size() < 80 || lettres > 45));
-            }
-            boite->buttons().first()->click();
-        });
-        MessagesEcran().MessageErreur(u"Impossible."_s, titre, detail);
     }
 
     void fermetureNormale() {
@@ -433,6 +376,8 @@ class TestCoque final : public EssaisQt {
     }
 
     void geometrie() {
+        QVERIFY(Echelles::de({1024, 768}).maximisee() && !Echelles::de({1366, 768}).maximisee());
+        QCOMPARE(Echelles::de({1920, 1080}).Echelle, 1.8);
         const QRect petit(0, 0, 1366, 768);
         for (const QRect& ecran : {petit, QRect(0, 0, 1920, 1080)}) {
             for (const QString& gardee : {u"10,20,1200,700"_s, u"10,20,1200,700,max"_s}) {
@@ -448,12 +393,6 @@ class TestCoque final : public EssaisQt {
                          qPrintable(gardee));
             }
         }
-    }
-
-    void echelles() {
-        QVERIFY(Echelles::de({1024, 768}).maximisee());
-        QVERIFY(!Echelles::de({1366, 768}).maximisee());
-        QCOMPARE(Echelles::de({1920, 1080}).Echelle, 1.8);
     }
 
     void uneSeuleInstance() {
