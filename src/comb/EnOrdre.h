@@ -6,12 +6,31 @@
 
 #include <condition_variable>
 #include <cstddef>
+#include <cstdint>
 #include <mutex>
 #include <stop_token>
+#include <vector>
 
 #include "base/Repartition.h"
 
 namespace norvane {
+
+/// Cuts a row of tasks into pieces that are worth a hand-over to another thread: neighbours whose
+/// weights come to `assez` or more. The first task of each piece, and the end of the row.
+template <typename Poids>
+std::vector<std::size_t> Couper(std::size_t taches, std::uint64_t assez, Poids poids) {
+    std::vector<std::size_t> debuts{0};
+    std::uint64_t total = 0;
+    for (std::size_t i = 0; i < taches; ++i) {
+        if (total >= assez) {
+            debuts.push_back(i);
+            total = 0;
+        }
+        total += poids(i);
+    }
+    if (taches > 0) debuts.push_back(taches);
+    return debuts;
+}
 
 /// Each thread makes an `Ouvrier` by `creer()`; `ouvrier.produire(i)` works task i out and
 /// `livrer(i, ouvrier)` takes its result when all tasks before have been taken; false from either

@@ -190,6 +190,7 @@ struct Residus::Ouvrier {
     };
 
     const std::vector<Tete>& travaux;
+    const std::vector<std::size_t>& pieces;
     Descente<Ecriture> descente;
 
     const std::vector<Mot>& mots() const { return descente.visite.mots; }
@@ -197,7 +198,8 @@ struct Residus::Ouvrier {
         descente.visite.mots.clear();
         descente.visite.donnes = 0;
         descente.fini = false;
-        descente.parcourir(travaux[i]);
+        for (std::size_t t = pieces[i]; t < pieces[i + 1] && !descente.fini; ++t)
+            descente.parcourir(travaux[t]);
         return !descente.arret.stop_requested();
     }
 };
@@ -205,17 +207,21 @@ struct Residus::Ouvrier {
 bool Residus::lister(int inf, int sup, std::uint64_t limite, unsigned threads,
                      const std::stop_token& arret, const std::function<void(int)>& avance,
                      const Livraison& livraison) const {
+    constexpr std::uint64_t Assez = 1 << 17;
     const auto travaux = tetes();
+    const auto pieces =
+        Couper(travaux.size(), Assez, [&](std::size_t t) { return travaux[t].choix; });
     const std::uint64_t total = std::max<std::uint64_t>(choixPossibles(), 1);
     std::uint64_t faits = 0;
-    const auto utiles = std::min<std::size_t>(std::max(1U, threads), travaux.size());
+    const auto utiles = std::min<std::size_t>(std::max(1U, threads), pieces.size() - 1);
     return EnOrdre(
-        travaux.size(), static_cast<unsigned>(utiles), arret,
+        pieces.size() - 1, static_cast<unsigned>(utiles), arret,
         [&] {
-            return Ouvrier{travaux, {*this, inf, arret, {*this, livraison, inf, sup, limite}}};
+            return Ouvrier{
+                travaux, pieces, {*this, inf, arret, {*this, livraison, inf, sup, limite}}};
         },
         [&](std::size_t i, const Ouvrier& ouvrier) {
-            faits += travaux[i].choix;
+            for (std::size_t t = pieces[i]; t < pieces[i + 1]; ++t) faits += travaux[t].choix;
             if (avance) avance(static_cast<int>(faits * 100 / total));
             return ouvrier.mots().empty() || livraison.livrer(ouvrier.mots());
         });

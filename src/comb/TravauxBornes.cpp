@@ -25,15 +25,15 @@ class TravailListes final : public TravailBornes {
           branches_(Branches(domaine_, true)),
           pieces_(pieces()),
           fils_(static_cast<unsigned>(
-              std::min<std::size_t>(NombreFils(c), std::max<std::size_t>(pieces_.size(), 1)))),
+              std::min<std::size_t>(NombreFils(c), std::max<std::size_t>(nombrePieces(), 1)))),
           redacteur_(c, d) {}
 
     Prevision prevoir(int inf, int sup) override {
         std::atomic<std::uint64_t> total = 0;
-        Repartir(pieces_.size(), fils_, [&](unsigned, auto suivante) {
+        Repartir(nombrePieces(), fils_, [&](unsigned, auto suivante) {
             Marcheur<false> marcheur(contexte.base, contexte.occurrences, domaine_);
             std::uint64_t n = 0;
-            for (std::size_t i = suivante(); i < pieces_.size(); i = suivante())
+            for (std::size_t i = suivante(); i < nombrePieces(); i = suivante())
                 for (const Branche& branche : piece(i)) {
                     if (arret.stop_requested()) return;
                     marcheur.parcourir(branche, inf, [&](const auto& feuille) {
@@ -50,7 +50,7 @@ class TravailListes final : public TravailBornes {
 
     bool lister(const DemandeBornes& demande, const Recevoir& recevoir) override {
         return EnOrdre(
-            pieces_.size(), fils_, arret, [&] { return Ouvrier(*this, demande.inf, demande.sup); },
+            nombrePieces(), fils_, arret, [&] { return Ouvrier(*this, demande.inf, demande.sup); },
             [&](std::size_t i, const Ouvrier& ouvrier) {
                 puits.SetProgress(static_cast<int>(piece(i).back().choix[0]) + 1);
                 return ouvrier.mots.empty() || recevoir(ouvrier.mots);
@@ -105,36 +105,27 @@ class TravailListes final : public TravailBornes {
         return static_cast<std::size_t>(domaine_.alphabet[j] - 1);
     }
 
-    /// Cuts the branches into rows that are worth a hand-over to another thread. Measured: a second
-    /// thread costs more than it brings below some hundred thousand combinations, which take
-    /// milliseconds.
+    /// Measured: below some hundred thousand combinations, which take milliseconds, a second thread
+    /// brings less than it costs.
     std::vector<std::size_t> pieces() const {
         constexpr std::uint64_t Assez = 1 << 16;
         const auto n = static_cast<int>(domaine_.alphabet.size());
-        std::vector<std::size_t> debuts;
-        std::uint64_t combinaisons = Assez;
-        for (std::size_t i = 0; i < branches_.size(); ++i) {
-            if (combinaisons >= Assez) {
-                debuts.push_back(i);
-                combinaisons = 0;
-            }
+        return Couper(branches_.size(), Assez, [&](std::size_t i) {
             const auto longueur = static_cast<std::size_t>(branches_[i].longueur);
             const int derniere =
                 longueur == 0 ? -1 : static_cast<int>(branches_[i].choix[longueur - 1]);
-            combinaisons +=
-                Binomial(n - 1 - derniere, domaine_.profondeur - static_cast<int>(longueur));
-        }
-        return debuts;
+            return Binomial(n - 1 - derniere, domaine_.profondeur - static_cast<int>(longueur));
+        });
     }
+    std::size_t nombrePieces() const { return pieces_.size() - 1; }
     std::span<const Branche> piece(std::size_t i) const {
-        const std::size_t fin = i + 1 < pieces_.size() ? pieces_[i + 1] : branches_.size();
-        return std::span(branches_).subspan(pieces_[i], fin - pieces_[i]);
+        return std::span(branches_).subspan(pieces_[i], pieces_[i + 1] - pieces_[i]);
     }
 
     const std::vector<int> fixes_;
     const Domaine domaine_;
     const std::vector<Branche> branches_;
-    const std::vector<std::size_t> pieces_;  ///< first branch of each
+    const std::vector<std::size_t> pieces_;  ///< first branch of each, and the end
     const unsigned fils_;
     const Redacteur redacteur_;
 };
