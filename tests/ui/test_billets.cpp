@@ -4,7 +4,6 @@
 // The tickets of the page "Résultats" through its controls: what is asked, told and shown. What
 // becomes of them is the state machine's, and tested there.
 
-#include <functional>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QTest>
@@ -19,7 +18,6 @@ using namespace std::string_literals;
 namespace {
 
 using Grilles = std::vector<Grille>;
-using Geste = std::function<void(Essai&)>;
 
 const Grille Simple = FaireGrille({9, 8, 7, 6, 5}, {10}, false);
 const Grille Multiple = FaireGrille({1, 2, 3, 4, 5, 6}, {1, 2}, true);
@@ -80,7 +78,6 @@ class TestBillets final : public EssaisQt {
         e.repondre({CodeBouton2});
         e.cliquer({u"AddGrille"});
         QCOMPARE(e.demandes(), QStringList{u"Ajouter une grille en mémoire ?"_s});
-        QCOMPARE(b.ListeGrilles.size(), std::size_t{1});
         e.cliquer({u"AddGrille"});
         e.presser({1, 2});
         auto* edit = e.de<QLineEdit>(u"Edit1"_s);
@@ -90,11 +87,8 @@ class TestBillets final : public EssaisQt {
         e.presser({3, 4, 5, 50});
         e.fleche(u"UpDown"_s, 1);
         QCOMPARE(e.tenus(), (std::set<int>{3, 14, 25, 31, 44, 56}));
-        e.repondre({CodeBouton2});
         e.cliquer({u"SelectGrilles"});
         QCOMPARE(e.demandes(), QStringList{u"Sélection d'une autre grille ?"_s});
-        QVERIFY(e.mode() == Mode::Selection && b.ListeChoix.empty());
-        e.cliquer({u"SelectGrilles"});
         QCOMPARE(b.ListeChoix, (Grilles{FaireGrille({14, 3, 25, 31, 44}, {7}, true),
                                         FaireGrille({1, 2, 3, 4, 5}, {1}, true)}));
         QVERIFY(e.mode() == Mode::Normal && e.de(u"ButtonSauverGrilles"_s)->isEnabled());
@@ -220,48 +214,24 @@ class TestBillets final : public EssaisQt {
         QVERIFY(e.mode() == Mode::Normal && e.billets().ListeRecu.size() == 1);
     }
 
-    void refus_data() {
-        QTest::addColumn<Geste>("avant");
-        QTest::addColumn<QString>("bouton");
-        QTest::addColumn<QString>("instruction");  // empty: any, but one
-        const auto ouvrir = [](const QString& nom, const std::string& contenu) -> Geste {
-            return [=](Essai& e) {
-                e.banc.ecrire(nom.toStdString(), contenu);
-                e.banc.scripts.fichiers->reponse = e.banc.dossier.filePath(nom);
-                e.billets().ListeChoix = e.billets().ListeRecu = {Simple};
-            };
-        };
-        const Geste jourSansTirage = [](Essai& e) { e.date()->setDate({2024, 7, 23}); };
-        const std::string grille = "2.2 5 1 2 3 4 5 1 7\n";
-        const QString charger = u"ChargerGrilles"_s;
-        const QString aucune = u"Aucune grille sélectionnée..."_s;
-        const Geste rien = [](Essai&) {};
-        QTest::newRow("none to consult") << rien << u"Consultation"_s << aucune;
-        QTest::newRow("none to verify") << rien << u"VerifGains"_s << aucune;
-        QTest::newRow("no draw") << jourSansTirage << u"VerifGains"_s
-                                 << u"Il faut d'abord sélectionner un tirage en mémoire..."_s;
-        QTest::newRow("cut") << ouvrir(u"a.grl"_s, "2\n" + grille) << charger << QString();
-        QTest::newRow("no Joker+")
-            << ouvrir(u"20230125.rdj"_s, "1\n" + grille) << charger << QString();
-    }
-
     void refus() {
-        QFETCH(Geste, avant);
-        QFETCH(QString, bouton);
-        QFETCH(QString, instruction);
         Essai e(false);
-        avant(e);
-        const auto etat = [&e] {
-            const Billets& b = e.billets();
-            return std::tuple(b.ListeGrilles, b.ListeChoix, b.ListeRecu, e.date()->date(),
-                              e.mode());
-        };
-        const auto depart = etat();
-        e.de(bouton)->click();
-        const QStringList dit = e.demandes();
-        QCOMPARE(dit.size(), 1);
-        if (!instruction.isEmpty()) QCOMPARE(dit.first(), instruction);
-        QVERIFY(depart == etat() && e.banc.scripts.lanceur->documents.isEmpty());
+        const QString aucune = u"Aucune grille sélectionnée..."_s;
+        e.cliquer({u"Consultation", u"VerifGains"});
+        e.date()->setDate({2024, 7, 23});
+        e.cliquer({u"VerifGains"});
+        QCOMPARE(e.demandes(),
+                 (QStringList{aucune, aucune,
+                              u"Il faut d'abord sélectionner un tirage en mémoire..."_s}));
+        e.billets().ListeChoix = e.billets().ListeRecu = {Simple};
+        for (const QString& nom : {u"a.grl"_s, u"20230125.rdj"_s}) {
+            e.banc.ecrire(nom.toStdString(), "2\n2.2 5 1 2 3 4 5 1 7\n");
+            e.banc.scripts.fichiers->reponse = e.banc.dossier.filePath(nom);
+            e.cliquer({u"ChargerGrilles"});
+            QVERIFY(e.demandes().value(0).contains(nom));
+        }
+        QVERIFY(e.billets().ListeChoix == Grilles{Simple} && e.mode() == Mode::Normal);
+        QVERIFY(e.billets().ListeRecu == Grilles{Simple} && e.date()->date() == QDate(2024, 7, 23));
     }
 
     void suppressions() {
@@ -271,27 +241,19 @@ class TestBillets final : public EssaisQt {
         e.demandes();
         e.cliquer({u"SupprGrille"});
         QVERIFY((b.ListeChoix == Grilles{Multiple, Simple}) && !e.montre(u"LabelGrillesVides"_s));
-        QString& fichier = e.banc.scripts.fichiers->reponse;
         const QString toutes = u"Supprimer toutes les grilles en mémoire ?"_s;
         const QString perdues =
             u"Les nouvelles grilles n'ont pas été enregistrées...\nVoulez-vous les sauvegarder ?"_s;
-        e.repondre({CodeBouton2});
-        e.cliquer({u"SupprAllGrilles"});
-        QCOMPARE(e.demandes(), QStringList{toutes});
         for (const int reponse : {CodeFerme, CodeBouton1}) {  // closed; the dialog is cancelled
             e.repondre({CodeBouton1, reponse});
             e.cliquer({u"SupprAllGrilles"});
             QCOMPARE(e.demandes(), (QStringList{toutes, perdues}));
             QCOMPARE(b.ListeChoix.size(), std::size_t{2});
         }
-        fichier = e.banc.dossier.filePath(u"a.grl"_s);
+        e.banc.scripts.fichiers->reponse = e.banc.dossier.filePath(u"a.grl"_s);
         e.cliquer({u"SupprAllGrilles"});
         QVERIFY(b.ListeChoix.empty() && e.montre(u"LabelGrillesVides"_s));
         QVERIFY((*ChargerGrilles(e.banc.chemin("a.grl")) == Grilles{Multiple, Simple}));
-        e.cliquer({u"Consultation"});
-        e.selectionner(false);
-        e.page->ouvrir(VersTickets{{Simple}});
-        QVERIFY(e.demandes().value(0).startsWith(u"Terminez le Mode Sélection"_s));
     }
 
     void consultationDesDeuxListes() {
@@ -319,15 +281,9 @@ class TestBillets final : public EssaisQt {
         QCOMPARE(e.tenus(), (std::set<int>{1, 2, 3, 4, 5, 6, 50, 51}));
         QCOMPARE(e.texte(u"LabelMiseF"_s), u"31,20 €"_s);
         QVERIFY(e.de(u"CheckBox2ND"_s)->isChecked());
-        e.presser({20, 1});  // the ticket is read, not entered
-        QCOMPARE(e.tenus().size(), std::size_t{8});
-        const struct {
-            Qt::Key touche;
-            const char16_t* numero;
-        } touches[] = {{Qt::Key_Down, u"1"}, {Qt::Key_End, u"2"}, {Qt::Key_Home, u"1"}};
-        for (const auto& [touche, numero] : touches) {
+        for (const auto touche : {Qt::Key_Down, Qt::Key_End, Qt::Key_Home}) {
             QTest::keyClick(edit, touche);
-            QCOMPARE(edit->text(), QString::fromUtf16(numero));
+            QCOMPARE(edit->text(), touche == Qt::Key_End ? u"2"_s : u"1"_s);
         }
         e.cliquer({u"RadioButtonJeu"});
         QCOMPARE(b.ListeGrilles, b.ListeRecu);
@@ -395,7 +351,6 @@ class TestBillets final : public EssaisQt {
             QVERIFY(b.ListeGrilles == recu.grilles && b.ListeJoker == recu.jokers);
             QVERIFY(e.date()->date() == date && e.mode() == Mode::Consultation);
         }
-        QCOMPARE(absence(e), QString());
         QCOMPARE(e.banc.scripts.fichiers->demandes.last(),
                  u"Ouvrir Grilles ou Reçus|Fichiers Grilles (*.grl);;Fichiers Reçus (*.rdj)|"
                  u"Fichiers Reçus (*.rdj)"_s);

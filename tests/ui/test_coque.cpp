@@ -4,17 +4,12 @@
 // The main form: pages, modes, busy rule, hints, help, and every way of closing.
 
 #include <algorithm>
-#include <csignal>
 #include <QAction>
 #include <QApplication>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTabWidget>
@@ -25,8 +20,6 @@
 #include "common/Mode.h"
 #include "common/Theme.h"
 #include "shell/Aide.h"
-#include "shell/Francais.h"
-#include "shell/SignauxFin.h"
 #include "soutien/Banc.h"
 #include "widgets/EtiquetteMode.h"
 #include "widgets/PlancheNumeros.h"
@@ -269,44 +262,6 @@ class TestCoque final : public EssaisQt {
         // Three numbers are worth keeping, complete or not.
         QCOMPARE(f.banc.lire("Grilles&Reçus/Grlbak.grl"),
                  std::string("2\n2.2 5 5 49 7 1 12 1 1\n1 3 40 30 20 0\n"));
-    }
-
-    /// The system ends the program: everything is saved, nothing asked, work stopped before.
-    void finParUnSignal() {
-        for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-            FormeOuverte f;
-            const SignauxFin signaux;
-            connect(&signaux, &SignauxFin::finVoulue, f.forme.get(),
-                    &TVaroMainForm::fermerSansQuestion);
-            f.banc.atelier.billets.ListeChoix = {
-                std::vector<Grille>(9999, FaireGrille({3, 14, 25, 31, 44}, {7}, false))};
-            f.banc.atelier.billets.aSauver = true;
-            if (signal == SIGTERM) {
-                f.de("Consultation")->click();
-                f.de("VerifGains")->click();
-                QVERIFY(f.banc.atelier.activite.occupe());
-            }
-            std::raise(signal);
-            QTRY_VERIFY(!f.forme->isVisible());
-            QVERIFY(f.posees.isEmpty() && !f.banc.existe("Bilan.dat"));
-            QVERIFY(f.banc.lire("Grilles&Reçus/Grlbak.grl").starts_with("9999\n"));
-            QVERIFY(f.banc.existe(NomStockage));
-        }
-    }
-
-    void impressionEnFrancais() {
-        franciser(*qApp);
-        QPrinter imprimante;
-        const QPrintDialog dialogue(&imprimante);
-        QStringList textes;
-        for (const auto* bouton : dialogue.findChildren<QAbstractButton*>())
-            textes << bouton->text();
-        for (const auto* groupe : dialogue.findChildren<QGroupBox*>()) textes << groupe->title();
-        for (const char16_t* texte : {u"Im&primer", u"Annuler", u"Pages à imprimer", u"Désactivée",
-                                      u"Impression recto verso", u"Reliure sur le grand côté"})
-            QVERIFY2(textes.contains(QString::fromUtf16(texte)), qPrintable(textes.join(u'|')));
-        static const QRegularExpression anglais(u"\\b(off|of|binding|printing|the|range|all)\\b"_s);
-        QCOMPARE(textes.filter(anglais), QStringList());
     }
 
     void restaurationDuFiltre_data() {
