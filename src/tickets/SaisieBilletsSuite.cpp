@@ -103,7 +103,7 @@ void SaisieBillets::reprendreJoker() {
 }
 
 Reponse SaisieBillets::peutDater(int date) const {
-    if (EstJourDeTirage(date)) return {};
+    if (DateValide(date) && EstJourDeTirage(date)) return {};
     return Refus{Refus::Titre::Attention, "Cette date ne correspond à aucun Tirage...", {}};
 }
 

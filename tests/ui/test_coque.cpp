@@ -185,6 +185,7 @@ class TestCoque final : public EssaisQt {
         QCOMPARE(d.boutons.at(d.defaut), u"Non, je souhaite continuer à travailler"_s);
 
         f.banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
+        f.banc.atelier.billets.aSauver = true;
         f.forme->close();
         QVERIFY(!f.forme->isVisible());
         QCOMPARE(f.banc.lire("Grilles&Reçus/Grlbak.grl"),
@@ -272,6 +273,7 @@ class TestCoque final : public EssaisQt {
         f.forme->close();
         QVERIFY(f.forme->isVisible());
         QVERIFY(f.posees.last().detail.contains(u"norvane.db"_s));
+        QCOMPARE(f.posees.last().boutons.at(f.posees.last().defaut), u"Non"_s);
         f.forme->close();
         QVERIFY(!f.forme->isVisible());
     }

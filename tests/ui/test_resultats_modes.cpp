@@ -203,24 +203,6 @@ class TestResultatsModes final : public EssaisQt {
         QCOMPARE(QApplication::focusWidget(), e.de(u"SelectGrilles"_s));
     }
 
-    void annoncesDuMode() {
-        Essai e(false);
-        QList<Mode> dits;
-        int tickets = 0;
-        connect(&e.banc.relais, &Relais::change, this, [&](const Changement& c) {
-            if (c.mode) dits << e.mode();
-            tickets += c.tickets ? 1 : 0;
-        });
-        e.selectionner(false);
-        QVERIFY(dits == QList<Mode>{Mode::Selection} && tickets == 1);
-        e.presser({1, 2, 3, 4, 5, 50});  // the ticket in hand is nobody else's matter
-        QCOMPARE(tickets, 1);
-        e.cliquer({u"AddGrille", u"NormalMode", u"Consultation", u"SupprGrille", u"Consultation"});
-        QCOMPARE(dits,
-                 (QList<Mode>{Mode::Selection, Mode::Normal, Mode::Consultation, Mode::Normal}));
-        QCOMPARE(tickets, 6);
-    }
-
     void regleOccupe() {
         Essai e(false);
         e.banc.atelier.activite.TraitementsEnCours = 1;

@@ -44,14 +44,20 @@ class MessagesScriptes final : public Messages {
 
 class FichiersScriptes final : public DialoguesFichiers {
  public:
-    QString reponse;       ///< the next path, empty to cancel
-    QString filtre;        ///< the filter chosen with it
-    QStringList demandes;  ///< of each dialog so far: title, filters and preset filter
-    QString enregistrer(QWidget*, const QString& titre, const QString&, const QString& filtres,
+    std::deque<QString> dabord;  ///< the next paths, before
+    QString reponse;             ///< the path of all that follow, empty to cancel
+    QString propose;             ///< the name that the last one was opened with
+    QString filtre;              ///< the filter chosen with it
+    QStringList demandes;        ///< of each dialog so far: title, filters and preset filter
+    QString enregistrer(QWidget*, const QString& titre, const QString& nom, const QString& filtres,
                         QString& filtreChoisi) override {
         demandes << titre + u"|"_s + filtres;
         filtreChoisi = filtre;
-        return reponse;
+        propose = nom;
+        if (dabord.empty()) return reponse;
+        const QString choisi = dabord.front();
+        dabord.pop_front();
+        return choisi;
     }
     QString ouvrir(QWidget*, const QString& titre, const QString&, const QString& filtres,
                    const QString& filtrePreset) override {

@@ -172,7 +172,8 @@ class SaisieBillets {
     /// One step back: to the last number entered, which is taken out to be entered again, or to
     /// the count when there is none.
     void reprendreJoker();
-    /// Before the question of enregistrerRecu(): a day of draws, yyyymmdd.
+    /// Before the question of enregistrerRecu(): a day of draws, yyyymmdd; what is no date is
+    /// refused too.
     Reponse peutDater(int date) const;
     /// Writes the receipt below `repertoire`, behind the one that its date has already when
     /// `ajouterAExistant`, in its place otherwise; both are then the receipt in memory. Normal

@@ -296,7 +296,7 @@ void PageResultats::montrerFiche() {
         case EtatJokerCompte:
         case EtatJokerNumeros:
         case EtatJokerDate:
-            fiche_->montrerTexte(u"Reçu de Jeu"_s, texteRecu(contexte.atelier.billets));
+            fiche_->montrerTexte(u"Reçu de Jeu"_s, texteRecu(contexte.atelier));
             break;
         default:
             montrerGrille();

@@ -15,7 +15,6 @@
 #include "base/Textes.h"
 #include "common/Theme.h"
 #include "pages/Page.h"
-#include "resultats/TextesBillets.h"
 #include "widgets/ChampNumero.h"
 #include "widgets/Fiche.h"
 
@@ -113,12 +112,13 @@ void PanneauAleatoire::borner() {
 
 QString PanneauAleatoire::effet(bool coupe) const {
     const int n = nombre();
-    const QString place = u"La liste n'a plus de place que pour %1"_s.arg(
-        compte(static_cast<std::size_t>(libres_), u"grille"_s));
-    if (coupe || (n > 1 && n > libres_)) return place;
     if (n == 1) return u"Une grille tirée sur la planche"_s;
     if (n == 0) return {};
-    return u"%1 grilles ajoutées à la liste"_s.arg(versQt(FormaterCompte(n)));
+    const QString grilles = u"%1 grille%2"_s.arg(versQt(FormaterCompte(std::min(n, libres_))),
+                                                 libres_ > 1 ? u"s" : u"");
+    if (coupe) return u"La liste n'a plus de place que pour "_s + grilles;
+    return (n < libres_ ? u"%1 de plus dans la liste"_s : u"%1 de plus, et la liste est pleine"_s)
+        .arg(grilles);
 }
 
 }  // namespace norvane::ui

@@ -5,14 +5,11 @@
 
 #include <algorithm>
 #include <QButtonGroup>
-#include <QCalendarWidget>
 #include <QCheckBox>
-#include <QDateEdit>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -22,6 +19,7 @@
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "resultats/ChampJoker.h"
+#include "widgets/ChampDate.h"
 #include "widgets/ChampNumero.h"
 #include "widgets/Fiche.h"
 
@@ -33,12 +31,9 @@ namespace {
 
 constexpr int ComptesProposes = 10;
 constexpr int NonParticipant = 0;
-constexpr int CompteLibre = -1;  // identifier of the free radio button
 constexpr int CompteMax = 999;
-
-int enEntier(QDate d) {
-    return d.year() * 10000 + d.month() * 100 + d.day();
-}
+constexpr int CompteLibre = CompteMax + 1;  // identifier of the free radio button
+constexpr int DerniereDate = 2099'12'31;
 
 }  // namespace
 
@@ -131,7 +126,7 @@ QWidget* PanneauJoker::creerSaisie() {
     pile->addWidget(mise_);
     creerDate(page);
     pile->addWidget(date_);
-    pile->addWidget(dateLongue_);
+    pile->addWidget(date_->mots());
     valider_ = bouton(u"ButtonValiderJack"_s, u"&Valider"_s, {}, page);
     retour_ = bouton(u"JokerPrecedent"_s, u"&Précédent"_s, {}, page);
     auto* pied = rangee({valider_, retour_});
@@ -172,21 +167,12 @@ QWidget* PanneauJoker::creerMise(QWidget* page) {
 }
 
 void PanneauJoker::creerDate(QWidget* page) {
-    date_ = new QDateEdit(page);
-    date_->setObjectName(u"DateParticipation"_s);
-    date_->setLocale(QLocale(QLocale::French, QLocale::France));
-    date_->setDisplayFormat(u"dd/MM/yyyy"_s);
-    date_->setMinimumDate(QDate(2008, 10, 6));
-    date_->setCalendarPopup(true);
-    date_->calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    date_->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+    date_ = new ChampDate(u"DateParticipation"_s, page);
     date_->setAccessibleName(u"Date de participation"_s);
-    date_->setFixedWidth(date_->fontMetrics().horizontalAdvance(u"00/00/0000"_s) + 60);
+    date_->poserLimites(DateNouveauLoto, DerniereDate);
+    date_->poserMarques(EstJourDeTirage);
     poserIndice(date_, u"Un jour de tirage : lundi, mercredi ou samedi"_s);
-    dateLongue_ = legende({}, page);
-    dateLongue_->setObjectName(u"DateParticipationLongue"_s);
-    connect(date_, &QDateEdit::dateChanged, this,
-            [this](QDate date) { dateLongue_->setText(versQt(DateLongue(enEntier(date)))); });
+    connect(date_, &QLineEdit::returnPressed, this, &PanneauJoker::valider);
 }
 
 /// The stakes exclude each other, and one is always ticked.
@@ -207,7 +193,7 @@ int PanneauJoker::compteChoisi() const {
 
 void PanneauJoker::valider() {
     if (saisie_.etape() == EtapeJoker::Date) {
-        Q_EMIT dateValidee(enEntier(date_->date()));
+        Q_EMIT dateValidee(date_->valable() ? date_->date() : 0);
     } else {
         const int mises = mises_->item(1)->checkState() == Qt::Checked ? 2 : 1;
         Q_EMIT numeroValide(chiffres_->text().remove(u'.'), mises, plusOuMoins_->isChecked());
@@ -230,7 +216,7 @@ void PanneauJoker::entrer() {
     };
     // What comes has the focus before the rest goes: it must not wander off meanwhile.
     const bool date = etape == EtapeJoker::Date;
-    montrer({date_, dateLongue_}, date);
+    montrer({date_, date_->mots()}, date);
     if (!date) montrer({chiffres_, mise_, restants_}, true);
     viser();
     if (date) montrer({chiffres_, mise_, restants_}, false);
@@ -264,9 +250,8 @@ void PanneauJoker::demanderDate() {
     poserIndice(valider_, u"Valider la date de participation"_s);
     poserIndice(retour_, saisie_.compteJoker() > 0 ? u"Revenir au Numéro Joker+ précédent"_s
                                                    : u"Revenir au nombre de Numéros Joker+"_s);
-    const int date = ProchainJourDeTirage(enEntier(contexte_.services.horloge->aujourdhui()));
-    date_->setDate(QDate(date / 10000, date / 100 % 100, date % 100));
-    dateLongue_->setText(versQt(DateLongue(date)));
+    const QDate jour = contexte_.services.horloge->aujourdhui();
+    date_->poser(ProchainJourDeTirage(jour.year() * 10000 + jour.month() * 100 + jour.day()));
 }
 
 void PanneauJoker::viser() {
@@ -278,7 +263,7 @@ void PanneauJoker::viser() {
             chiffres_->setFocus();
             break;
         case EtapeJoker::Date:
-            date_->setFocus();
+            date_->viser();
     }
 }
 

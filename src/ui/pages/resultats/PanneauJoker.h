@@ -9,7 +9,6 @@
 
 class QButtonGroup;
 class QCheckBox;
-class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -24,6 +23,7 @@ class SaisieBillets;
 namespace norvane::ui {
 
 struct Contexte;
+class ChampDate;
 class ChampNumero;
 
 class PanneauJoker final : public QWidget {
@@ -41,7 +41,7 @@ class PanneauJoker final : public QWidget {
     void Button66Click(int compte);
     /// `chiffres`: what was typed of the seven digits; `mises` 1 or 2.
     void numeroValide(const QString& chiffres, int mises, bool plusOuMoins);
-    /// yyyymmdd.
+    /// yyyymmdd; 0 when what was typed is no date.
     void dateValidee(int date);
     /// One step back is asked for.
     void retour();
@@ -70,8 +70,7 @@ class PanneauJoker final : public QWidget {
     QWidget* mise_ = nullptr;
     QListWidget* mises_ = nullptr;
     QCheckBox* plusOuMoins_ = nullptr;
-    QDateEdit* date_ = nullptr;
-    QLabel* dateLongue_ = nullptr;
+    ChampDate* date_ = nullptr;
     QPushButton* valider_ = nullptr;
     QPushButton* retour_ = nullptr;
 };

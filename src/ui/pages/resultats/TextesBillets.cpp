@@ -40,25 +40,24 @@ QString compte(std::size_t n, const QString& mot) {
     return u"%1 %2%3"_s.arg(n).arg(mot, n > 1 ? u"s"_s : QString());
 }
 
-QString texteRecu(const Billets& billets) {
-    return compte(billets.ListeRecu.size(), u"grille"_s) +
-           u", %1 Joker+"_s.arg(billets.ListeJoker.size());
+QString texteRecu(const Atelier& atelier) {
+    const Billets& billets = atelier.billets;
+    const QString comptes = compte(billets.ListeRecu.size(), u"grille"_s) +
+                            u", %1 Joker+"_s.arg(billets.ListeJoker.size());
+    if (billets.ListeJoker.empty()) return comptes;
+    const auto& reglages = atelier.configuration.reglages;
+    return comptes + u'\n' + texteJokers(billets.ListeJoker, versQt(reglages.SymboleMonnaie));
 }
 
 QString texteMemoire(const Atelier& atelier) {
-    const Billets& billets = atelier.billets;
     const int date = atelier.saisie.dateRecu();
-    QStringList lignes{
-        u"Grilles au choix : %1"_s.arg(billets.ListeChoix.size()),
-        (date > 0 ? u"Reçu de Jeu du %1 : "_s.arg(versQt(DateLongue(date))) : u"Reçu de Jeu : "_s) +
-            texteRecu(billets)};
-    if (!billets.ListeJoker.empty()) {
-        const auto& reglages = atelier.configuration.reglages;
-        lignes << texteJokers(billets.ListeJoker, versQt(reglages.SymboleMonnaie));
-    }
+    const QString du = date > 0 ? u" du "_s + versQt(DateLongue(date)) : QString();
     const Cases& choix = atelier.choixLibre;
-    lignes << u"Choix libre : %1 + %2C"_s.arg(choix.numeros.taille()).arg(choix.chances.taille());
-    return lignes.join(u'\n');
+    return QStringList{
+        u"Grilles au choix : %1"_s.arg(atelier.billets.ListeChoix.size()),
+        u"Reçu de Jeu%1 : "_s.arg(du) + texteRecu(atelier),
+        u"Choix libre : %1 + %2C"_s.arg(choix.numeros.taille()).arg(choix.chances.taille())}
+        .join(u'\n');
 }
 
 }  // namespace norvane::ui

@@ -12,8 +12,8 @@ namespace norvane::ui {
 
 /// "2 grilles": the count and its noun, plural from two on.
 QString compte(std::size_t n, const QString& mot);
-/// The receipt: grids and Joker+ numbers, counted.
-QString texteRecu(const Billets& billets);
+/// The receipt: grids and Joker+ numbers, counted, then these numbers on a line if there are any.
+QString texteRecu(const Atelier& atelier);
 /// The stock, the receipt with its date and its Joker+ numbers, the free choice: a line each.
 QString texteMemoire(const Atelier& atelier);
 
