@@ -35,7 +35,7 @@ std::vector<Mot> Chercher(const ContexteComb& c, int taille, int inf, int sup) {
     return collecte.mots;
 }
 
-std::vector<Mot> Attendre(const Etabli& e, const std::set<Numeros>& choix, ModeStockage mode,
+std::vector<Mot> Attendre(const Etabli& e, const std::set<NumerosChoisis>& choix, ModeStockage mode,
                           int inf, int sup) {
     std::vector<Mot> mots;
     for (const auto& c : choix) {
@@ -83,7 +83,7 @@ TEST(Bornes, SelectionsAgainstAllChoices) {
     Etabli e(BaseAleatoire(hasard, 80, 14));
     e.intervalle(7, 78);
     struct {
-        Numeros absolus, secondaires;
+        NumerosChoisis absolus, secondaires;
         int taille;
     } const cas[] = {{{5}, {}, 2},
                      {{5}, {1, 9, 13}, 2},
@@ -109,7 +109,7 @@ TEST(Bornes, SelectionsAgainstAllChoices) {
         const auto& pris = s > c.taille            ? c.absolus
                            : c.secondaires.empty() ? e.selection.Complement
                                                    : c.secondaires;
-        Numeros reserve = pris;
+        NumerosChoisis reserve = pris;
         std::erase_if(reserve, [&](int n) {
             return s < c.taille && std::count(c.absolus.begin(), c.absolus.end(), n) > 0;
         });
@@ -127,7 +127,7 @@ TEST(Bornes, SelectionsAgainstAllChoices) {
 TEST(Bornes, OneCombinationHasItsCountAlone) {
     std::mt19937 hasard(24);
     Etabli e(BaseAleatoire(hasard, 40, 10));
-    for (const auto& c : {Numeros{2, 5}, {1, 2, 3, 4, 5, 6, 7}}) {
+    for (const auto& c : {NumerosChoisis{2, 5}, {1, 2, 3, 4, 5, 6, 7}}) {
         e.choisir(c, {});
         const int taille = static_cast<int>(c.size());
         const int n = CompterSorties(e.base, c, 1, 40);
@@ -262,8 +262,8 @@ TEST(Bornes, EstimatesHoldTheTruth) {
         const Base base = BaseAleatoire(hasard, 20 + static_cast<int>(hasard() % 300), libres);
         std::vector<Masque> masques;
         for (const Tirage& t : base.Tirages) masques.push_back(Ensemble::de(t.Numeros).bits());
-        Numeros reserve = TousLesNumeros(essai % 3 == 0 ? 27 : libres);
-        Numeros fixes(reserve.begin(), reserve.begin() + essai % 4);
+        NumerosChoisis reserve = TousLesNumeros(essai % 3 == 0 ? 27 : libres);
+        NumerosChoisis fixes(reserve.begin(), reserve.begin() + essai % 4);
         reserve.erase(reserve.begin(), reserve.begin() + essai % 4);
         if (essai % 6 == 5) fixes.clear();
         const Residus residus(masques, 0, Ensemble::de(fixes).bits(), reserve,
@@ -284,12 +284,13 @@ TEST(Bornes, EstimatesHoldTheTruth) {
 
 /// Every combination of `taille` numbers of `reserve` that holds a draw: each draw within it filled
 /// up in every way, with how many draws it holds.
-std::map<Masque, int> QuiTiennentUnTirage(const Base& base, const Numeros& reserve, int taille) {
+std::map<Masque, int> QuiTiennentUnTirage(const Base& base, const NumerosChoisis& reserve,
+                                          int taille) {
     std::map<Masque, int> comptes;
     for (const Tirage& t : base.enUsage()) {
         const Ensemble e = Ensemble::de(t.Numeros);
         if (!Ensemble::de(reserve).contient(e)) continue;
-        Numeros autres;
+        NumerosChoisis autres;
         for (const int n : reserve)
             if (!e.contient(n)) autres.push_back(n);
         for (const auto& plus : Choix({}, autres, taille - NbBoules))
@@ -302,7 +303,7 @@ TEST(Bornes, LargeSelectionInPiecesWhateverTheThreads) {
     Etabli e(BaseIntegree(false));
     // Pieces of one, two and three numbers.
     for (const auto& [taille, libres] : {std::pair{7, 25}, {9, 24}, {7, 32}, {8, 30}}) {
-        const Numeros reserve = TousLesNumeros(libres);
+        const NumerosChoisis reserve = TousLesNumeros(libres);
         e.choisir(reserve, {});
         ContexteComb c = e.contexte();
         const auto mots = Chercher(c, taille, 1, 99);
@@ -331,7 +332,7 @@ TEST(Bornes, FirstOfALongList) {
          {std::tuple{6, 0, 0}, {6, 0, 1}, {7, 0, 2}, {8, 0, 9}, {10, 0, 0}, {10, 1, 99}}) {
         std::vector<Mot> attendus;
         std::size_t nombre = 0;
-        const auto chercher = [&](const auto& self, Numeros c, int premier) -> void {
+        const auto chercher = [&](const auto& self, NumerosChoisis c, int premier) -> void {
             if (nombre == 5000) return;
             if (static_cast<int>(c.size()) < taille) {
                 for (c.push_back(premier); c.back() <= NumeroMax; ++c.back())

@@ -48,8 +48,9 @@ Attendu Attendre(const Comptes& comptes, bool minimum) {
     return a;
 }
 
-std::vector<std::pair<Numeros, int>> Comptes(const Etabli& e, const std::set<Numeros>& choix) {
-    std::vector<std::pair<Numeros, int>> comptes;
+std::vector<std::pair<NumerosChoisis, int>> Comptes(const Etabli& e,
+                                                    const std::set<NumerosChoisis>& choix) {
+    std::vector<std::pair<NumerosChoisis, int>> comptes;
     for (const auto& c : choix)
         comptes.emplace_back(c,
                              CompterSorties(e.base, c, e.occ.IntervalleInf, e.occ.IntervalleSup));
@@ -108,11 +109,11 @@ TEST(Extremes, BoundLeftByAnotherBase) {
 /// Sorted lines at the extremes, from the table of all combinations that came out.
 Attendu ParTable(const Base& base, int taille, int inf, int sup, bool minimum) {
     const auto table = TableDesComptes(base, taille, inf, sup);
-    std::map<Numeros, int> comptes;
+    std::map<NumerosChoisis, int> comptes;
     if (minimum)
         for (const auto& c : Choix({}, TousLesNumeros(), taille)) comptes[c] = 0;
     for (const auto& [cle, n] : table) {
-        Numeros c;
+        NumerosChoisis c;
         for (auto reste = cle; reste != 0; reste /= 64)
             c.insert(c.begin(), static_cast<int>(reste % 64));
         comptes[c] = n;

@@ -16,40 +16,41 @@
 
 namespace norvane {
 
-using Numeros = std::vector<int>;
+using NumerosChoisis = std::vector<int>;
 
-inline Numeros TousLesNumeros(int dernier = NumeroMax) {
-    Numeros tous(static_cast<std::size_t>(dernier));
+inline NumerosChoisis TousLesNumeros(int dernier = NumeroMax) {
+    NumerosChoisis tous(static_cast<std::size_t>(dernier));
     std::iota(tous.begin(), tous.end(), 1);
     return tous;
 }
 
 /// True for the draws that count: all numbers came out, or from size 6 on all five lie in it.
-inline bool Tient(const Tirage& t, const Numeros& c) {
+inline bool Tient(const Tirage& t, const NumerosChoisis& c) {
     return c.size() <= 5 ? std::includes(t.Numeros, t.Numeros + NbBoules, c.begin(), c.end())
                          : std::includes(c.begin(), c.end(), t.Numeros, t.Numeros + NbBoules);
 }
 
-inline Presences PresencesCombinaison(const Base& base, const Numeros& c) {
+inline Presences PresencesCombinaison(const Base& base, const NumerosChoisis& c) {
     Presences presences;
     for (const Tirage& t : base.enUsage()) presences.push_back(Tient(t, c));
     return presences;
 }
 
-inline int CompterSorties(const Base& base, const Numeros& c, int inf, int sup) {
+inline int CompterSorties(const Base& base, const NumerosChoisis& c, int inf, int sup) {
     int n = 0;
     for (int d = inf - 1; d < sup; ++d) n += Tient(base.Tirages[static_cast<std::size_t>(d)], c);
     return n;
 }
 
 /// `fixes` and every choice of `k` numbers of `reserve`, in lexicographic order.
-inline std::set<Numeros> Choix(const Numeros& fixes, const Numeros& reserve, int k) {
-    std::set<Numeros> choix;
+inline std::set<NumerosChoisis> Choix(const NumerosChoisis& fixes, const NumerosChoisis& reserve,
+                                      int k) {
+    std::set<NumerosChoisis> choix;
     std::vector<bool> pris(reserve.size());
     if (k > static_cast<int>(reserve.size())) return choix;
     std::fill_n(pris.begin(), k, true);
     do {
-        Numeros c = fixes;
+        NumerosChoisis c = fixes;
         for (std::size_t i = 0; i < reserve.size(); ++i)
             if (pris[i]) c.push_back(reserve[i]);
         std::sort(c.begin(), c.end());
@@ -58,10 +59,10 @@ inline std::set<Numeros> Choix(const Numeros& fixes, const Numeros& reserve, int
     return choix;
 }
 
-inline std::set<Numeros> Series(int taille) {
-    std::set<Numeros> series;
+inline std::set<NumerosChoisis> Series(int taille) {
+    std::set<NumerosChoisis> series;
     for (int a = 1; a + taille - 1 <= NumeroMax; ++a) {
-        Numeros serie(static_cast<std::size_t>(taille));
+        NumerosChoisis serie(static_cast<std::size_t>(taille));
         std::iota(serie.begin(), serie.end(), a);
         series.insert(serie);
     }
@@ -69,8 +70,8 @@ inline std::set<Numeros> Series(int taille) {
 }
 
 /// The record of a combination over draws inf..sup.
-inline std::vector<Mot> Enregistrer(const Base& base, const Numeros& c, ModeStockage mode, int inf,
-                                    int sup) {
+inline std::vector<Mot> Enregistrer(const Base& base, const NumerosChoisis& c, ModeStockage mode,
+                                    int inf, int sup) {
     const ResultatStats r = OracleStats(PresencesCombinaison(base, c), inf - 1, sup - 1);
     const std::vector<Mot> premier = {static_cast<Mot>(r.Sorties), r.Ecart, r.EcartMax, r.Suite,
                                       r.SuiteMax};
@@ -129,7 +130,7 @@ struct Etabli {
                 .mode = mode,
                 .threads = 2};
     }
-    void choisir(const Numeros& absolus, const Numeros& secondaires) {
+    void choisir(const NumerosChoisis& absolus, const NumerosChoisis& secondaires) {
         GrilleSelection grille{};
         for (const int n : secondaires)
             grille[static_cast<std::size_t>(n - 1)] = Priorite::Secondaire;

@@ -197,7 +197,7 @@ class TestBillets final : public EssaisQt {
         e.cliquer({u"VerifGains"});
         QCOMPARE(e.demandes(),
                  QStringList{u"Vérifier le reçu avec le tirage du lundi 22 juillet 2024 ?"_s});
-        QCOMPARE(e.date()->date(), QDate(2024, 7, 22));
+        QCOMPARE(e.date()->date(), 20240722);
         QVERIFY(versQt(e.banc.lire("Lotoveri.dat")).contains(u"du lundi 22 juillet 2024"_s));
         e.montrer(5);
         e.cliquer({u"VerifGains"});
@@ -231,7 +231,7 @@ class TestBillets final : public EssaisQt {
             QVERIFY(e.demandes().value(0).contains(nom));
         }
         QVERIFY(e.billets().ListeChoix == Grilles{Simple} && e.mode() == Mode::Normal);
-        QVERIFY(e.billets().ListeRecu == Grilles{Simple} && e.date()->date() == QDate(2024, 7, 23));
+        QVERIFY(e.billets().ListeRecu == Grilles{Simple} && e.date()->date() == 20240723);
     }
 
     void suppressions() {
@@ -341,9 +341,9 @@ class TestBillets final : public EssaisQt {
 
         const RecuDeJeu recu{{Multiple}, {{{1, 2, 3, 4, 5, 6, 7}, 3}}};
         // A name without a date leaves the draw; one ahead of the base is a date like others.
-        const std::pair<QString, QDate> recus[] = {{u"/20230125.rdj"_s, {2023, 1, 25}},
-                                                   {u"/recu.rdj"_s, {2023, 1, 25}},
-                                                   {u"/20300102.rdj"_s, {2030, 1, 2}}};
+        const std::pair<QString, int> recus[] = {{u"/20230125.rdj"_s, 20230125},
+                                                 {u"/recu.rdj"_s, 20230125},
+                                                 {u"/20300102.rdj"_s, 20300102}};
         for (const auto& [nom, date] : recus) {
             reponse = dossier + nom;
             std::ofstream(reponse.toStdString()) << TexteRecu(recu);
