@@ -4,6 +4,7 @@
 
 #include <thread>
 
+#include "atelier/Moteur.h"
 #include "base/BaseIntegree.h"
 #include "comb/LigneCombinaison.h"
 #include "OracleComb.h"

@@ -150,14 +150,13 @@ class TestCombinaisons : public EssaisQt {
         QVERIFY(e.a.combinaisons.NbTiragesComb[10] == 0 && e.lu(11) == u"NC"_s);
         QVERIFY(!e.banc.existe("comb10.dat") && !e.banc.existe(NomCombCalc) && e.posees.isEmpty());
 
-        e.calculer(3);
-        e.calculer(5);
+        for (const int taille : {3, 6, 5}) e.calculer(taille);
         const auto alerte = [&e] { return e.de<Alerte>("Alerte")->accessibleName(); };
         QVERIFY(alerte().startsWith(
             u"Traitement terminé\nCombinaisons de 5 numéros\nTemps de calcul : "_s));
         e.mode()->setCurrentIndex(1);
         e.page->moteur().threads = 1;
-        e.comb(5)->click();
+        e.comb(6)->click();
         QVERIFY(e.a.activite.TraitementsEnCours == 1 && !e.mode()->isEnabled());
         for (const char* autre : {"RadioGroup1Item2", "Comb3Search", "ButtonPosition",
                                   "BitBtnWithColor7"})  // the last one is another page's
@@ -167,22 +166,22 @@ class TestCombinaisons : public EssaisQt {
         QCOMPARE(e.posees.size(), 5);
         for (const DemandeMessage& d : e.posees)
             QCOMPARE(d.instruction, u"Attendez la fin du traitement en cours..."_s);
-        // Every combination of five numbers: the gauge is seen on its way.
+        // Every combination of six numbers: the gauge is seen on its way.
         auto* jauge = e.de<QProgressBar>("CGauge");
         QTRY_VERIFY_WITH_TIMEOUT(jauge->value() > 0, 60000);
         QVERIFY(jauge->value() < jauge->maximum() && e.texte("LabelTemps").isEmpty());
-        e.comb(5)->click();
+        e.comb(6)->click();
         e.finir();
-        QVERIFY(e.comb(5)->text() == u"COMB &5"_s && jauge->value() < 0);
+        QVERIFY(e.comb(6)->text() == u"COMB &6"_s && jauge->value() < 0);
         QVERIFY(e.a.ListeMemoire.partielle && e.lignes() > 0);
         QVERIFY(e.texte("LabelEtatListe").startsWith(u"liste partielle"_s));
-        QVERIFY(e.texte("LabelCombEnMemoire").endsWith(u" à 5 numéros, liste partielle"_s));
+        QVERIFY(e.texte("LabelCombEnMemoire").endsWith(u" à 6 numéros, liste partielle"_s));
         QVERIFY(e.de<QLabel>("LabelCombEnListe")->toolTip().startsWith(u"Liste partielle : "_s));
         QVERIFY(e.mode()->isEnabled() && e.a.activite.TraitementsEnCours == 0);
         QVERIFY(alerte().startsWith(u"Traitement arrêté\n"_s));
 
         // Closing during a run: no question before it has stopped.
-        e.comb(5)->click();
+        e.comb(6)->click();
         e.forme->close();
         QVERIFY(e.posees.size() == 5 && e.forme->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!e.forme->isVisible(), 60000);

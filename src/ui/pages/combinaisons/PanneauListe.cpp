@@ -67,10 +67,10 @@ PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, QWidget* p
     rang_->setObjectName(QString::fromUtf16(noms.rang));
     rang_->setWordWrap(true);
     etat_->setObjectName(QString::fromUtf16(noms.etat));
-    for (QLabel* ligne : {etat_, rang_}) ligne->setMinimumHeight(ligne->fontMetrics().height());
+    rang_->setMinimumHeight(rang_->fontMetrics().height());
 
     auto* tete = new QHBoxLayout;
-    tete->addLayout(colonne(u"Combinaisons en liste"_s, rangee({nombre_}), this));
+    tete->addLayout(colonne(u"Combinaisons en liste"_s, rangee({nombre_, etat_}), this));
     tete->addStretch(1);
     auto* indice = colonne(u"Indice"_s, rangee({indice_}), this);
     indice->itemAt(0)->setAlignment(Qt::AlignRight);
@@ -79,7 +79,6 @@ PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, QWidget* p
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(Unite);
     pile->addLayout(tete);
-    pile->addWidget(etat_);
     pile->addWidget(boite_, 1);
     pile->addLayout(colonne(QString::fromUtf16(noms.sensTitre), rangee({titre_}), this));
     pile->addWidget(rang_);
@@ -109,7 +108,7 @@ void PanneauListe::direNombre(const Liste* montree) {
         indices << u"Liste partielle : le calcul a été arrêté avant la fin"_s;
     }
     if (montree != nullptr && montree->nombreTotal() > lignes) {
-        etats << u"liste coupée"_s;
+        etats << (etats.isEmpty() ? u"liste coupée"_s : u"coupée"_s);
         indices << u"Les %1 premières sont affichées"_s.arg(lignes);
     }
     etat_->setText(etats.join(u", "_s));
