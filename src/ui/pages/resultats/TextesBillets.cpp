@@ -42,8 +42,8 @@ QString compte(std::size_t n, const QString& mot) {
 
 QString texteRecu(const Atelier& atelier) {
     const Billets& billets = atelier.billets;
-    const QString comptes = compte(billets.ListeRecu.size(), u"grille"_s) +
-                            u", %1 Joker+"_s.arg(billets.ListeJoker.size());
+    QString comptes = compte(billets.ListeRecu.size(), u"grille"_s) +
+                      u", %1 Joker+"_s.arg(billets.ListeJoker.size());
     if (billets.ListeJoker.empty()) return comptes;
     const auto& reglages = atelier.configuration.reglages;
     return comptes + u'\n' + texteJokers(billets.ListeJoker, versQt(reglages.SymboleMonnaie));
