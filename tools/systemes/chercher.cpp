@@ -8,7 +8,8 @@
 // holds what each group came to, so that later runs begin with the best. With "reprise", goes on
 // from the design of the stock, under a subgroup of its group or none.
 #include <algorithm>
-#include <chrono>
+#include <cmath>
+#include <ctime>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -21,8 +22,6 @@
 namespace {
 
 using namespace systemes;
-using Horloge = std::chrono::steady_clock;
-
 constexpr long PasParTranche = 500;
 
 struct Options {
@@ -36,8 +35,9 @@ struct Options {
     bool reprise = false;
 };
 
-double Depuis(Horloge::time_point debut) {
-    return std::chrono::duration<double>(Horloge::now() - debut).count();
+/// Time of the processor since, in seconds: what else runs on the machine takes nothing away.
+double Depuis(std::clock_t debut) {
+    return static_cast<double>(std::clock() - debut) / CLOCKS_PER_SEC;
 }
 
 /// One search under one group, kept alive from round to round.
@@ -52,7 +52,7 @@ struct Essai {
 class Chercheur {
    public:
     explicit Chercheur(Options options)
-        : o_(std::move(options)), alea_(o_.graine), debut_(Horloge::now()) {}
+        : o_(std::move(options)), alea_(o_.graine), debut_(std::clock()) {}
 
     void chercher();
 
@@ -67,7 +67,7 @@ class Chercheur {
 
     Options o_;
     std::mt19937_64 alea_;
-    Horloge::time_point debut_;
+    std::clock_t debut_;
 };
 
 /// Half from the memory, the best first, the others at random.
@@ -127,7 +127,7 @@ void Chercheur::garder(const Essai& essai) {
 }
 
 void Chercheur::travailler(Essai& essai, double secondes) {
-    const auto debut = Horloge::now();
+    const std::clock_t debut = std::clock();
     const double avant = essai.secondes;
     if (essai.recherche->poidsMeilleur() == 0) {
         essai.recherche->partir({});

@@ -37,8 +37,8 @@ while [ ! -e "$memoire/arret" ]; do
       "$RANDOM$RANDOM" "${options[@]}"
   done < <(tirer 20)
   if [ -x "$programmes/norvane-systemes-fermer" ]; then
-    "$programmes/norvane-systemes-fermer" "$stock"
+    "$programmes/norvane-systemes-fermer" "$stock" "$memoire/fermeture"
   fi
   "$programmes/norvane-systemes-table" "$stock" > "$memoire/bilan" && tail -n 1 "$memoire/bilan"
-  secondes=$(awk -v s="$secondes" 'BEGIN { s *= 1.05; print s > 240 ? 240 : s }')
+  secondes=$(awk -v s="$secondes" 'BEGIN { s *= 1.05; print (s > 240 ? 240 : s) }')
 done
