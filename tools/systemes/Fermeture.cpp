@@ -6,6 +6,8 @@
 #include <iostream>
 #include <limits>
 
+#include "Triples.h"
+
 namespace systemes {
 
 namespace {
@@ -212,6 +214,15 @@ bool Fermeture::parPointOte(const Cle& cle) {
     return mieux;
 }
 
+bool Fermeture::parTriples(const Cle& cle) {
+    if (cle.k != 3 || cle.p != 2 || taille(cle) <= TailleTriples(cle.v)) return false;
+    for (int essai = 0; essai < 20; ++essai) {
+        const std::vector<Bloc> blocs = Triples(cle.v, 2'000'000, alea_);
+        if (!blocs.empty()) return proposer(cle, "triples", "-", blocs);
+    }
+    return false;
+}
+
 /// Blocks of four for all triples: a design on each half, and for the triples across the pairs of
 /// one-factors of the same number.
 bool Fermeture::parDoublement(const Cle& cle) {
@@ -248,6 +259,7 @@ int Fermeture::fermer() {
             if (stock_.find(cle) != stock_.end() &&
                 nouveau('e' + Texte(cle) + ':' + std::to_string(taille(cle))))
                 mieux |= proposer(cle, "elagage", "-", stock_[cle]);
+            mieux |= parTriples(cle);
             mieux |= parDoublement(cle);
             mieux |= parProduits(cle);
             mieux |= parMonotonie(cle);

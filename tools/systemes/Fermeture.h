@@ -46,6 +46,7 @@ class Fermeture {
     bool parProduits(const Cle& cle);
     bool parMonotonie(const Cle& cle);
     bool parPointOte(const Cle& cle);
+    bool parTriples(const Cle& cle);
     bool parDoublement(const Cle& cle);
     bool nouveau(const std::string& signature);
     bool proposer(const Cle& cle, const char* methode, const std::string& quoi,
