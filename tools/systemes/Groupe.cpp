@@ -147,16 +147,28 @@ bool PuissancePremiere(int q) {
     return q == 1;
 }
 
+/// Its order is a divisor at random of that of a unit at random: small orders are not rare.
+int MultiplicateurAuHasard(int n, std::mt19937_64& alea) {
+    int unite = 1;
+    do {
+        unite = Entre(1, n - 1, alea);
+    } while (std::gcd(unite, n) != 1);
+    const int ordre = OrdreModulo(unite, n);
+    int exposant = 1;
+    do {
+        exposant = Entre(1, ordre, alea);
+    } while (ordre % exposant != 0);
+    int m = 1;
+    for (int i = 0; i < exposant; ++i) m = m * unite % n;
+    return m;
+}
+
 std::string CyclesAuHasard(int v, std::mt19937_64& alea) {
     const int f = Entre(0, std::min(3, v - 2), alea);
     const int c = Entre(1, 10, alea) <= 8 ? Entre(1, 6, alea) : Entre(1, v - f, alea);
     if ((v - f) % c != 0) return "";
     const int n = (v - f) / c;
-    int m = 1;
-    if (n > 2 && Entre(0, 1, alea) == 1) {
-        m = Entre(2, n - 1, alea);
-        if (std::gcd(m, n) != 1) return "";
-    }
+    const int m = n > 2 && Entre(0, 2, alea) > 0 ? MultiplicateurAuHasard(n, alea) : 1;
     const int d = c > 1 && Entre(0, 2, alea) == 0 ? Entre(1, c - 1, alea) : 0;
     return Nom('C', f, c, m, d);
 }
@@ -216,8 +228,8 @@ std::string NomAuHasard(const Cle& cle, std::mt19937_64& alea) {
     if (cle.t == 2 && cle.p > 2 && cle.k >= 4 && Entre(0, 1, alea) == 0)
         return PartageAuHasard(cle, alea);
     const int genre = Entre(0, 19, alea);
-    if (genre < 11) return CyclesAuHasard(cle.v, alea);
-    if (genre < 15) return LongueursAuHasard(cle.v, alea);
+    if (genre < 12) return CyclesAuHasard(cle.v, alea);
+    if (genre < 14) return LongueursAuHasard(cle.v, alea);
     if (genre < 17) return CorpsAuHasard(cle.v, alea);
     if (genre < 19) return ProduitAuHasard(cle.v, alea);
     return "1";

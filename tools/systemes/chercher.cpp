@@ -3,7 +3,7 @@
 //
 // norvane-systemes-chercher STOCK v k p t SECONDS SEED [groupe=NAME] [memoire=FILE] [entrees=N]
 //     [reprise=1]
-// Searches smaller designs of a key: several groups in turn, half of them given up after each
+// Searches smaller designs of a key, unless the bound of connus.tsv is met: several groups in turn, half of them given up after each
 // round. Every design smaller than the one in the stock is proved and written at once. The memory
 // holds what each group came to, so that later runs begin with the best. With "reprise", goes on
 // from the design of the stock, under a subgroup of its group or none.
@@ -52,7 +52,11 @@ struct Essai {
 class Chercheur {
    public:
     explicit Chercheur(Options options)
-        : o_(std::move(options)), alea_(o_.graine), debut_(std::clock()) {}
+        : o_(std::move(options)), alea_(o_.graine), debut_(std::clock()) {
+        for (const Connu& c : LireConnus(o_.racine))
+            if (c.cle == o_.cle) borne_ = c.borne;
+        borneAtteinte_ = Taille(o_.racine, o_.cle).value_or(borne_ + 1) <= borne_;
+    }
 
     void chercher();
 
@@ -63,11 +67,13 @@ class Chercheur {
     void garder(const Essai& essai);
     void retenir(const Essai& essai) const;
     void reprendre();
-    double reste() const { return o_.secondes - Depuis(debut_); }
+    double reste() const { return borneAtteinte_ ? 0 : o_.secondes - Depuis(debut_); }
 
     Options o_;
     std::mt19937_64 alea_;
     std::clock_t debut_;
+    long borne_ = 0;  ///< no design is smaller
+    bool borneAtteinte_ = false;
 };
 
 /// Half from the memory, the best first, the others at random.
@@ -90,7 +96,8 @@ std::vector<Groupe> Chercheur::choisir(int combien) {
     for (std::size_t i = 0; i < ordre.size() && 2 * i < static_cast<std::size_t>(combien); ++i)
         groupes.push_back(FaireGroupe(ordre[i].second, o_.cle.v));
     for (int essai = 0; essai < 4 * combien && static_cast<int>(groupes.size()) < combien; ++essai) {
-        const double max = std::exp2(std::uniform_real_distribution<double>(6.0, 13.5)(alea_));
+        const double bits = std::uniform_real_distribution<double>(1.5 * o_.cle.p + 1, 14)(alea_);
+        const double max = std::exp2(std::min(bits, 2.0 * o_.cle.p + 5.5));
         Groupe g = GroupeAuHasard(o_.cle, max / 6, max, alea_);
         const bool deja = std::any_of(groupes.begin(), groupes.end(),
                                       [&](const Groupe& h) { return h.nom == g.nom; });
@@ -120,6 +127,7 @@ void Chercheur::garder(const Essai& essai) {
     d.secondes = essai.secondes;
     d.generateurs = essai.groupe.generateurs;
     for (const int c : essai.recherche->meilleure()) d.bases.push_back(essai.po.representants[c]);
+    borneAtteinte_ = essai.recherche->poidsMeilleur() <= borne_;
     if (!EcrireSiMieux(o_.racine, d)) return;
     std::cout << o_.cle.v << ' ' << o_.cle.k << ' ' << o_.cle.p << ' ' << o_.cle.t << ": "
               << essai.recherche->poidsMeilleur() << " (" << (taille ? *taille : 0) << ") "
@@ -133,7 +141,7 @@ void Chercheur::travailler(Essai& essai, double secondes) {
         essai.recherche->partir({});
         garder(essai);
     }
-    while (Depuis(debut) < secondes && !essai.recherche->finie()) {
+    while (Depuis(debut) < secondes && reste() > 0 && !essai.recherche->finie()) {
         const bool mieux = essai.recherche->avancer(PasParTranche);
         essai.secondes = avant + Depuis(debut);
         if (mieux) garder(essai);
@@ -160,6 +168,7 @@ void Chercheur::reprendre() {
 }
 
 void Chercheur::chercher() {
+    if (borneAtteinte_) return;
     if (o_.reprise) return reprendre();
     std::vector<std::unique_ptr<Essai>> essais;
     std::vector<Groupe> groupes;

@@ -16,9 +16,10 @@ tirer() {
       cle = $4 " " $5 " " $6 " " $7
       if (cle in vu) next
       vu[cle] = 1
-      if ($8 == "") besoin = 0.5
+      e = 0
+      if ($8 == "") besoin = 0.02
       else if ($9 == "") besoin = 0.02
-      else if ($8 > $9) besoin = 0.02 + ($8 - $9) / $9
+      else if ($8 > $9) { e = ($8 - $9) / $9; besoin = 0.03 + (e < 0.15 ? e : 0.15) }
       else if ($8 > $10) besoin = 0.0015
       else next
       print -log(1 - rand()) / besoin "\t" cle
