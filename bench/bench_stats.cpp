@@ -85,18 +85,9 @@ ResultatStats Naif(const Base& base, int element, int f, int l) {
     if (presents > 0) suite.retenir(presents, l + 1);
     if (absents > 0) ecart.retenir(absents, l + 1 - absents);
     const auto mot = [](int n) { return static_cast<std::uint16_t>(n); };
-    return {mot(sorties),
-            mot(absents),
-            mot(ecart.valeur),
-            mot(ecart.nombre),
-            mot(ecart.position),
-            mot(presents),
-            mot(suite.valeur),
-            mot(suite.nombre),
-            mot(suite.position),
-            mot(ecartPrec),
-            mot(suitePrec),
-            l - f + 1 - sorties};
+    return {mot(sorties),        mot(absents),   mot(ecart.valeur), mot(ecart.nombre),
+            mot(ecart.position), mot(presents),  mot(suite.valeur), mot(suite.nombre),
+            mot(suite.position), mot(ecartPrec), mot(suitePrec),    l - f + 1 - sorties};
 }
 
 void ParBalayage(const Base& base, int f, int l, Resultats& resultats) {

@@ -348,8 +348,8 @@ Configuration::Configuration(std::filesystem::path fichier)
         if (valeur == nullptr) continue;
         const std::string defaut = cle.lire(valeur, reglages);
         if (!defaut.empty()) {
-            anomalies.push_back(
-                fmt::format("[{}] {} : « {} » {}", cle.section, cle.nom, CiterValeur(valeur), defaut));
+            anomalies.push_back(fmt::format("[{}] {} : « {} » {}", cle.section, cle.nom,
+                                            CiterValeur(valeur), defaut));
         }
     }
 }
