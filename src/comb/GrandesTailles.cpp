@@ -161,7 +161,7 @@ std::uint64_t CompterAuMoins(const IndexTirages& index, int taille, int inf, int
 
 ExtremesGrandeTaille ChercherExtremesGrandeTaille(std::span<const Tirage> tirages, int taille,
                                                   std::size_t capacite, unsigned threads,
-                                                  std::stop_token arret,
+                                                  const std::stop_token& arret,
                                                   const std::function<void(int)>& avance) {
     const IndexTirages index(tirages);
     if (index.nombre() == 0) return SansTirage(taille, capacite);

@@ -31,7 +31,7 @@ struct ExtremesGrandeTaille {
 /// threads. `avance` is told how far the search is, 0..100, from any thread. Stops within 100 ms.
 ExtremesGrandeTaille ChercherExtremesGrandeTaille(std::span<const Tirage> tirages, int taille,
                                                   std::size_t capacite, unsigned threads,
-                                                  std::stop_token arret,
+                                                  const std::stop_token& arret,
                                                   const std::function<void(int)>& avance);
 
 /// How many combinations of `taille` (6..10) numbers hold between `inf` and `sup` draws
