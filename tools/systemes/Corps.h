@@ -10,7 +10,7 @@
 namespace systemes {
 
 class Corps {
-   public:
+ public:
     /// Throws std::invalid_argument when q is not the power of a prime.
     explicit Corps(int q);
 
@@ -24,7 +24,7 @@ class Corps {
     int puissance(int n) const { return puissances_[n % (q_ - 1)]; }
     int exposer(int a, int n) const;
 
-   private:
+ private:
     bool essayer(int bas);
     int q_;
     int p_;

@@ -13,11 +13,11 @@ namespace systemes {
 /// Columns that cover rows, both ways, as compressed lists.
 struct Probleme {
     int lignes = 0;
-    std::vector<int> poids;      ///< of each column
-    std::vector<int> debutCol;   ///< columns + 1 places in `lignesDe`
-    std::vector<int> lignesDe;   ///< rows of each column
-    std::vector<int> debutLig;   ///< rows + 1 places in `colonnesDe`
-    std::vector<int> colonnesDe; ///< columns of each row
+    std::vector<int> poids;       ///< of each column
+    std::vector<int> debutCol;    ///< columns + 1 places in `lignesDe`
+    std::vector<int> lignesDe;    ///< rows of each column
+    std::vector<int> debutLig;    ///< rows + 1 places in `colonnesDe`
+    std::vector<int> colonnesDe;  ///< columns of each row
 
     int colonnes() const { return static_cast<int>(poids.size()); }
     /// Fills the lists by row from those by column.
@@ -25,7 +25,7 @@ struct Probleme {
 };
 
 class Recherche {
-   public:
+ public:
     Recherche(const Probleme& probleme, std::uint64_t graine);
 
     /// Starts from these columns, completed greedily.
@@ -41,7 +41,7 @@ class Recherche {
     /// No cover can be better any more (the last one was emptied).
     bool finie() const { return solution_.empty(); }
 
-   private:
+ private:
     void completer();
     void noter();
     void ajouter(int c);
@@ -58,12 +58,12 @@ class Recherche {
 
     const Probleme& pb_;
     std::mt19937_64 alea_;
-    std::vector<int> score_;  ///< gain of a column that is out, loss of one that is in
-    std::vector<int> place_;  ///< in `solution_`, or -1
-    std::vector<std::int64_t> touchee_;   ///< when the column last went in or out
-    std::vector<std::int64_t> remuee_;    ///< when a column of the row last went in or out
-    std::vector<int> nb_;                 ///< columns in that cover the row
-    std::vector<int> xor_;                ///< of those columns
+    std::vector<int> score_;             ///< gain of a column that is out, loss of one that is in
+    std::vector<int> place_;             ///< in `solution_`, or -1
+    std::vector<std::int64_t> touchee_;  ///< when the column last went in or out
+    std::vector<std::int64_t> remuee_;   ///< when a column of the row last went in or out
+    std::vector<int> nb_;                ///< columns in that cover the row
+    std::vector<int> xor_;               ///< of those columns
     std::vector<int> poidsLigne_;
     std::vector<int> placeNon_;
     std::vector<int> nonCouvertes_;

@@ -36,10 +36,10 @@ struct Cle {
 /// without a generator the bases are the blocks.
 struct Dessin {
     Cle cle;
-    std::string methode;        ///< one word: how it was made
-    std::string groupe = "-";   ///< one word: the group, for the reader
-    std::uint64_t graine = 0;   ///< seed of the search
-    double secondes = 0;        ///< time of the search
+    std::string methode;       ///< one word: how it was made
+    std::string groupe = "-";  ///< one word: the group, for the reader
+    std::uint64_t graine = 0;  ///< seed of the search
+    double secondes = 0;       ///< time of the search
     std::vector<Permutation> generateurs;
     std::vector<Bloc> bases;
 };

@@ -29,9 +29,11 @@ void Parcourir(Bloc dedans, Bloc dehors, int p, int t, Bloc choisis, const F& fa
 }
 
 class Comptes {
-   public:
+ public:
     explicit Comptes(const Cle& cle)
-        : cle_(cle), tous_((Bloc{1} << cle.v) - 1), n_(static_cast<std::size_t>(Binomial(cle.v, cle.p))) {}
+        : cle_(cle),
+          tous_((Bloc{1} << cle.v) - 1),
+          n_(static_cast<std::size_t>(Binomial(cle.v, cle.p))) {}
 
     void compter(Bloc bloc, int ecart) {
         pourChaque(bloc, [&](long r) { n_[static_cast<std::size_t>(r)] += ecart; });
@@ -43,7 +45,7 @@ class Comptes {
         return seuls;
     }
 
-   private:
+ private:
     template <class F>
     void pourChaque(Bloc bloc, const F& faire) const {
         Parcourir(bloc, tous_ & ~bloc, cle_.p, cle_.t, 0, faire);

@@ -134,7 +134,8 @@ Fermeture::Recette Fermeture::meilleureRecette(const Cle& cle, int a) const {
     meilleure.taille = Infini;
     const int b = cle.v - a;
     for (int bas = -1; bas <= cle.p; ++bas) {
-        const Terme droite{{a, 0, 0, 0}, {b, cle.k, cle.p - bas, cle.t},
+        const Terme droite{{a, 0, 0, 0},
+                           {b, cle.k, cle.p - bas, cle.t},
                            bas < 0 ? 0 : taille({b, cle.k, cle.p - bas, cle.t})};
         if (bas >= 0 && cle.p - bas < cle.t) break;
         Recette recette{a, {}, droite.taille};
@@ -179,8 +180,9 @@ bool Fermeture::parProduits(const Cle& cle) {
 
 bool Fermeture::parMonotonie(const Cle& cle) {
     bool mieux = false;
-    for (const Cle& source : {Cle{cle.v, cle.k, cle.p - 1, cle.t}, Cle{cle.v, cle.k, cle.p, cle.t + 1},
-                              Cle{cle.v, cle.k - 1, cle.p, cle.t}}) {
+    for (const Cle& source :
+         {Cle{cle.v, cle.k, cle.p - 1, cle.t}, Cle{cle.v, cle.k, cle.p, cle.t + 1},
+          Cle{cle.v, cle.k - 1, cle.p, cle.t}}) {
         const bool existe = source.p >= source.t && source.k >= source.t;
         if (!existe || !valeurPossible(cle, taille(source), 1.2)) continue;
         if (!nouveau('m' + Texte(cle) + '=' + Texte(source) + ':' + std::to_string(taille(source))))
@@ -193,7 +195,8 @@ bool Fermeture::parMonotonie(const Cle& cle) {
 /// The points of fewest and most blocks, and two at random, are dropped from v + 1.
 bool Fermeture::parPointOte(const Cle& cle) {
     const Cle source{cle.v + 1, cle.k, cle.p, cle.t};
-    if (!valeurPossible(cle, taille(source), 1.1) || stock_.find(source) == stock_.end()) return false;
+    if (!valeurPossible(cle, taille(source), 1.1) || stock_.find(source) == stock_.end())
+        return false;
     if (!nouveau('o' + Texte(cle) + ':' + std::to_string(taille(source)))) return false;
     const std::vector<Bloc> grands = blocs(source);
     std::vector<std::pair<int, int>> degres;
@@ -203,12 +206,11 @@ bool Fermeture::parPointOte(const Cle& cle) {
     }
     std::sort(degres.begin(), degres.end());
     bool mieux = false;
-    for (const std::uint64_t i : {std::uint64_t{0}, degres.size() - 1, alea_() % degres.size(),
-                                  alea_() % degres.size()}) {
+    for (const std::uint64_t i :
+         {std::uint64_t{0}, degres.size() - 1, alea_() % degres.size(), alea_() % degres.size()}) {
         const int x = degres[i].second;
         std::vector<Bloc> petits;
-        for (const Bloc b : grands)
-            petits.push_back((b & Premiers(x)) | (b >> (x + 1) << x));
+        for (const Bloc b : grands) petits.push_back((b & Premiers(x)) | (b >> (x + 1) << x));
         mieux |= proposer(cle, "point-ote", Texte(source), petits);
     }
     return mieux;
@@ -235,7 +237,8 @@ bool Fermeture::parDoublement(const Cle& cle) {
         const Cle droite{b, 4, 3, 3};
         const long somme = taille(gauche) + taille(droite) + (b - 1L) * a * b / 4;
         if (!valeurPossible(cle, somme, 1.03)) continue;
-        if (!nouveau('d' + Texte(cle) + '=' + std::to_string(a) + ':' + std::to_string(somme))) continue;
+        if (!nouveau('d' + Texte(cle) + '=' + std::to_string(a) + ':' + std::to_string(somme)))
+            continue;
         std::vector<Bloc> tous = blocs(gauche);
         for (const Bloc d : blocs(droite)) tous.push_back(d << a);
         const auto f = Facteurs(a);

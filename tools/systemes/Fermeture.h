@@ -18,7 +18,7 @@ namespace systemes {
 std::vector<Bloc> Elaguer(const Cle& cle, std::vector<Bloc> blocs, std::mt19937_64& alea);
 
 class Fermeture {
-   public:
+ public:
     /// `essayes`: what was tried before, so that it is not tried again while its sources stand.
     Fermeture(std::string racine, std::set<std::string> essayes, std::uint64_t graine);
 
@@ -26,7 +26,7 @@ class Fermeture {
     int fermer();
     const std::set<std::string>& essayes() const { return essayes_; }
 
-   private:
+ private:
     /// Blocks of one part of a sum: the products of the blocks of two designs on the two sides.
     struct Terme {
         Cle gauche;

@@ -86,7 +86,7 @@ std::string Texte(const Dessin& dessin, std::size_t blocs) {
 
 /// Holds the lock of the stock while it lives.
 class Verrou {
-   public:
+ public:
     explicit Verrou(const std::string& racine)
         : fd_(open(racine.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
         if (fd_ < 0 || flock(fd_, LOCK_EX) != 0) throw std::runtime_error("no lock: " + racine);
@@ -97,7 +97,7 @@ class Verrou {
     Verrou(Verrou&&) = delete;
     Verrou& operator=(Verrou&&) = delete;
 
-   private:
+ private:
     int fd_;
 };
 

@@ -242,17 +242,31 @@ Groupe FaireGroupe(const std::string& nom, int v) {
     ch.exiger(!nom.empty());
     if (nom == "1") return ch.groupe;
     std::string nombres = nom.substr(1);
-    std::replace_if(nombres.begin(), nombres.end(), [](char c) { return c == ':' || c == '.'; }, ' ');
+    std::replace_if(
+        nombres.begin(), nombres.end(), [](char c) { return c == ':' || c == '.'; }, ' ');
     std::istringstream mots(nombres);
     for (int n = 0; mots >> n;) ch.n.push_back(n);
     switch (nom[0]) {
-        case 'C': Cycles(ch); break;
-        case 'T': Longueurs(ch); break;
-        case 'E': Affine(ch); break;
-        case 'L': Projectif(ch); break;
-        case 'P': Produit(ch); break;
-        case 'U': Partage(ch); break;
-        default: ch.exiger(false);
+        case 'C':
+            Cycles(ch);
+            break;
+        case 'T':
+            Longueurs(ch);
+            break;
+        case 'E':
+            Affine(ch);
+            break;
+        case 'L':
+            Projectif(ch);
+            break;
+        case 'P':
+            Produit(ch);
+            break;
+        case 'U':
+            Partage(ch);
+            break;
+        default:
+            ch.exiger(false);
     }
     return ch.groupe;
 }

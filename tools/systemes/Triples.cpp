@@ -14,7 +14,7 @@ using Ligne = std::vector<int>;
 /// triple takes two free edges at a point; when its third edge was not free, the triple that holds
 /// it goes.
 class Montee {
-   public:
+ public:
     Montee(int v, std::mt19937_64& alea) : v_(v), alea_(alea), libre_(v, Ligne(v, 0)) {}
 
     void ajouterArete(int a, int b) {
@@ -33,7 +33,7 @@ class Montee {
     }
     const std::vector<Bloc>& triples() const { return triples_; }
 
-   private:
+ private:
     void essayer() {
         const int x = hasard(v_);
         std::vector<int> voisins;
@@ -91,7 +91,8 @@ std::vector<Bloc> Triples(int v, long pasMax, std::mt19937_64& alea) {
         for (int a = 0; a < 5; ++a)
             for (int b = 0; b < a; ++b) montee.oterArete(a, b);
         blocs = {0b00111, 0b11001, 0b11010, 0b11100};
-    } else if (v % 2 == 0) {  // each point is in one pair twice; one in three when v - 1 asks for it
+    } else if (v % 2 ==
+               0) {  // each point is in one pair twice; one in three when v - 1 asks for it
         int debut = 0;
         if (v % 6 != 0) {
             for (int b = 1; b <= 3; ++b) montee.ajouterArete(0, b);

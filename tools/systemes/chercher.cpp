@@ -3,10 +3,11 @@
 //
 // norvane-systemes-chercher STOCK v k p t SECONDS SEED [groupe=NAME] [memoire=FILE] [entrees=N]
 //     [reprise=1]
-// Searches smaller designs of a key, unless the bound of connus.tsv is met: several groups in turn, half of them given up after each
-// round. Every design smaller than the one in the stock is proved and written at once. The memory
-// holds what each group came to, so that later runs begin with the best. With "reprise", goes on
-// from the design of the stock, under a subgroup of its group or none.
+// Searches smaller designs of a key, unless the bound of connus.tsv is met: several groups in turn,
+// half of them given up after each round. Every design smaller than the one in the stock is proved
+// and written at once. The memory holds what each group came to, so that later runs begin with the
+// best. With "reprise", goes on from the design of the stock, under a subgroup of its group or
+// none.
 #include <algorithm>
 #include <cmath>
 #include <ctime>
@@ -50,7 +51,7 @@ struct Essai {
 };
 
 class Chercheur {
-   public:
+ public:
     explicit Chercheur(Options options)
         : o_(std::move(options)), alea_(o_.graine), debut_(std::clock()) {
         for (const Connu& c : LireConnus(o_.racine))
@@ -60,7 +61,7 @@ class Chercheur {
 
     void chercher();
 
-   private:
+ private:
     std::vector<Groupe> choisir(int combien);
     std::unique_ptr<Essai> ouvrir(const Groupe& groupe);
     void travailler(Essai& essai, double secondes);
@@ -95,7 +96,8 @@ std::vector<Groupe> Chercheur::choisir(int combien) {
     std::vector<Groupe> groupes;
     for (std::size_t i = 0; i < ordre.size() && 2 * i < static_cast<std::size_t>(combien); ++i)
         groupes.push_back(FaireGroupe(ordre[i].second, o_.cle.v));
-    for (int essai = 0; essai < 4 * combien && static_cast<int>(groupes.size()) < combien; ++essai) {
+    for (int essai = 0; essai < 4 * combien && static_cast<int>(groupes.size()) < combien;
+         ++essai) {
         const double bits = std::uniform_real_distribution<double>(1.5 * o_.cle.p + 1, 14)(alea_);
         const double max = std::exp2(std::min(bits, 2.0 * o_.cle.p + 5.5));
         Groupe g = GroupeAuHasard(o_.cle, max / 6, max, alea_);
@@ -173,7 +175,7 @@ void Chercheur::chercher() {
     std::vector<std::unique_ptr<Essai>> essais;
     std::vector<Groupe> groupes;
     if (o_.groupe.empty()) {
-        groupes = choisir(std::clamp(static_cast<int>(o_.secondes / 2), 2, 8));
+        groupes = choisir(std::clamp(static_cast<int>(o_.secondes * 2), 2, 8));
     } else {
         groupes.push_back(FaireGroupe(o_.groupe, o_.cle.v));
     }
@@ -213,11 +215,16 @@ Options LireOptions(const std::vector<std::string>& mots) {
         const std::size_t egal = mots[i].find('=');
         const std::string nom = mots[i].substr(0, egal);
         const std::string valeur = egal == std::string::npos ? "" : mots[i].substr(egal + 1);
-        if (nom == "groupe") o.groupe = valeur;
-        else if (nom == "memoire") o.memoire = valeur;
-        else if (nom == "entrees") o.entrees = std::stol(valeur);
-        else if (nom == "reprise") o.reprise = valeur == "1";
-        else throw std::invalid_argument("unknown option: " + mots[i]);
+        if (nom == "groupe")
+            o.groupe = valeur;
+        else if (nom == "memoire")
+            o.memoire = valeur;
+        else if (nom == "entrees")
+            o.entrees = std::stol(valeur);
+        else if (nom == "reprise")
+            o.reprise = valeur == "1";
+        else
+            throw std::invalid_argument("unknown option: " + mots[i]);
     }
     return o;
 }

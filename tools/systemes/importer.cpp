@@ -27,8 +27,8 @@ int main(int argc, char** argv) {
             int facteur = 0;
             int bases = 0;
             if (!(mots >> mot) || mot != "design") continue;
-            mots >> d.cle.v >> d.cle.k >> d.cle.p >> d.cle.t >> blocs >> fixes >> cycles >> facteur >>
-                bases;
+            mots >> d.cle.v >> d.cle.k >> d.cle.p >> d.cle.t >> blocs >> fixes >> cycles >>
+                facteur >> bases;
             std::ostringstream nom;
             nom << "C:" << fixes << ':' << cycles << ':' << facteur << ":0";
             Groupe groupe = FaireGroupe(nom.str(), d.cle.v);

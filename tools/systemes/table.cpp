@@ -56,22 +56,23 @@ void Compter(Bilan& b, const Connu& c, long notre) {
         ++(notre < c.meilleur ? b.dessous : b.egales);
     } else {
         ++b.dessus;
-        const double exces = 100.0 * static_cast<double>(notre - c.meilleur) /
-                             static_cast<double>(c.meilleur);
+        const double exces =
+            100.0 * static_cast<double>(notre - c.meilleur) / static_cast<double>(c.meilleur);
         b.exces += exces;
         if (exces > b.pire) {
             b.pire = exces;
-            b.cePire = c.garantie + " S=" + std::to_string(c.selection) +
-                       " base " + std::to_string(c.base);
+            b.cePire = c.garantie + " S=" + std::to_string(c.selection) + " base " +
+                       std::to_string(c.base);
         }
     }
 }
 
 void Dire(const Bilan& b, std::size_t cles) {
-    std::printf("%zu keys: %d present; %d equal to the best published, %d below, %d without one, "
-                "%d above (mean excess %.2f %%, worst %.2f %%: %s)\n",
-                cles, b.presentes, b.egales, b.dessous, b.sansConnu, b.dessus,
-                b.dessus > 0 ? b.exces / b.dessus : 0.0, b.pire, b.cePire.c_str());
+    std::printf(
+        "%zu keys: %d present; %d equal to the best published, %d below, %d without one, "
+        "%d above (mean excess %.2f %%, worst %.2f %%: %s)\n",
+        cles, b.presentes, b.egales, b.dessous, b.sansConnu, b.dessus,
+        b.dessus > 0 ? b.exces / b.dessus : 0.0, b.pire, b.cePire.c_str());
 }
 
 }  // namespace
@@ -95,9 +96,9 @@ int main(int argc, char** argv) {
             Compter(parGarantie[genre], c, t.blocs);
             ++nombre[genre];
             table << c.garantie << '\t' << c.selection << '\t' << c.base << '\t' << c.cle.v << '\t'
-                  << c.cle.k << '\t' << c.cle.p << '\t' << c.cle.t << '\t' << ouVide(t.blocs) << '\t'
-                  << ouVide(c.meilleur) << '\t' << c.borne << '\t' << t.methode << '\t' << t.groupe
-                  << '\t' << t.graine << '\t' << t.secondes << '\n';
+                  << c.cle.k << '\t' << c.cle.p << '\t' << c.cle.t << '\t' << ouVide(t.blocs)
+                  << '\t' << ouVide(c.meilleur) << '\t' << c.borne << '\t' << t.methode << '\t'
+                  << t.groupe << '\t' << t.graine << '\t' << t.secondes << '\n';
         }
         for (const auto& [genre, b] : parGarantie) {
             std::printf("%s: ", genre.c_str());
