@@ -175,7 +175,7 @@ void Chercheur::chercher() {
     std::vector<std::unique_ptr<Essai>> essais;
     std::vector<Groupe> groupes;
     if (o_.groupe.empty()) {
-        groupes = choisir(std::clamp(static_cast<int>(o_.secondes / 2), 2, 8));
+        groupes = choisir(std::clamp(static_cast<int>(o_.secondes * 2), 2, 8));
     } else {
         groupes.push_back(FaireGroupe(o_.groupe, o_.cle.v));
     }
