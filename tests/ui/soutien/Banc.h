@@ -108,21 +108,18 @@ struct Scripts {
     MessagesScriptes* messages;
     FichiersScriptes* fichiers;
     ImprimanteFichier* imprimantes;
-    HorlogeFixe* horloge;
-    HasardFixe* hasard;
     LanceurEspion* lanceur;
 
     /// Fills `services` with fresh scripted ones, which it owns.
     static Scripts dans(Services& services) {
-        auto m = std::make_unique<MessagesScriptes>();
-        auto f = std::make_unique<FichiersScriptes>();
-        auto i = std::make_unique<ImprimanteFichier>();
-        auto ho = std::make_unique<HorlogeFixe>();
-        auto ha = std::make_unique<HasardFixe>();
-        auto l = std::make_unique<LanceurEspion>();
-        Scripts s{m.get(), f.get(), i.get(), ho.get(), ha.get(), l.get()};
-        services = {std::move(m),  std::move(f),  std::move(i),
-                    std::move(ho), std::move(ha), std::move(l)};
+        Scripts s{new MessagesScriptes, new FichiersScriptes, new ImprimanteFichier,
+                  new LanceurEspion};
+        services.messages.reset(s.messages);
+        services.fichiers.reset(s.fichiers);
+        services.imprimantes.reset(s.imprimantes);
+        services.horloge = std::make_unique<HorlogeFixe>();
+        services.hasard = std::make_unique<HasardFixe>();
+        services.lanceur.reset(s.lanceur);
         return s;
     }
 };

@@ -16,8 +16,6 @@ struct Veille {
     std::mutex verrou;  // workers warn too
     QtMessageHandler precedent = nullptr;
     QStringList inattendus;
-    QString permis;  // empty: none
-    int permisVenus = 0;
 };
 
 Veille& veille() {
@@ -31,10 +29,6 @@ void recevoir(QtMsgType genre, const QMessageLogContext& lieu, const QString& me
     Veille& v = veille();
     if (genre == QtWarningMsg || genre == QtCriticalMsg) {
         const std::scoped_lock garde(v.verrou);
-        if (!v.permis.isEmpty() && message.contains(v.permis)) {
-            ++v.permisVenus;
-            return;
-        }
         v.inattendus << message;
     }
     v.precedent(genre, lieu, message);
@@ -52,20 +46,6 @@ void EssaisQt::cleanup() {
     const QString tous = v.inattendus.join(u'\n');
     v.inattendus.clear();
     QVERIFY2(tous.isEmpty(), qPrintable(tous));
-}
-
-AvertissementAttendu::AvertissementAttendu(const QString& morceau) {
-    Veille& v = veille();
-    const std::scoped_lock garde(v.verrou);
-    v.permis = morceau;
-    v.permisVenus = 0;
-}
-
-AvertissementAttendu::~AvertissementAttendu() {
-    Veille& v = veille();
-    const std::scoped_lock garde(v.verrou);
-    if (v.permisVenus == 0) v.inattendus << QStringLiteral("did not come: ") + v.permis;
-    v.permis.clear();
 }
 
 void eprouverModeles(const QObject& racine) {

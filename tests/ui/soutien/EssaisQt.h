@@ -18,15 +18,6 @@ class EssaisQt : public QObject {
     void cleanup();
 };
 
-/// Allows the warnings that contain `morceau`, for as long as it lives. One must come.
-class AvertissementAttendu {
- public:
-    explicit AvertissementAttendu(const QString& morceau);
-    ~AvertissementAttendu();
-    AvertissementAttendu(const AvertissementAttendu&) = delete;
-    AvertissementAttendu& operator=(const AvertissementAttendu&) = delete;
-};
-
 /// Has each item model of ours below `racine` checked at every change from now on. A model that
 /// breaks the rules of its kind ends the program.
 void eprouverModeles(const QObject& racine);
