@@ -4,14 +4,14 @@
 // The start on whatever a directory holds, and what a save leaves in it.
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <fstream>
+#include <numeric>
 
 #include "atelier/Atelier.h"
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
+#include "Dossier.h"
 #include "tickets/FichiersGrilles.h"
 
 using namespace norvane;
@@ -21,43 +21,27 @@ namespace {
 
 class TestAtelier : public testing::Test {
  protected:
-    void SetUp() override {
-        dossier = fs::temp_directory_path() /
-                  ("norvane-atelier-" + std::to_string(getpid()) + "-" +
-                   testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::create_directories(dossier);
-    }
-    void TearDown() override { fs::remove_all(dossier); }
-    void ecrire(const char* nom, const std::string& texte) {
-        std::ofstream(dossier / nom) << texte;
-    }
-
-    fs::path dossier;
+    const Dossier racine;
+    const fs::path& dossier = racine.chemin();
 };
 
 }  // namespace
 
-TEST_F(TestAtelier, DossierVide) {
-    Atelier a(dossier);
-    EXPECT_EQ(a.base.NbTirages, 3214);
-    EXPECT_EQ(a.base.NbAnciensTirages, 0);
-    EXPECT_FALSE(a.base.AnciensTirages);
-    EXPECT_EQ(a.occurrences.IntervalleInf, 1);
-    EXPECT_EQ(a.occurrences.IntervalleSup, 3214);
-    EXPECT_TRUE(a.avertissements.empty());
-    EXPECT_FALSE(a.activite.occupe());
-    EXPECT_TRUE(fs::is_empty(dossier)) << "a start writes nothing";
-}
-
-TEST_F(TestAtelier, BaseGlobale) {
-    ecrire(NomConfiguration, "[BASE]\nAnciensTirages=1\n");
-    Atelier a(dossier);
-    EXPECT_EQ(a.base.NbTirages, 8072);
-    EXPECT_EQ(a.base.NbAnciensTirages, 4858);
-    EXPECT_TRUE(a.base.AnciensTirages);
-    int sorties = 0;
-    for (const auto n : a.occurrences.SortiesNumeros) sorties += n;
-    EXPECT_EQ(sorties, 5 * 8072);
+TEST_F(TestAtelier, DossierVidePuisBaseGlobale) {
+    for (const bool globale : {false, true}) {
+        if (globale) poser(dossier / NomConfiguration, "[BASE]\nAnciensTirages=1\n");
+        Atelier a(dossier);
+        const int n = globale ? 8072 : 3214;
+        EXPECT_EQ(a.base.NbTirages, n);
+        EXPECT_EQ(a.base.AnciensTirages, globale);
+        EXPECT_EQ(a.occurrences.IntervalleInf, 1);
+        EXPECT_EQ(a.occurrences.IntervalleSup, n);
+        const auto& sorties = a.occurrences.SortiesNumeros;
+        EXPECT_EQ(std::accumulate(sorties.begin(), sorties.end(), 0), 5 * n);
+        EXPECT_TRUE(a.avertissements.empty());
+        EXPECT_FALSE(a.activite.occupe());
+        EXPECT_TRUE(globale || fs::is_empty(dossier)) << "a start writes nothing";
+    }
 }
 
 TEST_F(TestAtelier, SauveSeulementCeQuiAChange) {
@@ -99,10 +83,10 @@ TEST_F(TestAtelier, UneBaseQuOnNePeutLireResteLa) {
 
 TEST_F(TestAtelier, CeQuUnDepartRetire) {
     fs::create_directory(dossier / DossierGrilles);
-    ecrire("norvane.db", "rien");  // told and set aside, so that a save makes a new one
+    poser(dossier / "norvane.db", "rien");  // told and set aside, so that a save makes a new one
     for (const fs::path& sous : {fs::path(), fs::path(DossierGrilles)}) {
         const fs::path reste = dossier / sous / ".norvane-12-3.tmp";
-        std::ofstream(reste) << "x";
+        poser(reste, "x");
         fs::last_write_time(reste, fs::file_time_type::clock::now() - std::chrono::hours(25));
     }
     Atelier a(dossier);
@@ -114,7 +98,7 @@ TEST_F(TestAtelier, CeQuUnDepartRetire) {
 }
 
 TEST_F(TestAtelier, RecalculApresSuppression) {
-    ecrire(NomCombCalc, "3214 12 51\n");
+    poser(dossier / NomCombCalc, "3214 12 51\n");
     Atelier a(dossier);
     ChangerIntervalle(a.base, a.occurrences, 100, 200);
     EXPECT_EQ(a.tailleIntervalle(), 101);
@@ -140,19 +124,11 @@ TEST_F(TestAtelier, RecalculApresSuppression) {
     EXPECT_EQ(a.selection.NbTiragesSelection, avant - 1);
     EXPECT_EQ(a.combinaisons.BorneSup[2], 51);
 
-    ecrire(NomCombCalc, "deux\n");
+    poser(dossier / NomCombCalc, "deux\n");
     a.grilleSelection[k] = Priorite::Secondaire;  // refused alone
     const auto fait = a.recalculer();
     ASSERT_FALSE(fait);
     EXPECT_TRUE(fait.erreur().starts_with("Ligne 1 du")) << fait.erreur();
     EXPECT_EQ(a.combinaisons.BorneSup[2], 0);
     EXPECT_TRUE(a.selection.vide());
-}
-
-TEST_F(TestAtelier, ChaqueListeASaPlace) {
-    Atelier a(dossier);
-    EXPECT_EQ(&a.liste(QuelleListe::Extremes), &a.ListeExtremes);
-    EXPECT_EQ(&a.liste(QuelleListe::Memoire), &a.ListeMemoire);
-    EXPECT_EQ(&a.liste(QuelleListe::Tampon1), &a.ListeTampon[0]);
-    EXPECT_EQ(&a.liste(QuelleListe::Tampon3), &a.ListeTampon[2]);
 }

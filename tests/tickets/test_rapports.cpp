@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <random>
 #include <sstream>
 
+#include "base/BaseIntegree.h"
+#include "Cumulateur.h"
 #include "SeptTirages.h"
+#include "tickets/Bilan.h"
+#include "tickets/GrillesHasard.h"
 #include "tickets/Verification.h"
 
 namespace norvane {
@@ -83,7 +88,7 @@ std::vector<Cas> TousLesCas() {
     };
 }
 
-TEST(Verification, WholeReports) {
+TEST(Verification, RapportsEntiers) {
     const Base base = SeptTirages();
     for (const Cas& cas : TousLesCas())
         for (const int numero : cas.numeros)
@@ -92,7 +97,7 @@ TEST(Verification, WholeReports) {
                 << cas.rapport << ", draw " << numero;
 }
 
-TEST(Verification, JokerLostOrNeverPublished) {
+TEST(Verification, JokerPerduOuJamaisPublie) {
     const auto verifier = [](const LigneJoker& ligne, std::int32_t joker, const Monnaie& monnaie) {
         std::ostringstream flux;
         EXPECT_EQ(VerifierJoker({&ligne, 1}, ChiffresJoker(joker), monnaie, flux), 0);
@@ -107,7 +112,7 @@ TEST(Verification, JokerLostOrNeverPublished) {
               "Gain= 0 $ , Mise totale=2 $ donc Perte=2 $ (13,12 F)\n\n");
 }
 
-TEST(Verification, StakesInTheList) {
+TEST(Verification, MisesDansLaListe) {
     const std::vector<Grille> grilles = {{1.2, {9, 10, 11, 12, 13}, {10}},
                                          {2, {9, 10, 11, 12, 13}, {1}}};
     std::ostringstream euros;
@@ -117,27 +122,118 @@ TEST(Verification, StakesInTheList) {
               "Combinaison 2 (5N + 1C) N: 9  10 11 12 13  C: 1  (Mise: 2 Euros)\n");
 }
 
-TEST(Verification, OneTicketForThePage) {
+TEST(Verification, UneGrillePourLaPage) {
     const Base base = SeptTirages();
+    const auto verifier = [&base](const Grille& grille, std::size_t numero) {
+        return VerifierGrille(grille, base.Tirages[numero - 1], base.Rapports[numero - 1]);
+    };
+    const ResultatGrille premier = verifier(NeufNumeros, 4), second = verifier(NeufNumeros, 5);
+    EXPECT_FALSE(premier.second);
+    EXPECT_EQ(premier.comptes, (ComptesRangs{0, 0, 0, 0, 0, 15, 0, 60, 0}));
+    EXPECT_DOUBLE_EQ(premier.gain, 600);
+    EXPECT_EQ(second.bons.numeros, 5);
+    EXPECT_TRUE(second.second);
+    EXPECT_EQ(second.comptes, (ComptesRangs{1, 20, 60, 40}));
+    EXPECT_DOUBLE_EQ(second.gain, 121320);
     Grille sansOption = NeufNumeros;
     sansOption.mise = TableMises(9, 1);
-    const struct {
-        Grille grille;
-        std::size_t numero;
-        Bons bons;
-        ComptesRangs comptes;
-        double gain;
-    } cas[] = {{NeufNumeros, 4, {3, 0}, {0, 0, 0, 0, 0, 15, 0, 60, 0}, 600},
-               {NeufNumeros, 5, {5, 0}, {1, 20, 60, 40}, 121320},
-               {sansOption, 5, {5, 0}, {}, 0}};
-    for (const auto& c : cas) {
-        const ResultatGrille r =
-            VerifierGrille(c.grille, base.Tirages[c.numero - 1], base.Rapports[c.numero - 1]);
-        EXPECT_EQ(r.bons.numeros, c.bons.numeros);
-        EXPECT_EQ(r.bons.chances, c.bons.chances);
-        EXPECT_EQ(r.second, c.numero == 5);
-        EXPECT_EQ(r.comptes, c.comptes);
-        EXPECT_DOUBLE_EQ(r.gain, c.gain);
+    EXPECT_EQ(verifier(sansOption, 5).gain, 0);
+}
+
+/// `nombre` tickets of random types, every third with the option.
+std::vector<Grille> GrillesAleatoires(std::size_t nombre) {
+    std::mt19937 types(20240724);
+    GenerateurHasard hasard(20240724);
+    std::vector<Grille> grilles;
+    while (grilles.size() < nombre) {
+        const Grille g = TirerGrille(hasard, TypesVendus[types() % TypesVendus.size()]);
+        grilles.push_back(FaireGrille(g.numeros, g.chances, grilles.size() % 3 == 0));
+    }
+    return grilles;
+}
+
+/// The definition: record by record, the wins that the prize rules tell.
+BilanGrille BilanLent(const Base& base, int premier, int dernier, const Grille& grille) {
+    BilanGrille bilan;
+    const auto ajouter = [](const auto& comptes, const RapportsTirage& rapports, auto& cumuls) {
+        for (std::size_t rang = 0; rang < comptes.size(); ++rang) {
+            cumuls[rang].fois += comptes[rang];
+            cumuls[rang].gain += comptes[rang] * rapports[rang].Gain;
+        }
+    };
+    for (auto i = static_cast<std::size_t>(premier - 1); i < static_cast<std::size_t>(dernier);
+         ++i) {
+        const Tirage& tirage = base.Tirages[i];
+        if (tirage.DateTirage >= 20191104 && tirage.SousTirage == 2) {
+            ajouter(Rangs2ndGagnes(grille, tirage), base.Rapports[i], bilan.Bilan2nd);
+        } else {
+            ajouter(RangsGagnes(grille, tirage), base.Rapports[i], bilan.BilanRangs);
+        }
+    }
+    return bilan;
+}
+
+TEST(Bilan, SansGrille) {
+    const Base base = SeptTirages();
+    EXPECT_EQ(RedigerBilan(base, 6, 6, {}, {}),
+              "Statistiques sur 1 tirage\nle mercredi 24 juillet 2024\n\n\n\n"
+              "BILAN DES GAINS (pour toutes les combinaisons et tous les rangs de gain) :\n\n");
+}
+
+TEST(Bilan, ChaqueGrilleContreLaDefinition) {
+    const Base base = BaseIntegree(true);
+    std::vector<Grille> grilles = GrillesAleatoires(300);
+    // No tickets that are sold, but a list made by hand may hold them.
+    grilles.push_back({1, {7, 12, 23, 34}, {}});
+    grilles.push_back({5, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {1, 2}});
+    grilles.push_back({0, {}, {}});
+    // Whole base, the two changes of the rules, around a word of sixty-four records, one record.
+    for (const auto& [premier, dernier] :
+         {std::pair{1, 8072}, {6000, 7000}, {7000, 7063}, {7000, 7064}, {8072, 8072}}) {
+        const Cumulateur cumulateur(base, premier, dernier, grilles);
+        for (std::size_t k = 0; k < grilles.size(); ++k)
+            ASSERT_EQ(cumulateur.cumuler(grilles[k]), BilanLent(base, premier, dernier, grilles[k]))
+                << "ticket " << k << ", " << premier << ".." << dernier;
+    }
+}
+
+TEST(Bilan, MemeTextePourToutNombreDeFils) {
+    const Base base = BaseIntegree(false);
+    const auto grilles = GrillesAleatoires(333);
+    const auto rediger = [&](unsigned fils) {
+        return RedigerBilan(base, 1, base.NbTirages, grilles, {}, {{}, nullptr, fils});
+    };
+    const auto seul = rediger(1);
+    ASSERT_TRUE(seul);
+    for (const unsigned fils : {0U, 2U, 7U, 64U}) EXPECT_TRUE(rediger(fils) == seul) << fils;
+}
+
+TEST(Bilan, ProgresEtArret) {
+    const Base base = BaseIntegree(true);
+    const auto grilles = GrillesAleatoires(NbGrillesMax);
+    for (const unsigned fils : {1U, 3U}) {
+        std::stop_source dejaArrete;
+        dejaArrete.request_stop();
+        Progres rien;
+        EXPECT_FALSE(
+            RedigerBilan(base, 1, 8072, grilles, {}, {dejaArrete.get_token(), &rien, fils}));
+        EXPECT_EQ(rien.fait(), 0);
+
+        // Stopped by whoever watches, unless it is through by then; once in many it is not.
+        int arrets = 0;
+        for (int essai = 0; essai < 50 && arrets == 0; ++essai) {
+            std::stop_source source;
+            Progres progres;
+            std::jthread guetteur([&](const std::stop_token& fini) {
+                while (progres.fait() < 30 && !fini.stop_requested()) std::this_thread::yield();
+                source.request_stop();
+            });
+            const auto texte =
+                RedigerBilan(base, 1, 8072, grilles, {}, {source.get_token(), &progres, fils});
+            EXPECT_EQ(progres.fait() == 100, texte.has_value());
+            arrets += texte ? 0 : 1;
+        }
+        EXPECT_EQ(arrets, 1) << fils;
     }
 }
 

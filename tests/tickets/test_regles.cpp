@@ -6,11 +6,10 @@
 #include <bit>
 #include <cmath>
 #include <map>
-#include <numeric>
 #include <random>
 
-#include "base/BaseIntegree.h"
 #include "tickets/FichiersGrilles.h"
+#include "tickets/GrillesHasard.h"
 #include "tickets/Rangs.h"
 
 namespace norvane {
@@ -40,7 +39,7 @@ ComptesRangs Enumerer(int n, int g, int c, int gc, bool depuis2017) {
     return rangs;
 }
 
-TEST(Rangs, EveryRowAgainstTheSimpleGridsOfATicket) {
+TEST(Rangs, ChaqueLigneContreLesGrillesSimples) {
     std::map<int, std::array<ComptesRangs, 2>> attendues;
     for (const auto [n, c] : TypesVendus)
         for (int g = 0; g <= 5; ++g)
@@ -67,7 +66,7 @@ TEST(Rangs, EveryRowAgainstTheSimpleGridsOfATicket) {
         EXPECT_FALSE(ChercherRangs(cle, 20240101)) << cle;
 }
 
-TEST(Rangs, EveryRowOfThe2ndTirage) {
+TEST(Rangs, ChaqueLigneDu2ndTirage) {
     EXPECT_EQ(TableRangs2nd().size(), 20U);
     for (int n = 4; n <= 10; ++n)
         for (int g = 0; g <= 5; ++g) {
@@ -79,7 +78,7 @@ TEST(Rangs, EveryRowOfThe2ndTirage) {
         }
 }
 
-TEST(Rangs, TicketsOnDraws) {
+TEST(Rangs, GrillesSurTirages) {
     struct {
         Grille grille;
         int date;
@@ -106,42 +105,7 @@ TEST(Rangs, TicketsOnDraws) {
     EXPECT_EQ(Rangs2ndGagnes(grille, second), ComptesRangs2nd{});
 }
 
-/// Euros that a ticket wins on record i.
-double Gain(const Base& base, std::size_t i, const Grille& grille) {
-    const auto somme = [&](const auto& comptes) {
-        return std::inner_product(comptes.begin(), comptes.end(), base.Rapports[i].begin(), 0.0,
-                                  std::plus<>(), [](int n, Rapport r) { return n * r.Gain; });
-    };
-    return EstSecondTirage(base.Tirages[i]) ? somme(Rangs2ndGagnes(grille, base.Tirages[i]))
-                                            : somme(RangsGagnes(grille, base.Tirages[i]));
-}
-
-// A ticket with a draw's own numbers, then with two of them replaced, on every published draw.
-TEST(Rangs, TheDrawsOwnNumbersWinThePublishedPrizes) {
-    const Base base = BaseIntegree(false);
-    for (std::size_t i = 0; i < static_cast<std::size_t>(base.NbTirages); ++i) {
-        const Tirage& tirage = base.Tirages[i];
-        const bool second = EstSecondTirage(tirage);
-        const auto publie = [&](std::size_t rang) { return base.Rapports[i][rang].Gain; };
-        const int bonne[] = {second ? 1 : tirage.Chance}, fausse[] = {bonne[0] % 10 + 1};
-        std::vector<int> numeros(std::begin(tirage.Numeros), std::end(tirage.Numeros));
-        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, bonne, true)), publie(0)) << i;
-        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, fausse, true)), publie(second ? 0 : 1)) << i;
-
-        for (int n = 1; numeros.size() < 7; ++n)
-            if (std::ranges::count(numeros, n) == 0) numeros.push_back(n);
-        numeros.erase(numeros.begin(), numeros.begin() + 2);
-        const double trois = publie(second ? 2 : 5);
-        const double troisEtChance = second                         ? trois
-                                     : tirage.DateTirage < 20170306 ? trois + publie(8)
-                                                                    : publie(4);
-        EXPECT_GT(trois, 0) << i;
-        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, fausse, true)), trois) << i;
-        EXPECT_EQ(Gain(base, i, FaireGrille(numeros, bonne, true)), troisEtChance) << i;
-    }
-}
-
-TEST(Rangs, NominalPrizes) {
+TEST(Rangs, GainsNominaux) {
     const std::array<double, 6> g = {0, 0, 5, 20, 500, 100000};
     for (int taille = 2; taille <= 10; ++taille)
         for (std::size_t k = 0; k <= static_cast<std::size_t>(taille); ++k) {
@@ -199,7 +163,7 @@ void Verifier(const Chiffres& joue, const Chiffres& tire) {
 }
 
 // 0 and 9 are near each other, 5 is far from both.
-TEST(Joker, AllPairsOfASmallAlphabetAndRandomOnes) {
+TEST(Joker, ToutesLesPairesEtDautresAuHasard) {
     for (int a = 0; a < 128; ++a)
         for (int b = 0; b < 2187; ++b) {
             Chiffres joue, tire;
@@ -221,12 +185,12 @@ TEST(Joker, AllPairsOfASmallAlphabetAndRandomOnes) {
     }
 }
 
-TEST(Joker, Price) {
+TEST(Joker, Prix) {
     for (const auto& [code, prix] : {std::pair{1, 1}, {2, 2}, {3, 2}, {4, 4}})
         EXPECT_EQ(PrixJoker(code), prix);
 }
 
-TEST(Montants, ConvertedInWholeTenThousandths) {
+TEST(Montants, ConvertisEnDixMilliemes) {
     std::mt19937_64 alea(655957);
     for (int essai = 0; essai < 20000; ++essai) {
         const auto euros = static_cast<std::int64_t>(alea() >> (20 + alea() % 40));
@@ -242,14 +206,14 @@ TEST(Montants, ConvertedInWholeTenThousandths) {
     }
 }
 
-TEST(Montants, Texts) {
+TEST(Montants, Textes) {
     EXPECT_EQ(LibelleMontant(1234.5, "€", 6.55957, true), "1\u00A0234,50 Euros (8\u00A0097,79 F)");
     EXPECT_EQ(LibelleMontant(0, "CHF", 2, false), "0,00 CHF");
     EXPECT_EQ(LibelleMonnaie("€", true), " Euro");
     EXPECT_EQ(LibelleMonnaie("$", true), " $");
 }
 
-TEST(RangExiste, ByTheTimeOfTheDraw) {
+TEST(RangExiste, SelonLaDateDuTirage) {
     const auto rangs = [](int date, int sousTirage) {
         Tirage tirage{};
         tirage.DateTirage = date;
@@ -265,6 +229,77 @@ TEST(RangExiste, ByTheTimeOfTheDraw) {
     EXPECT_EQ(rangs(20170306, 1), "+++++++++");
     EXPECT_EQ(rangs(20191104, 1), "+++++++++");
     EXPECT_EQ(rangs(20191104, 2), "++++-----");
+}
+
+// As the price list prints them: a stake computed must equal the one read from a file.
+TEST(TableMises, GrillesVendues) {
+    const std::vector<std::vector<double>> vendues = {
+        {2.2, 4.4, 6.6, 8.8, 11.0, 13.2, 15.4, 17.6, 19.8, 22.0},
+        {13.2, 26.4, 39.6, 52.8, 66.0, 79.2, 92.4, 105.6, 118.8, 132.0},
+        {46.2, 92.4, 138.6, 184.8, 231.0, 277.2, 323.4, 369.6},
+        {123.2, 246.4, 369.6},
+        {277.2}};
+    for (int n = 5; n <= 9; ++n)
+        for (int c = 1; c <= 10; ++c) {
+            const auto& rangee = vendues[static_cast<std::size_t>(n - 5)];
+            const auto rang = static_cast<std::size_t>(c - 1);
+            EXPECT_EQ(TableMises(n, c), rang < rangee.size() ? rangee[rang] : MiseInjouable)
+                << n << " + " << c;
+        }
+    for (const auto& [n, c] : {std::pair{0, 0}, {4, 1}, {4, 10}, {0, 7}, {9, 0}})
+        EXPECT_EQ(TableMises(n, c), MiseIncomplete) << n << " + " << c;
+    for (const auto& [n, c] : {std::pair{-1, 1}, {10, 1}, {10, 0}, {5, 11}, {3, 11}, {5, -1}})
+        EXPECT_EQ(TableMises(n, c), MiseInjouable) << n << " + " << c;
+}
+
+TEST(TableMises, AvecLOption) {
+    EXPECT_EQ(MiseGrille(5, 1, true), 3.0);
+    EXPECT_EQ(MiseGrille(6, 2, false), 26.4);
+    EXPECT_EQ(MiseGrille(9, 1, true), 378.0);
+    EXPECT_EQ(MiseGrille(10, 1, true), MiseInjouable);
+    const int six[] = {6, 2, 3, 4, 5, 1}, deux[] = {9, 4};
+    EXPECT_EQ(FaireGrille(six, deux, true), (Grille{31.2, {6, 2, 3, 4, 5, 1}, {9, 4}}));
+}
+
+TEST(TypeGrille, Libelles) {
+    EXPECT_EQ(TypesVendus.size(), 32U);
+    for (const TypeGrille type : TypesVendus) EXPECT_EQ(LireTypeGrille(LibelleType(type)), type);
+    EXPECT_EQ(LireTypeGrille("07 + 08C"), (TypeGrille{7, 8}));
+    for (const char* faux : {"07 + 09C", "7 + 8C", "05 + 00C", "", "05 + 01C "})
+        EXPECT_FALSE(LireTypeGrille(faux)) << faux;
+}
+
+/// The generator on 64 bits, and one drawing after the other without a repeat.
+struct Oracle {
+    std::uint64_t etat;
+
+    std::vector<int> tirer(int combien, int max) {
+        std::vector<int> valeurs;
+        while (std::ssize(valeurs) < combien) {
+            etat = (etat * 22695477 + 1) % (1ULL << 32);
+            const int v = static_cast<int>(etat / 65536 % 32768) % max + 1;
+            if (std::count(valeurs.begin(), valeurs.end(), v) == 0) valeurs.push_back(v);
+        }
+        return valeurs;
+    }
+};
+
+TEST(Hasard, LesDeuxCheminsPourChaqueGrilleVendue) {
+    for (const TypeGrille type : TypesVendus) {
+        const auto graine = 4294967000U + static_cast<std::uint32_t>(10 * type.n + type.c);
+        Oracle oracle{graine};
+        GenerateurHasard seul(graine), lot(graine);
+        std::vector<Grille> grilles = {{0, {}, {}}};
+        AjouterGrillesHasard(grilles, lot, type, 20);
+        ASSERT_EQ(grilles.size(), 21U);
+        for (std::size_t i = 1; i <= 20; ++i) {
+            auto numeros = oracle.tirer(type.n, 49), chances = oracle.tirer(type.c, 10);
+            EXPECT_EQ(TirerGrille(seul, type), FaireGrille(numeros, chances, false));
+            std::sort(numeros.begin(), numeros.end());
+            std::sort(chances.begin(), chances.end());
+            EXPECT_EQ(grilles[i], FaireGrille(numeros, chances, false));
+        }
+    }
 }
 
 }  // namespace
