@@ -31,41 +31,39 @@ const std::string CompletLu =
     "2000 12 46\n2000 0 12\n2000 0 4\n2000 0 2\n2005 0 1\n2005 0 1\n2005 0 1\n2005 0 1\n2005 0 1\n";
 const std::string Zero = "0 0 0\n";
 
-TEST(EtatCombinaisons, WhatAFileIsReadAs) {
+TEST(EtatCombinaisons, CeQuUnFichierDonne) {
     struct {
-        const char* nom;
         std::string fichier, lu;
     } const cas[] = {
-        {"complete", Complet, CompletLu},
-        {"last line end missing", Complet.substr(0, Complet.size() - 1), CompletLu},
-        {"CRLF, BOM, more blanks", "\xEF\xBB\xBF  2000  12\t46 \r\n900 0 3\r\n\r\n",
+        {Complet, CompletLu},
+        {Complet.substr(0, Complet.size() - 1), CompletLu},
+        {"\xEF\xBB\xBF  2000  12\t46 \r\n900 0 3\r\n\r\n",
          "2000 12 46\n900 0 3\n" + Lignes(7, Zero)},
-        {"cut between lines", Complet.substr(0, 11), "2000 12 46\n" + Lignes(8, Zero)},
-        {"cut inside a number", "2000 12 46\n2000 0 1", "2000 12 46\n" + Lignes(8, Zero)},
-        {"cut behind size 6", Lignes(5, "7 0 2\n") + "7 1",
-         Lignes(4, "7 0 2\n") + "2005 0 2\n" + Lignes(4, Zero)},
-        // 2000 draws: 17.007 of each pair and 1.086 of each triple on an average.
-        {"crossed, above the draws, no count",
-         "2000 46 12\n2000 0 2001\n2000 0 0\n2000 0 1\n2000 1 1\n2000 3 2\n1 0 2\n",
+        // Cut between lines, inside a number, behind size 6.
+        {Complet.substr(0, 11), "2000 12 46\n" + Lignes(8, Zero)},
+        {"2000 12 46\n2000 0 1", "2000 12 46\n" + Lignes(8, Zero)},
+        {Lignes(5, "7 0 2\n") + "7 1", Lignes(4, "7 0 2\n") + "2005 0 2\n" + Lignes(4, Zero)},
+        // Crossed, above the draws, no count. 2000 draws: 17.007 of each pair and 1.086 of each
+        // triple on an average.
+        {"2000 46 12\n2000 0 2001\n2000 0 0\n2000 0 1\n2000 1 1\n2000 3 2\n1 0 2\n",
          Lignes(3, Zero) + "2000 0 1\n" + Lignes(3, "2005 0 0\n") + Lignes(2, Zero)},
-        {"around the mean", "2000 17 18\n2000 1 2\n", "2000 17 18\n2000 1 2\n" + Lignes(7, Zero)},
-        {"above the mean", "2000 18 18\n2000 2 2\n", Lignes(9, Zero)},
-        {"below the mean", "2000 17 17\n2000 1 1\n", Lignes(9, Zero)},
-        {"neutral", Lignes(9, "0 0 1\n"), Lignes(4, "0 0 1\n") + Lignes(5, "2005 0 1\n")},
+        {"2000 17 18\n2000 1 2\n", "2000 17 18\n2000 1 2\n" + Lignes(7, Zero)},
+        {"2000 18 18\n2000 2 2\n", Lignes(9, Zero)},
+        {"2000 17 17\n2000 1 1\n", Lignes(9, Zero)},
+        {Lignes(9, "0 0 1\n"), Lignes(4, "0 0 1\n") + Lignes(5, "2005 0 1\n")},
+        {"", Lignes(9, Zero)},
     };
     for (const auto& c : cas) {
-        SCOPED_TRACE(c.nom);
+        SCOPED_TRACE(c.fichier);
         const Dossier dossier;
-        poser(dossier / NomCombCalc, c.fichier);
+        if (!c.fichier.empty()) poser(dossier / NomCombCalc, c.fichier);
         const auto etat = LireCombCalc(dossier.chemin(), NbTirages);
         ASSERT_TRUE(etat) << etat.erreur();
         EXPECT_EQ(Texte(*etat), c.lu);
     }
-    const Dossier vide;
-    EXPECT_EQ(Texte(*LireCombCalc(vide.chemin(), NbTirages)), Lignes(9, Zero));
 }
 
-TEST(EtatCombinaisons, NonsenseIsRefusedWithItsLine) {
+TEST(EtatCombinaisons, NonSensRefuseAvecSaLigne) {
     std::vector<std::string> fichiers;
     for (const char* ligne : {"deux 12 46", "1 2", "1 2 3 4", "1 -2 3", "65536 0 1", "1,2,3", "",
                               "1 2 99999999999999999999", "1 2 3.5", "1\x01 2 3"})
@@ -81,7 +79,7 @@ TEST(EtatCombinaisons, NonsenseIsRefusedWithItsLine) {
     }
 }
 
-TEST(EtatCombinaisons, WrittenAndReadBack) {
+TEST(EtatCombinaisons, EcritPuisRelu) {
     const Dossier dossier;
     poser(dossier / NomCombCalc, CompletLu);
     auto etat = *LireCombCalc(dossier.chemin(), NbTirages);
@@ -96,7 +94,7 @@ TEST(EtatCombinaisons, WrittenAndReadBack) {
     EXPECT_FALSE(EcrireCombCalcNeutre(dossier.chemin() / "absent"));
 }
 
-TEST(RestaurerFichiersFiltre, WhatStandsBeforeAndAfter) {
+TEST(RestaurerFichiersFiltre, AvantEtApres) {
     using Fichiers = std::map<std::string, std::string>;
     const Fichiers entiere = {{"COMBCALC.INI", "etat"}, {"comb2.dat", "2"}, {"comb3.dat", "3"},
                               {"comb4.dat", "4"},       {"comb5.dat", "5"}, {"comb6.dat", "6"}};
@@ -106,22 +104,17 @@ TEST(RestaurerFichiersFiltre, WhatStandsBeforeAndAfter) {
     for (const auto& [nom, contenu] : entiere) filtree.try_emplace(nom, "filtrée");
     filtree["Combcalc.ini"] = "filtrée";
     struct {
-        const char* nom;
         Fichiers avant, apres;
     } const cas[] = {
-        {"filtered files in the way", filtree, entiere},
-        {"some backups",
-         {{"comb3.~da", "3"}, {"comb3.dat", "f"}, {"comb4.dat", "f"}, {"COMBCALC.INI", "f"}},
+        {filtree, entiere},
+        {{{"comb3.~da", "3"}, {"comb3.dat", "f"}, {"comb4.dat", "f"}, {"COMBCALC.INI", "f"}},
          {{"comb3.dat", "3"}}},
-        {"a backup in capitals",
-         {{"COMBCALC.~IN", "etat"}, {"Combcalc.ini", "f"}},
-         {{"COMBCALC.INI", "etat"}}},
-        {"no backup at all",
-         {{"comb2.dat", "f"}, {"comb7.dat", "7"}, {"Combcalc.ini", "f"}},
+        {{{"COMBCALC.~IN", "etat"}, {"Combcalc.ini", "f"}}, {{"COMBCALC.INI", "etat"}}},
+        // No backup at all.
+        {{{"comb2.dat", "f"}, {"comb7.dat", "7"}, {"Combcalc.ini", "f"}},
          {{"COMBCALC.INI", Lignes(9, "0 0 1\n")}, {"comb7.dat", "7"}}},
     };
     for (const auto& c : cas) {
-        SCOPED_TRACE(c.nom);
         const Dossier dossier;
         for (const auto& [nom, contenu] : c.avant) poser(dossier.chemin() / nom, contenu);
         const auto fait = RestaurerFichiersFiltre(dossier.chemin());

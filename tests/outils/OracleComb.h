@@ -5,9 +5,9 @@
 // records put together word by word.
 #pragma once
 
+#include <map>
 #include <numeric>
 #include <set>
-#include <unordered_map>
 
 #include "BasesEssai.h"
 #include "comb/Collecte.h"
@@ -90,21 +90,15 @@ inline std::vector<Mot> Enregistrer(const Base& base, const NumerosChoisis& c, M
     return mots;
 }
 
-/// Counts of all combinations of `taille` (up to 5) numbers that came out, in a table by their
-/// numbers: the simple way over a large base.
-inline std::unordered_map<std::uint64_t, int> TableDesComptes(const Base& base, int taille, int inf,
-                                                              int sup) {
-    std::unordered_map<std::uint64_t, int> comptes;
-    for (int d = inf - 1; d < sup; ++d)
-        for (unsigned choix = 0; choix < 32; ++choix) {
-            if (__builtin_popcount(choix) != taille) continue;
-            std::uint64_t cle = 0;
-            for (unsigned p = 0; p < 5; ++p)
-                if (choix >> p & 1)
-                    cle = cle * 64 + static_cast<std::uint64_t>(
-                                         base.Tirages[static_cast<std::size_t>(d)].Numeros[p]);
-            ++comptes[cle];
-        }
+/// Counts of all combinations of `taille` (up to 5) numbers that came out: the simple way over a
+/// large base.
+inline std::map<NumerosChoisis, int> TableDesComptes(const Base& base, int taille, int inf,
+                                                     int sup) {
+    std::map<NumerosChoisis, int> comptes;
+    for (int d = inf - 1; d < sup; ++d) {
+        const auto& numeros = base.Tirages[static_cast<std::size_t>(d)].Numeros;
+        for (const auto& c : Choix({}, {numeros, numeros + NbBoules}, taille)) ++comptes[c];
+    }
     return comptes;
 }
 

@@ -42,7 +42,6 @@ TEST(SaisieBillets, SaisieDeGrilles) {
         {"E0 t3 a t4 a t5 d1 t6 a", "", "Grilles 4/4 _ [t6 t4 t5 _] recu[] choix[]"},
         {"E0 t3 a t4 d1 s", "", "Grilles 1/1 t4 [t4] recu[] choix[]"},
         {"E0 t3 a s s", "", "Grilles 0/0 _ [] recu[] choix[]"},
-        {"E0 s d1", "", "Grilles 0/0 _ [] recu[] choix[]"},
         // An emptied list takes up what is being ticked, whole or not.
         {"E0 s n1 a n2", "", "Grilles 1/1 1.2+@0 [_] recu[] choix[]"},
         {"E0 s t3 p s", "", "Grilles 0/0 _ [] recu[] choix[]"},
@@ -110,7 +109,6 @@ TEST(SaisieBillets, ConsultationCopieEtFichiers) {
         {"E1 t4 a t5 f k0 v20300102 E0 t3 f l1", "", "Normal 2/2 _ [t4 t5] recu[t4 t5] choix[t3]*"},
         // What is deleted here is deleted for good.
         {"E0 t3 a t4 f w C s", "", "Consultation 1/1 t4 [t4] recu[] choix[t4]*"},
-        {"E0 t3 f C s", "", "Consultation 0/0 _ [] recu[] choix[]"},
         {"E0 t3 f C S f", "", "Normal 0/0 _ [] recu[] choix[]"},
         {"E0 t3 f w E1 t4 a t5 Q C s", "", "Consultation 1/1 t5 [t5] recu[t5] choix[t3]"},
         // Copies.
@@ -345,7 +343,6 @@ TEST(SaisieBillets, CeQuePrendLaCopieDeSecours) {
         {"E0 t3 a t4 f w g f E0 s d1 d2", ""},
         {"E0 t3 a t4 f w E0 s t4 d1 s", ""},
         {"E0 t3 a t4 f w C s", "t4"},
-        {"E0 t3 f w E0 t4", "t3 t4"},
         {"E0 t3 a t3 f w E0 t3", "t3 t3 t3"},
         // The stock, then what is being entered.
         {"E0 t3 f E0 S t4", "t3 t4"},
