@@ -114,7 +114,7 @@ Resultat<Rien> CommandeCombExtremes::executer(const Contexte& contexte, std::ost
     CollecteMontree collecte(contexte.progression, JaugeExtremes(*taille, series_));
     const auto fil = CreerRechercheExtremes(atelier.contexte(series_, ModeStockage::PremierRang),
                                             collecte, *taille);
-    const auto mene = Mener(*fil);
+    auto mene = Mener(*fil);
     if (!mene) return mene;
     const Extremes& e = fil->resultat();
     fmt::print(out, "{}\t{}\t{}\t{}\n", *taille, e.BorneInf, e.BorneSup, e.nombre);
@@ -210,7 +210,7 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
     }
     fil->compterSeulement = compter_;
     fil->limite = static_cast<std::uint64_t>(max_.value_or(0));
-    const auto mene = Mener(*fil);
+    auto mene = Mener(*fil);
     if (!mene) return mene;
     if (compter_) fmt::print(out, "{}\n", fil->nombre());
     return Rien{};

@@ -43,7 +43,7 @@ IndexTirages::IndexTirages(std::span<const Tirage> tirages) {
                 trois.push_back({rang(reste & ~Bit(y), 3), {masque, poids_[i]}});
             });
         });
-        bas.push_back({rang(masque, 3), static_cast<std::uint16_t>(i)});
+        bas.emplace_back(rang(masque, 3), static_cast<std::uint16_t>(i));
     }
     for (const auto& [rang, trouve] : quatre)
         presents4_[rang / 64] |= std::uint64_t{1} << (rang % 64);
