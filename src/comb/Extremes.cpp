@@ -26,7 +26,7 @@ class Suiveur {
           minimum_(minimum),
           lignes_(sortie == SortieExtremes::Lignes),
           lotLignes_(puits),
-          lotMots_(puits, static_cast<std::size_t>(taille + 1)) {}
+          lotMots_(puits, static_cast<std::size_t>(taille) + 1) {}
 
     /// `numeros()` is asked for only when the candidate goes out.
     template <typename Numeros>

@@ -40,7 +40,7 @@ void GarderMarques(std::vector<Combinaison>& lignes) {
 
 std::vector<Combinaison> FiltrerExtremes(std::span<const Mot> ListeExtremes, int taille,
                                          int BorneInf, int BorneSup) {
-    const auto pas = static_cast<std::size_t>(taille + 1);
+    const auto pas = static_cast<std::size_t>(taille) + 1;
     std::vector<Combinaison> lignes;
     std::span<const Mot> precedent;
     for (; ListeExtremes.size() >= pas; ListeExtremes = ListeExtremes.subspan(pas)) {

@@ -192,7 +192,7 @@ Redacteur::Redacteur(const ContexteComb& c, Disposition d)
       jamais_(StatistiquesListe({}, inf_, sup_)) {
     for (int bloc = 0; bloc < d.blocs(); ++bloc)
         if (bloc * MotsParBloc != d.premierRang())
-            modele_[static_cast<std::size_t>(bloc * MotsParBloc + 1)] = RangNonCalcule;
+            modele_[static_cast<std::size_t>(bloc) * MotsParBloc + 1] = RangNonCalcule;
 }
 
 void Redacteur::ajouter(std::vector<Mot>& mots, std::span<const Mot> numeros,

@@ -15,7 +15,8 @@ constexpr std::size_t TiragesParMot = 64;
 constexpr int NbTypes = (9 + 1) * (ChanceMax + 1);  ///< nine numbers at most
 
 std::size_t IndiceType(const Grille& grille) {
-    return static_cast<std::size_t>(grille.n() * (ChanceMax + 1) + grille.c());
+    return static_cast<std::size_t>(grille.n()) * (ChanceMax + 1) +
+           static_cast<std::size_t>(grille.c());
 }
 
 TablesType PreparerType(int n, int c) {
