@@ -239,7 +239,8 @@ bool TVaroMainForm::event(QEvent* evenement) {
         return true;
     }
     const bool traite = QMainWindow::event(evenement);
-    if (!peinte_ && evenement->type() == QEvent::Paint) {
+    // The first children come before the flag has a value: the kind of event is looked at first.
+    if (evenement->type() == QEvent::Paint && !peinte_) {
         peinte_ = true;
         // Back in the loop, the whole window has been painted and flushed.
         QTimer::singleShot(0, this, &TVaroMainForm::premierePeinture);
