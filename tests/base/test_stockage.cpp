@@ -333,7 +333,8 @@ TEST_F(Stockage, TueEnSauvant) {
     sauver(bases[0]);
     // On a slow machine the kills come later and later, until one falls inside a transaction.
     for (int essai = 0; essai < 30 || (interrompus == 0 && essai < 300); ++essai) {
-        tuer(alea, 60000 * (1 + essai / 30), [&](int i) { return SauverBase(bases[(actuelle + i) % 2], fichier); });
+        tuer(alea, 60000 * (1 + essai / 30),
+             [&](int i) { return SauverBase(bases[(actuelle + i) % 2], fichier); });
         interrompus += fs::exists(fichier.string() + "-journal");
         const Base lue = charger(false);
         actuelle = memes(lue, bases[1]) ? 1 : 0;
