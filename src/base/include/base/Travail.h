@@ -20,9 +20,19 @@ namespace norvane {
 
 /// Which work.
 enum class GenreTravail : std::uint8_t {
-    Extremes,  ///< the combinations that came out most and least
-    Bornes,    ///< the combinations between two bounds
-    Bilan      ///< the balance of the tickets
+    Extremes,       ///< the combinations that came out most and least
+    Bornes,         ///< the combinations between two bounds
+    Bilan,          ///< the balance of the tickets
+    Rangs,          ///< the lower ranks of a list
+    Adaptation,     ///< a list carried over to another interval
+    Tri,            ///< the order of a list
+    Fichier,        ///< a file read or written
+    JamaisSorties,  ///< combinations with all Chances that never won
+    Rapport,        ///< the analyses
+    MiseAJour,      ///< draws fetched or merged
+    Bulletins,      ///< slips printed
+    Systeme,        ///< a reducing system made
+    Garantie        ///< a reducing system checked
 };
 
 /// Which list of combinations a work writes into.

@@ -55,6 +55,11 @@ struct VersTickets {
     friend bool operator==(const VersTickets&, const VersTickets&) = default;
 };
 
-using Destination = std::variant<VersTirage, VersHistorique, VersTickets>;
+/// The page "Combinaisons N" on the list in memory, which has changed.
+struct VersListe {
+    friend bool operator==(const VersListe&, const VersListe&) = default;
+};
+
+using Destination = std::variant<VersTirage, VersHistorique, VersTickets, VersListe>;
 
 }  // namespace norvane::ui
