@@ -5,9 +5,9 @@
 set -euo pipefail
 
 declare -A groupes=(
-  [construire]="g++ cmake ninja-build ccache mold qt6-base-dev libqt6svg6-dev qt6-charts-dev
-    qt6-translations-l10n libsqlite3-dev libzip-dev libssl-dev libxlsxwriter-dev libfmt-dev libsimpleini-dev libcli11-dev libgtest-dev libbenchmark-dev
-    libgl-dev fonts-noto-core"
+  [construire]="g++ cmake ninja-build ccache mold pkg-config qt6-base-dev libqt6svg6-dev
+    qt6-charts-dev qt6-translations-l10n libsqlite3-dev libzip-dev libssl-dev libxlsxwriter-dev
+    libfmt-dev libsimpleini-dev libcli11-dev libgtest-dev libbenchmark-dev libgl-dev fonts-noto-core"
   [essais]="poppler-utils"
   [controle]="clang-format-14 clang-tidy-14"
   [ecran]="xvfb xdotool imagemagick openbox"
