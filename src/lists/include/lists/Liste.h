@@ -33,7 +33,7 @@ struct EtatTri {
 
 /// How a list is cut into numbered sub-lists. It goes with the list: a new one is not cut.
 struct Division {
-    bool enPreparation = false;      ///< their size is being chosen
+    bool enPreparation = false;       ///< their size is being chosen
     std::size_t TailleSousListe = 0;  ///< lines of each but the last, which may have fewer
     std::size_t NbSousListes = 0;     ///< 0: not cut
 
