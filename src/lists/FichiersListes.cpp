@@ -37,7 +37,7 @@ std::uint64_t OctetsMax() {
 }
 
 int Part(std::size_t fait, std::size_t total) {
-    return static_cast<int>(Cent * fait / std::max<std::size_t>(total, 1));
+    return static_cast<int>(Cent * std::min(fait, total) / std::max<std::size_t>(total, 1));
 }
 
 struct Champ {
