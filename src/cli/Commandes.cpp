@@ -3,6 +3,7 @@
 #include "Commandes.h"
 
 #include "CommandeListe.h"
+#include "CommandeSystemes.h"
 
 namespace norvane {
 
@@ -40,6 +41,11 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
+    commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));
+    commandes.push_back(std::make_unique<CommandeSystemesGenerer>(systemes));
+    commandes.push_back(std::make_unique<CommandeSystemesLire>(systemes));
+    commandes.push_back(std::make_unique<CommandeSystemesVerifier>(systemes));
     return commandes;
 }
 
