@@ -79,6 +79,15 @@ TEST(EtatCombinaisons, NonSensRefuseAvecSaLigne) {
     }
 }
 
+TEST(EtatCombinaisons, LienVersNullePart) {
+    const Dossier dossier;
+    for (const char* nom : {NomCombCalc, "comb2.dat"})
+        std::filesystem::create_symlink("absent", dossier / nom);
+    EXPECT_NE(LireCombCalc(dossier.chemin(), NbTirages).erreur().find("un lien"),
+              std::string::npos);
+    EXPECT_NE(LireListe(dossier / "comb2.dat", 2).erreur().find("un lien"), std::string::npos);
+}
+
 TEST(EtatCombinaisons, EcritPuisRelu) {
     const Dossier dossier;
     poser(dossier / NomCombCalc, CompletLu);
