@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "comb/EtatCombinaisons.h"
+#include "comb/LigneCombinaison.h"
 #include "Dossier.h"
 
 namespace norvane {
