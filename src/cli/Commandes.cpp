@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandeAnalyses.h"
 #include "Commandes.h"
 
 namespace norvane {
@@ -34,6 +35,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     return commandes;
 }
 
