@@ -54,7 +54,6 @@ void PageCombinaisons::construire() {
     liste_ = new PanneauListe(ListePrincipale, contexte.atelier.ListeMemoire, milieu);
     milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
     milieu->pile->addWidget(liste_, 1);
-    milieu->pile->addWidget(tri_ = new PanneauTri(milieu));
     auto* choisie = new Fiche(this);
     combinaison_ = new PanneauCombinaison(contexte, CombinaisonChoisie, choisie);
     choisie->pile->addWidget(combinaison_);
@@ -62,7 +61,8 @@ void PageCombinaisons::construire() {
     auto* droite = new QVBoxLayout;
     droite->setSpacing(2 * Unite);
     droite->addWidget(choisie);
-    droite->addWidget(cahier_ = new Cahier(this), 1);
+    droite->addWidget(cahier_ = new Cahier(contexte, this), 1);
+    tri_ = &cahier_->tri();
     auto* page = new QHBoxLayout(this);
     page->setContentsMargins(2 * Unite, 2 * Unite, 2 * Unite, 2 * Unite);
     page->setSpacing(2 * Unite);
