@@ -36,7 +36,7 @@ TableauCategories StatsCategories(const Base& base, int inf, int sup, const Lign
             const int indice = TableCategories[static_cast<std::size_t>(bons)][chance ? 1 : 0];
             const auto rang = static_cast<std::size_t>(indice);
             Cellule sortis{fmt::format("{}{}", bons, chance ? " + " : ""),
-                           NbCategoriesNC - 1 - indice, CategorieNC{indice}};
+                           NbCategoriesNC - 1 - indice, RangTable{indice}};
             tableau[rang] = {FaireLigneSortis(base, std::move(sortis), listes[rang], inf, sup,
                                               PlaceMaximum::Date),
                              bons, chance};

@@ -29,15 +29,15 @@ struct NumeroTirage {
     friend bool operator==(const NumeroTirage&, const NumeroTirage&) = default;
 };
 
-/// What a ticket of numbers and chances makes of a draw: a row of the table of categories.
-struct CategorieNC {
-    int indice;  ///< from 0, the best result
+/// A row of a table of ranks: its good numbers, or its category.
+struct RangTable {
+    int indice;
 
-    friend bool operator==(const CategorieNC&, const CategorieNC&) = default;
+    friend bool operator==(const RangTable&, const RangTable&) = default;
 };
 
 /// The draw that a cell speaks of, or what it has a history of.
-using Cible = std::variant<NumeroTirage, Element, CategorieNC>;
+using Cible = std::variant<NumeroTirage, Element, RangTable>;
 
 struct Cellule {
     std::string texte;           ///< UTF-8: shown, saved and printed
