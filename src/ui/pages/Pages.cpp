@@ -7,6 +7,7 @@
 
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
+#include "nc/PageNC.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
 
@@ -23,12 +24,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
     [](Contexte& c, QWidget* p) -> Page* { return new PageStats(c, GenreStats::Numeros, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageStats(c, GenreStats::Chances, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageCombinaisons(c, p); },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo9"_s, u"Combinaisons N + C"_s,
-                              u"Cette page donnera les combinaisons de numéros et de chances, "
-                              u"leurs sorties par catégorie de gain et leurs filtres."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageNC(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
         return new PageAVenir(c, u"Varo4"_s, u"Analyses N"_s,
                               u"Cette page donnera le rapport d'analyses des tirages d'un "
