@@ -67,7 +67,10 @@ void PanneauCategories::montrer(const LigneNC& ticket, int inf, int sup) {
     const bool intervalle = inf <= sup;
     vide_ = ticket.vide() || !intervalle;
     sup_ = sup;
-    tirages_->setText(intervalle ? versQt(LibelleIntervalleCourt(base, inf, sup)) : QString());
+    // On one line: the board above has need of the height.
+    tirages_->setText(intervalle
+                          ? versQt(LibelleIntervalleCourt(base, inf, sup)).replace(u'\n', u' ')
+                          : QString());
     libelle_->setText(vide_ ? QString() : versQt(LibelleTicket(ticket)));
     if (!vide_) lignes_ = StatsCategories(base, inf, sup, ticket);
     afficher();
