@@ -40,7 +40,7 @@ class Moteur::TravailTri final : public Travail {
 ReponseClic Moteur::RemplirRangs(QuelleListe laquelle) {
     if (atelier_.activite.occupe() || passage_) return Refuser(Attendez);
     Liste& liste = atelier_.liste(laquelle);
-    if (liste.vide() || liste.mode() == ModeStockage::PremierRang) return Refuser({});
+    if (liste.vide() || liste.arene.disposition.blocs() == 1) return Refuser({});
     CompterRangs(liste);
     if (liste.NbCombRangs == liste.nombre()) return Refuser({});
     passage_ = std::make_unique<Passage>();

@@ -19,9 +19,9 @@ std::uint64_t CleNumeros(const Liste& liste, std::uint32_t enregistrement) {
     return cle;
 }
 
-/// Whether the lower ranks of a record are filled: one word of the first block tells.
+/// Whether a record has lower ranks and they are filled: one word of the first block tells.
 bool RangsRemplis(const Disposition& d, std::span<const Mot> enregistrement) {
-    return d.mode != ModeStockage::PremierRang && enregistrement[1] != RangNonCalcule;
+    return d.premierRang() != 0 && enregistrement[1] != RangNonCalcule;
 }
 
 /// Lines in the order of the keys of their records, those with equal keys as they stood.
@@ -41,6 +41,13 @@ void TrierSelon(Liste& liste, Calcul calculer) {
 }
 
 }  // namespace
+
+void CompterRangs(Liste& liste) {
+    liste.NbCombRangs = 0;
+    for (std::size_t i = 0; i < liste.nombre(); ++i)
+        liste.NbCombRangs +=
+            static_cast<std::size_t>(RangsRemplis(liste.arene.disposition, liste.arene[i]));
+}
 
 Liste ListeDeCombinaisons(int taille, std::span<const Combinaison> lignes) {
     Liste liste;
@@ -145,13 +152,6 @@ void Garder(Liste& liste, const std::vector<bool>& gardes) {
     CompterRangs(liste);
 }
 
-void CompterRangs(Liste& liste) {
-    liste.NbCombRangs = 0;
-    for (std::size_t i = 0; i < liste.nombre(); ++i)
-        liste.NbCombRangs +=
-            static_cast<std::size_t>(RangsRemplis(liste.arene.disposition, liste.arene[i]));
-}
-
 std::vector<std::uint32_t> OrdreDesLignes(const Liste& liste) {
     if (!liste.ordre.empty()) return liste.ordre;
     std::vector<std::uint32_t> ordre(liste.nombre());
@@ -186,6 +186,26 @@ std::size_t RetirerDoublons(Liste& liste) {
             gardes[liste.indice(ligne)] = false;
     Garder(liste, gardes);
     return avant - liste.nombre();
+}
+
+std::size_t TailleSousListeMax(const Liste& liste) {
+    return std::min(liste.nombre(), CapaciteListe);
+}
+
+void Diviser(Liste& liste, std::size_t taille) {
+    liste.division = {.enPreparation = false,
+                      .TailleSousListe = taille,
+                      .NbSousListes = (liste.nombre() + taille - 1) / taille};
+}
+
+void ExtraireSousListe(const Liste& liste, std::size_t numero, Liste& cible) {
+    Vider(cible);
+    const std::size_t debut =
+        std::min((numero - 1) * liste.division.TailleSousListe, liste.nombre());
+    const std::size_t fin = std::min(debut + liste.division.TailleSousListe, liste.nombre());
+    std::vector<std::size_t> lignes(fin - debut);
+    std::iota(lignes.begin(), lignes.end(), debut);
+    Copier(liste, lignes, cible);
 }
 
 std::optional<std::size_t> Position(const Liste& liste, std::span<const Mot> numeros) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "atelier/Cases.h"
+#include "atelier/Selections.h"
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Travail.h"
@@ -19,6 +20,7 @@
 #include "lists/Liste.h"
 #include "lists/Tri.h"
 #include "stats/Occurrences.h"
+#include "tickets/CombinaisonsNC.h"
 #include "tickets/SaisieBillets.h"
 
 namespace norvane {
@@ -52,6 +54,7 @@ struct Atelier {
     Base base;
     Occurrences occurrences;
     IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
+    IntervalleStats Analyses;                    ///< of the page "Analyses N"
 
     EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
     bool series = false;                ///< the engine looks at series of consecutive numbers alone
@@ -60,6 +63,8 @@ struct Atelier {
     GrilleSelection grilleSelection{};  ///< the numbers checked
     GrilleSelection SelectionGardee{};  ///< set aside on entering the series mode
     Selection selection;                ///< the selection in force, over the interval in force
+    SaisieSelection saisieSelection;    ///< the grid while it is edited
+    std::vector<Ensemble> ListeSelections;  ///< choices of 2 to 35 numbers
 
     ModeListe modeListe = ModeListe::Extremes;
     ModeStockage modeStockage = ModeStockage::PremierRang;  ///< of the next search by bounds
@@ -70,7 +75,9 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
+    int TirageActif = -1;           ///< record on show on the page of results, -1 for none
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
@@ -85,8 +92,9 @@ struct Atelier {
     explicit Atelier(std::filesystem::path repertoire);
 
     /// Everything that hangs on the draws again after a change of the base: structures, the
-    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied and
-    /// the list mode is the first one. An error is that of relireEtat; all else is done.
+    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied,
+    /// the list mode is the first one, the series mode is left and no draw is on show. An error is
+    /// that of relireEtat; all else is done.
     Resultat<Rien> recalculer();
 
     /// The bounds of the whole base as the file holds them. On an error all are void.
