@@ -99,6 +99,10 @@ void DelegueSelection::paint(QPainter* peintre, const QStyleOptionViewItem& opti
     p.restore();
 }
 
+QSize DelegueSelection::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return static_cast<const QListView*>(option.widget)->gridSize();
+}
+
 // ------------------------------------------------------------------------------------------- view
 
 CasesSelection::CasesSelection(QWidget* parent)
@@ -154,8 +158,7 @@ void CasesSelection::mouseDoubleClickEvent(QMouseEvent* evenement) {
 void CasesSelection::keyPressEvent(QKeyEvent* evenement) {
     const int rang = currentIndex().row();
     const bool suivante = evenement->key() == Qt::Key_Space;
-    const bool aucune =
-        evenement->key() == Qt::Key_Delete || evenement->key() == Qt::Key_Backspace;
+    const bool aucune = evenement->key() == Qt::Key_Delete || evenement->key() == Qt::Key_Backspace;
     if (rang < 0 || (!suivante && !aucune)) {
         QListView::keyPressEvent(evenement);
         return;

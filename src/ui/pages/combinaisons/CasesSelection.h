@@ -41,6 +41,8 @@ class DelegueSelection final : public QStyledItemDelegate {
 
     void paint(QPainter* peintre, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    /// All of the cell.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
 /// Ten tiles a row. It changes nothing itself: its owner is asked, and shows what came of it.

@@ -3,6 +3,8 @@
 
 #include "combinaisons/CommandesSelection.h"
 
+#include <QFile>
+
 #include "common/Contexte.h"
 #include "common/Enregistrement.h"
 #include "lists/FichiersSelections.h"
@@ -140,9 +142,9 @@ void CommandesSelection::ButtonOuvrirSltClick() {
         if (reponse == CodeFerme || (reponse == CodeBouton1 && !sauver())) return;
         annoncer();
     }
-    const QString choisi = contexte_.services.fichiers->ouvrir(
-        fenetre_, u"Ouvrir vos sélections personnelles"_s, versQt(a.Repertoire.string()),
-        FiltreSelection);
+    const QString choisi =
+        contexte_.services.fichiers->ouvrir(fenetre_, u"Ouvrir vos sélections personnelles"_s,
+                                            versQt(a.Repertoire.string()), FiltreSelection);
     if (choisi.isEmpty()) return;
     const auto lue = OuvrirSelection(QFile::encodeName(choisi).toStdString());
     if (!lue) {
@@ -193,9 +195,9 @@ void CommandesSelection::AdvGlowButton1Click(int ligne) {
 
 void CommandesSelection::Button78Click() {
     Atelier& a = contexte_.atelier;
-    const QString choisi = contexte_.services.fichiers->ouvrir(
-        fenetre_, u"Charger une liste (sélections)"_s, versQt(a.Repertoire.string()),
-        FiltreSelections);
+    const QString choisi =
+        contexte_.services.fichiers->ouvrir(fenetre_, u"Charger une liste (sélections)"_s,
+                                            versQt(a.Repertoire.string()), FiltreSelections);
     if (choisi.isEmpty()) return;
     auto lue = OuvrirSelections(QFile::encodeName(choisi).toStdString());
     if (!lue) {

@@ -4,6 +4,7 @@
 #include "combinaisons/PanneauSelections.h"
 
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -152,9 +153,8 @@ void PanneauSelections::relier() {
     relier(choixLibre_, &CommandesSelection::BitBtnWithColor15Click);
     relier(ouvrir_, &CommandesSelection::ButtonOuvrirSltClick);
     relier(sauver_, &CommandesSelection::ButtonSauverSltClick);
-    connect(aleatoire_, &QPushButton::clicked, this, [this] {
-        commandes_->AdvGlowButton8Click(absolus_->value(), secondaires_->value());
-    });
+    connect(aleatoire_, &QPushButton::clicked, this,
+            [this] { commandes_->AdvGlowButton8Click(absolus_->value(), secondaires_->value()); });
     connect(liste_, &QPushButton::clicked, this, &PanneauSelections::ouvrirListe);
     connect(cases_, &CasesSelection::demande, commandes_, &CommandesSelection::cocher);
 }
@@ -183,11 +183,11 @@ void PanneauSelections::suivre() {
     ouvrir_->setEnabled(!saisie);
     sauver_->setEnabled(!saisie && SelectionASauver(a));
     const Occurrences& occ = a.occurrences;
-    intervalle_->setText(occ.IntervalleSup < occ.IntervalleInf
-                             ? QString()
-                             : versQt(LibelleIntervalleCourt(a.base, occ.IntervalleInf,
-                                                             occ.IntervalleSup))
-                                   .replace(u'\n', u' '));
+    intervalle_->setText(
+        occ.IntervalleSup < occ.IntervalleInf
+            ? QString()
+            : versQt(LibelleIntervalleCourt(a.base, occ.IntervalleInf, occ.IntervalleSup))
+                  .replace(u'\n', u' '));
     if (panneau_ != nullptr) panneau_->suivre();
 }
 
@@ -213,8 +213,8 @@ void PanneauSelections::hideEvent(QHideEvent* evenement) {
 }
 
 QList<QWidget*> PanneauSelections::ordreTabulation() const {
-    return {cases_,   selectionner_, vider_,       tirage_, choixLibre_, aleatoire_,
-            absolus_, secondaires_,  ouvrir_, sauver_,     liste_};
+    return {cases_,   selectionner_, vider_,  tirage_, choixLibre_, aleatoire_,
+            absolus_, secondaires_,  ouvrir_, sauver_, liste_};
 }
 
 }  // namespace norvane::ui

@@ -132,6 +132,8 @@ QGroupBox* PanneauTailles::creerStockage() {
     auto* groupe = new QGroupBox(u"Stocker en mémoire :"_s, this);
     groupe->setObjectName(u"RadioGroup1"_s);
     auto* grille = new QGridLayout(groupe);
+    // As narrow as the sizes above.
+    grille->setContentsMargins(Unite, Unite, Unite, Unite);
     grille->setSpacing(Unite / 2);
     stockage_ = new QButtonGroup(groupe);
     for (const ItemStockage& item : ItemsStockage) {

@@ -34,8 +34,8 @@ SelectionsPanel::SelectionsPanel(Contexte& ctx, CommandesSelection& commandes, Q
     liste_->setAccessibleName(u"Liste de sélections"_s);
     liste_->setUniformItemSizes(true);
     poserIndice(liste_, u"Sélections ajoutées ou chargées"_s);
-    auto* compte = rangee({legende(u"Sélections :"_s, this), nombre_,
-                           legende(u"Indice :"_s, this), indice_});
+    auto* compte =
+        rangee({legende(u"Sélections :"_s, this), nombre_, legende(u"Indice :"_s, this), indice_});
     compte->setSpacing(Unite);
     compte->insertSpacing(2, 2 * Unite);
     compte->addStretch(1);
@@ -60,8 +60,9 @@ SelectionsPanel::SelectionsPanel(Contexte& ctx, CommandesSelection& commandes, Q
 QLayout* SelectionsPanel::creerAjouts() {
     auto* enCours = bouton(u"Button71"_s, u"Ajouter la sélection en cours"_s,
                            u"Ajouter à la liste les numéros absolus de la grille"_s, this);
-    auto* memoire = bouton(u"Button76"_s, u"Ajout de la sélection"_s,
-                           u"Ajouter à la liste les premiers numéros de la liste en mémoire"_s, this);
+    auto* memoire =
+        bouton(u"Button76"_s, u"Ajout de la sélection"_s,
+               u"Ajouter à la liste les premiers numéros de la liste en mémoire"_s, this);
     auto* taille = new QSpinBox(this);
     taille->setObjectName(u"RxSpinEditSelection"_s);
     taille->setAccessibleName(u"Nombre de numéros à prendre dans la liste en mémoire"_s);
@@ -88,8 +89,9 @@ QLayout* SelectionsPanel::creerFichiers() {
                              u"Supprimer la sélection active de la liste"_s, this);
     connect(supprimer, &QPushButton::clicked, this,
             [this] { commandes_.AdvGlowButton1Click(liste_->currentRow()); });
-    auto* mode = bouton(u"Button87"_s, u"Mode"_s,
-                        u"Montrer la ligne choisie dans la grille ou dans les statistiques"_s, this);
+    auto* mode =
+        bouton(u"Button87"_s, u"Mode"_s,
+               u"Montrer la ligne choisie dans la grille ou dans les statistiques"_s, this);
     stats_ = bouton(u"SpeedButton5"_s, u"Stats"_s, mode->toolTip(), this);
     stats_->setCheckable(true);
     for (const QPushButton* b : {mode, stats_})
