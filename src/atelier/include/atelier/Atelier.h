@@ -19,6 +19,7 @@
 #include "comb/Selection.h"
 #include "lists/Liste.h"
 #include "stats/Occurrences.h"
+#include "tickets/CombinaisonsNC.h"
 #include "tickets/SaisieBillets.h"
 
 namespace norvane {
@@ -52,6 +53,7 @@ struct Atelier {
     Base base;
     Occurrences occurrences;
     IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
+    IntervalleStats Analyses;                    ///< of the page "Analyses N"
 
     EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
     bool series = false;                ///< the engine looks at series of consecutive numbers alone
@@ -71,6 +73,7 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
     int TirageActif = -1;           ///< record on show on the page of results, -1 for none
 
