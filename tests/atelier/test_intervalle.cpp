@@ -152,9 +152,11 @@ class Machine : public testing::Test {
         const Bornes& voulu = Intervalles[hasard() % std::size(Intervalles)];
         const bool meme = voulu == m.intervalle;
         a.ListeMemoire = a.ListeExtremes = UneListe;
+        a.triEcartAvance.actif = true;
         ASSERT_TRUE(ChangerIntervalle(a, voulu.first, voulu.second));
         m.changer(voulu);
         EXPECT_EQ(a.ListeExtremes.vide(), !meme);
+        EXPECT_EQ(a.triEcartAvance.actif, meme);
         EXPECT_FALSE(a.ListeMemoire.vide());
     }
     void valider(const GrilleSelection& g) {
