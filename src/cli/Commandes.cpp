@@ -3,6 +3,7 @@
 #include "Commandes.h"
 
 #include "CommandeAnalyses.h"
+#include "CommandeBulletins.h"
 #include "CommandeListe.h"
 #include "CommandeNC.h"
 #include "CommandeSystemes.h"
@@ -49,6 +50,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     for (const CommandeNcFiltre::Filtre& filtre : CommandeNcFiltre::filtres())
         commandes.push_back(std::make_unique<CommandeNcFiltre>(nc, filtre));
     commandes.push_back(std::make_unique<CommandeNcJamais>(nc));
+    commandes.push_back(std::make_unique<CommandeBulletins>(racine));
     commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
     commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));
