@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Commandes.h"
 
+#include "CommandeHistorique.h"
 #include "CommandeSystemes.h"
 
 namespace norvane {
@@ -36,6 +37,10 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    CLI::App& historique =
+        Groupe(racine, "historique", "Les tirages de l'intervalle où un numéro ou une chance sort");
+    for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances})
+        commandes.push_back(std::make_unique<CommandeHistorique>(historique, genre));
     CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
     commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));
     commandes.push_back(std::make_unique<CommandeSystemesGenerer>(systemes));

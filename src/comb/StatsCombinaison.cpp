@@ -44,6 +44,8 @@ LigneStatsCombinaison FaireLigne(const Base& base, const ListeOccurrences& liste
     const ResultatStats r = StatsIntervalle(liste, inf - 1, sup - 1);
     const auto nbFois = static_cast<int>(liste.size());
     const int date = liste.empty() ? 0 : base.Tirages[liste.back()].DateTirage;
+    Cellule sortis = CelluleEntier(bons);
+    if (date != 0) sortis.cible = RangTable{bons};
     Cellule ratio = CelluleRatio(nbFois, sup - inf + 1);
     Cellule ecart = CelluleEntier(r.Ecart);
     if (date != 0) ecart.cible = NumeroTirage{sup - r.Ecart};
@@ -52,7 +54,7 @@ LigneStatsCombinaison FaireLigne(const Base& base, const ListeOccurrences& liste
             .date = date,
             .resultat = r,
             .ratioGraphique = static_cast<int>(ratio.cle),
-            .cellules = {CelluleEntier(bons), CelluleEntier(nbFois), std::move(ratio),
+            .cellules = {std::move(sortis), CelluleEntier(nbFois), std::move(ratio),
                          CelluleDate(date, JamaisSorti, sup - r.Ecart), std::move(ecart),
                          CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, inf - 1, sup),
                          CelluleEntier(r.Suite),

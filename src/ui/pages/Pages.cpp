@@ -7,6 +7,7 @@
 
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
+#include "historiques/PageHistoriques.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
 
@@ -41,7 +42,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
                               u"numéros et des chances."_s,
                               p);
     },
-    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriquesAVenir(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
         return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
                               u"Cette page imprimera vos grilles sur les bulletins de jeu."_s, p);

@@ -29,7 +29,8 @@ struct LigneStatsCombinaison {
     int date;                ///< yyyymmdd of the last of them, 0 for none
     ResultatStats resultat;  ///< the twelve results over the interval
     int ratioGraphique;      ///< 100 x 100 x NbFois / interval, rounded: of 10000
-    std::array<Cellule, NbColonnesCombinaison> cellules;  ///< of the columns; draws as targets
+    std::array<Cellule, NbColonnesCombinaison>
+        cellules;  ///< of the columns; the rank and draws as targets of what came out
 };
 
 /// Rows min(N, 5) down to 0 over draws inf..sup (one-based, inclusive). `numeros`: 2 to 10 of

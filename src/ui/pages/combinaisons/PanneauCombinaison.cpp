@@ -11,6 +11,7 @@
 #include "combinaisons/TableauCombinaison.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
+#include "reports/Historique.h"
 #include "stats/TableauStats.h"
 #include "widgets/Fiche.h"
 #include "widgets/VueTableau.h"
@@ -46,6 +47,13 @@ PanneauCombinaison::PanneauCombinaison(Contexte& ctx, const NomsCombinaison& nom
 
     connect(table_, &TableauCombinaison::tirageDemande, this, [this](int numero) {
         contexte_.relais.aller(VersTirage{numero, {}});
+    });
+    connect(table_, &TableauCombinaison::rangDemande, this, [this](int bons) {
+        contexte_.relais.aller(VersHistorique{RangCombinaison{numeros_, bons}, inf_, sup_});
+    });
+    connect(table_, &TableauCombinaison::rangAbsent, this, [this] {
+        contexte_.services.messages->MessageInfo(
+            versQt(MessageNonSorti(RangCombinaison{numeros_, 0})), u"Message"_s);
     });
     connect(barres_, &QCheckBox::toggled, this, &PanneauCombinaison::rafraichir);
     connect(boutonPosition_, &QPushButton::clicked, this, &PanneauCombinaison::positionDemandee);

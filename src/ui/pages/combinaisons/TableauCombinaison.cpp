@@ -35,6 +35,8 @@ void TableauCombinaison::montrer(const std::vector<LigneStatsCombinaison>& ligne
     rangees.reserve(lignes.size());
     for (const LigneStatsCombinaison& ligne : lignes) {
         rangees.push_back(ligneTableau(ligne.cellules));
+        rangees.back()[Sortis].indice =
+            u"Double cliquez sur ce rang pour afficher l'historique correspondant..."_s;
         rangees.back()[Ratio] = celluleRatio(ligne.cellules[Ratio], barres);
     }
     vue->remplir(std::move(rangees));
@@ -42,8 +44,15 @@ void TableauCombinaison::montrer(const std::vector<LigneStatsCombinaison>& ligne
 
 void TableauCombinaison::activer(const QModelIndex& index) {
     const auto& cible = vue->modele().cellule(index).cible;
-    const auto* tirage = cible ? std::get_if<NumeroTirage>(&*cible) : nullptr;
-    if (tirage != nullptr) Q_EMIT tirageDemande(tirage->numero);
+    if (!cible) {
+        if (index.column() == Sortis) Q_EMIT rangAbsent();
+        return;
+    }
+    if (const auto* tirage = std::get_if<NumeroTirage>(&*cible)) {
+        Q_EMIT tirageDemande(tirage->numero);
+    } else if (const auto* rang = std::get_if<RangTable>(&*cible)) {
+        Q_EMIT rangDemande(rang->indice);
+    }
 }
 
 }  // namespace norvane::ui

@@ -29,6 +29,10 @@ class TableauCombinaison final : public QObject {
  Q_SIGNALS:
     /// A double click on a cell that speaks of a draw (one-based).
     void tirageDemande(int numero);
+    /// One on the label of a rank, by its count of good numbers.
+    void rangDemande(int bons);
+    /// One on the label of a rank that never came out.
+    void rangAbsent();
 
  private:
     void activer(const QModelIndex& index);
