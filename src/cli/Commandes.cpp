@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Commandes.h"
 
+#include "CommandeAnalyses.h"
 #include "CommandeHistorique.h"
+#include "CommandeListe.h"
 #include "CommandeSystemes.h"
 
 namespace norvane {
@@ -30,6 +32,10 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeCombExtremes>(comb));
     commandes.push_back(std::make_unique<CommandeCombBornes>(comb));
     commandes.push_back(std::make_unique<CommandeCombStats>(comb));
+    commandes.push_back(std::make_unique<CommandeListeLire>(
+        Groupe(racine, "liste", "Fichiers de listes de combinaisons (*.lst)")));
+    commandes.push_back(std::make_unique<CommandeSelectionLire>(
+        Groupe(racine, "selection", "Fichiers de sélections de numéros (*.slt)")));
     CLI::App& regles = Groupe(racine, "regles", "Règles des mises et des gains, sans la base");
     for (const CommandeRegle::Regle& regle : CommandeRegle::regles())
         commandes.push_back(std::make_unique<CommandeRegle>(regles, regle));
@@ -37,6 +43,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& historique =
         Groupe(racine, "historique", "Les tirages de l'intervalle où un numéro ou une chance sort");
     for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances})

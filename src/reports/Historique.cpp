@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "base/Dates.h"
+#include "tickets/CategoriesNC.h"
 
 namespace norvane {
 
@@ -17,9 +18,6 @@ struct Cas : Ts... {
 };
 template <class... Ts>
 Cas(Ts...) -> Cas<Ts...>;
-
-/// Category by good numbers and by whether the Chance was found.
-constexpr int Categories[NbBoules + 1][2] = {{11, 9}, {10, 8}, {7, 6}, {5, 4}, {3, 2}, {1, 0}};
 
 /// Everything that the subject names: what stands out in the table.
 struct Valeurs {
@@ -60,8 +58,8 @@ bool Sorti(const Tirage& tirage, const RangCombinaison& r) {
     return Bons(tirage, r.numeros) == r.bons;
 }
 bool Sorti(const Tirage& tirage, const CategorieChances& c) {
-    const int bons = Bons(tirage, c.numeros);
-    return Categories[bons][ChanceTrouvee(tirage, c.chances) ? 1 : 0] == c.categorie;
+    const auto bons = static_cast<std::size_t>(Bons(tirage, c.numeros));
+    return TableCategories[bons][ChanceTrouvee(tirage, c.chances) ? 1 : 0] == c.categorie;
 }
 
 /// The records inf-1..sup-1 where it came out. Those of a number or a Chance are kept already.
