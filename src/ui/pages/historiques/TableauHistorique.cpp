@@ -27,17 +27,17 @@ struct Forme {
     const char16_t* sens;
 };
 constexpr std::array<Forme, NbColonnesHistorique> Formes{
-    {{52, u"00000", u"Numéro du tirage"},
-     {84, u"00/00/0000", u"Date du tirage"},
-     {38, u"00", u"Premier numéro"},
-     {38, u"00", u"Deuxième numéro"},
-     {38, u"00", u"Troisième numéro"},
-     {38, u"00", u"Quatrième numéro"},
-     {38, u"00", u"Cinquième numéro"},
-     {38, u"00", u"Numéro Chance"},
-     {52, u"00000", u"Tirages depuis la sortie précédente"},
-     {46, u"00000", u"Sorties de suite"},
-     {46, u"000", u"Somme des cinq numéros et de la chance"}}};
+    {{68, u"00000", u"Numéro du tirage"},
+     {108, u"00/00/0000", u"Date du tirage"},
+     {50, u"00", u"Premier numéro"},
+     {50, u"00", u"Deuxième numéro"},
+     {50, u"00", u"Troisième numéro"},
+     {50, u"00", u"Quatrième numéro"},
+     {50, u"00", u"Cinquième numéro"},
+     {50, u"00", u"Numéro Chance"},
+     {64, u"00000", u"Tirages depuis la sortie précédente"},
+     {58, u"00000", u"Sorties de suite"},
+     {58, u"000", u"Somme des cinq numéros et de la chance"}}};
 
 std::vector<ColonneTableau> colonnesHistorique() {
     std::vector<ColonneTableau> colonnes;
