@@ -3,6 +3,7 @@
 #include "Commandes.h"
 
 #include "CommandeAnalyses.h"
+#include "CommandeBulletins.h"
 #include "CommandeHistorique.h"
 #include "CommandeListe.h"
 #include "CommandeSystemes.h"
@@ -43,6 +44,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    commandes.push_back(std::make_unique<CommandeBulletins>(racine));
     commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& historique =
         Groupe(racine, "historique", "Les tirages de l'intervalle où un numéro ou une chance sort");

@@ -7,6 +7,7 @@
 
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
+#include "graphes/PageGraphes.h"
 #include "historiques/PageHistoriques.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
@@ -36,12 +37,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
                               u"intervalle, à parcourir, à imprimer et à enregistrer."_s,
                               p);
     },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo5"_s, u"Graphes"_s,
-                              u"Cette page donnera les graphes des sorties, écarts et suites des "
-                              u"numéros et des chances."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
         return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
