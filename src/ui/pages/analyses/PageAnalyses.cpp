@@ -39,8 +39,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double LargeurReglages = 250;  // design units, at most
-constexpr double CorpsNormal = 13.0;     // pixels of the window's font where a report is 1:1
+constexpr double CorpsNormal = 13.0;  // pixels of the window's font where a report is 1:1
 
 }  // namespace
 
@@ -75,7 +74,8 @@ PageAnalyses::PageAnalyses(Contexte& ctx, QWidget* parent)
 
 QWidget* PageAnalyses::construireReglages() {
     auto* reglages = new QWidget(this);
-    reglages->setMaximumWidth(contexte.px(LargeurReglages));
+    // As wide as it needs to be: the report has all the rest.
+    reglages->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* pile = new QVBoxLayout(reglages);
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(2 * Unite);
@@ -169,9 +169,9 @@ QGroupBox* PageAnalyses::construireSorties() {
 }
 
 void PageAnalyses::construireRaccourcis() {
+    // Of the window, wherever the focus is: they work while the page is on show.
     const auto ajouter = [this](const QKeySequence& touches, auto&& faire) {
-        auto* raccourci = new QShortcut(touches, this);
-        raccourci->setContext(Qt::WidgetWithChildrenShortcut);
+        const auto* raccourci = new QShortcut(touches, this);
         connect(raccourci, &QShortcut::activated, recherche_, faire);
     };
     ajouter(QKeySequence::Find, [this] { recherche_->ouvrir(); });

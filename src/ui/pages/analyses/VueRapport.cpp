@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -46,14 +47,15 @@ void VueRapport::creerMenu() {
 void VueRapport::montrer(std::shared_ptr<const Document> document, const MiseEnForme& forme) {
     const Place place = placeLue();
     document_ = std::move(document);
-    QTextDocument* ancien = QTextBrowser::document();
+    // The toolkit deletes the text that a view was made with, and no other.
+    const QPointer<QTextDocument> ancien = QTextBrowser::document();
     auto* texte = new QTextDocument(this);
     composer(*texte, *document_, forme);
     QPalette couleurs = palette();
     couleurs.setColor(QPalette::Base, QColor::fromRgb(FondDe(forme.jeu)));
     setPalette(couleurs);
     setDocument(texte);
-    ancien->deleteLater();
+    delete ancien.data();
     retrouver(place);
     Q_EMIT montre();
 }
