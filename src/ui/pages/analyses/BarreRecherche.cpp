@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
 
@@ -131,7 +132,13 @@ void BarreRecherche::montrerCourante() {
     QTextCursor curseur(vue_.document());
     curseur.setPosition(places_[static_cast<std::size_t>(courante_)]);
     vue_.setTextCursor(curseur);
-    vue_.ensureCursorVisible();
+    // Not at the edge, where nothing around it could be read.
+    const QRect lieu = vue_.cursorRect();
+    const int hauteur = vue_.viewport()->height();
+    if (lieu.top() < 0 || lieu.bottom() > hauteur - 2 * lieu.height()) {
+        auto* barre = vue_.verticalScrollBar();
+        barre->setValue(barre->value() + lieu.top() - hauteur / 3);
+    }
 }
 
 void BarreRecherche::marquer() {

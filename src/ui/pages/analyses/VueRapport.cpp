@@ -47,6 +47,7 @@ void VueRapport::creerMenu() {
 void VueRapport::montrer(std::shared_ptr<const Document> document, const MiseEnForme& forme) {
     const Place place = placeLue();
     document_ = std::move(document);
+    setExtraSelections({});  // they point into the text that goes
     // The toolkit deletes the text that a view was made with, and no other.
     const QPointer<QTextDocument> ancien = QTextBrowser::document();
     auto* texte = new QTextDocument(this);
