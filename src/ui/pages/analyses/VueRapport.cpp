@@ -84,7 +84,7 @@ void VueRapport::retrouver(const Place& place) {
     if (!place.ancre.empty()) {
         const int ancre = document_->numeroAncre(place.ancre);
         if (ancre == SansAncre) {  // a chapter that this report has not: its start serves
-            defiler(0, 0);
+            verticalScrollBar()->setValue(0);
             return;
         }
         debut = document_->ancres[static_cast<std::size_t>(ancre)].bloc;
