@@ -8,6 +8,7 @@
 #include "analyses/PageAnalyses.h"
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
+#include "graphes/PageGraphes.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
 
@@ -31,12 +32,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
                               p);
     },
     [](Contexte& c, QWidget* p) -> Page* { return new PageAnalyses(c, p); },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo5"_s, u"Graphes"_s,
-                              u"Cette page donnera les graphes des sorties, écarts et suites des "
-                              u"numéros et des chances."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriquesAVenir(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
         return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
