@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "analyses/PageAnalyses.h"
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
 #include "graphes/PageGraphes.h"
@@ -31,12 +32,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
                               u"leurs sorties par catégorie de gain et leurs filtres."_s,
                               p);
     },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo4"_s, u"Analyses N"_s,
-                              u"Cette page donnera le rapport d'analyses des tirages d'un "
-                              u"intervalle, à parcourir, à imprimer et à enregistrer."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageAnalyses(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
