@@ -19,6 +19,7 @@
 #include "comb/Selection.h"
 #include "lists/Liste.h"
 #include "stats/Occurrences.h"
+#include "tickets/CombinaisonsNC.h"
 #include "tickets/SaisieBillets.h"
 
 namespace norvane {
@@ -72,6 +73,7 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
     int TirageActif = -1;           ///< record on show on the page of results, -1 for none
 
