@@ -103,8 +103,8 @@ void CommandesSysteme::Button82Click() {
 void CommandesSysteme::BitBtn8Click() {
     if (contexte_.refuserSiOccupe() || !accepterPerte()) return;
     const QString choisi = contexte_.services.fichiers->ouvrir(
-        fenetre_, u"Charger un système en mémoire"_s,
-        versQt(contexte_.atelier.Repertoire.string()), FiltreSysteme);
+        fenetre_, u"Charger un système en mémoire"_s, versQt(contexte_.atelier.Repertoire.string()),
+        FiltreSysteme);
     if (choisi.isEmpty()) return;
     laisserVoir(u"Chargement en cours..."_s);
     auto lu = ChargerSysteme(chemin(choisi));
@@ -157,7 +157,8 @@ void CommandesSysteme::Button85Click() {
                      {{u"Format Texte (*.txt)"_s, u"txt"_s}},
                      u"Système exporté"_s,
                      [this](const fs::path& fichier, std::size_t) {
-                         return EcrireFichier(fichier, TexteGrilles(contexte_.atelier.SystemeCourant));
+                         return EcrireFichier(fichier,
+                                              TexteGrilles(contexte_.atelier.SystemeCourant));
                      }});
 }
 
@@ -241,6 +242,11 @@ void CommandesSysteme::avancer(int numero) {
     Q_EMIT selectionChangee();
 }
 
+void CommandesSysteme::retirer(int numero) {
+    contexte_.atelier.NumerosSysteme.retirer(numero);
+    Q_EMIT selectionChangee();
+}
+
 void CommandesSysteme::Button80Click() {
     choisir({});
 }
@@ -273,9 +279,7 @@ void CommandesSysteme::BitBtn6Click() {
     if (choisi.isEmpty()) return;
     const auto lue = OuvrirSelection(chemin(choisi));
     if (!lue) return direErreur(lue.erreur());
-    const auto selection = SelectionDeGrille(*lue);
-    if (!selection) return direErreur(selection.erreur());
-    choisir(*selection);
+    choisir(SelectionDeGrille(*lue));
 }
 
 void CommandesSysteme::BitBtn7Click() {

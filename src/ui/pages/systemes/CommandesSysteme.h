@@ -47,13 +47,14 @@ class CommandesSysteme final : public QObject {
     bool verifie() const;
 
     // The selection.
-    void avancer(int numero);        ///< the next of the three states
-    void Button80Click();            ///< clear
-    void Button81Click();            ///< random
-    void BitBtnWithColor20Click();   ///< from the draw on show
-    void BitBtnWithColor21Click();   ///< from the free choice
-    void BitBtn6Click();             ///< open
-    void BitBtn7Click();             ///< save
+    void avancer(int numero);  ///< the next of the three states
+    void retirer(int numero);
+    void Button80Click();           ///< clear
+    void Button81Click();           ///< random
+    void BitBtnWithColor20Click();  ///< from the draw on show
+    void BitBtnWithColor21Click();  ///< from the free choice
+    void BitBtn6Click();            ///< open
+    void BitBtn7Click();            ///< save
 
  Q_SIGNALS:
     void selectionChangee();

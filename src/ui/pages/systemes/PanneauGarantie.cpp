@@ -30,8 +30,8 @@ QString compte(std::int64_t n) {
 }
 
 QString phrase(const PreuveSysteme& p) {
-    QString cas = u"%1 sur une sélection de %2 numéros"_s.arg(u"%1/%2"_s.arg(p.X).arg(p.Y))
-                      .arg(p.selection);
+    QString cas =
+        u"%1 sur une sélection de %2 numéros"_s.arg(u"%1/%2"_s.arg(p.X).arg(p.Y)).arg(p.selection);
     if (p.base > 0) cas += u" dont %1 de base"_s.arg(p.base);
     if (p.bilan.tenue())
         return u"Garantie %1 tenue : les %2 cas possibles ont tous été vérifiés."_s.arg(
@@ -42,7 +42,7 @@ QString phrase(const PreuveSysteme& p) {
 
 QString numeros(Ensemble cas) {
     QStringList mots;
-    for (const int n : cas) mots << u"%1"_s.arg(n, 2, 10, u'0');
+    for (const int n : cas) mots << versQt(FormaterMasque(n, 2));
     return mots.join(u' ');
 }
 
@@ -63,15 +63,16 @@ QString part(std::int64_t n, std::int64_t total) {
 
 std::vector<ColonneTableau> colonnes() {
     std::vector<ColonneTableau> colonnes(1 + std::tuple_size_v<TableChances::value_type>);
-    colonnes[0] = {.entete = u"Sortis"_s,
-                   .indice = u"Numéros tirés qui sont dans la sélection"_s,
-                   .largeur = 40};
-    for (std::size_t bons = 0; bons + 1 < colonnes.size(); ++bons)
-        colonnes[bons + 1] = {.entete = u"%1 bon%2"_s.arg(bons).arg(bons > 1 ? u"s"_s : QString()),
-                              .indice = u"Part des cas où la meilleure grille tient %1 numéros "
-                                        u"tirés"_s.arg(bons),
-                              .largeur = 52,
-                              .etalon = u"100,00 %"_s};
+    colonnes[0].entete = u"Sortis"_s;
+    colonnes[0].indice = u"Numéros tirés qui sont dans la sélection"_s;
+    colonnes[0].largeur = 40;
+    for (std::size_t bons = 0; bons + 1 < colonnes.size(); ++bons) {
+        ColonneTableau& c = colonnes[bons + 1];
+        c.entete = u"%1 bon%2"_s.arg(bons).arg(bons > 1 ? u"s"_s : QString());
+        c.indice = u"Part des cas où la meilleure grille tient %1 des numéros tirés"_s.arg(bons);
+        c.largeur = 52;
+        c.etalon = u"100,00 %"_s;
+    }
     return colonnes;
 }
 

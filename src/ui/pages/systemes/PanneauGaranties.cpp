@@ -59,9 +59,10 @@ void PanneauGaranties::creerTypes() {
     grille->setSpacing(Unite / 2);
     for (int i = 0; const TypeGarantie& type : TypesGarantie) {
         auto* choix = new QRadioButton(QString::fromUtf8(type.legende), cadre_);
-        poserIndice(choix, u"%1 numéros sur 5 si %2 numéros sortent parmi votre sélection"_s
-                               .arg(type.X)
-                               .arg(type.Y));
+        poserIndice(
+            choix,
+            u"%1 numéros sur 5 si %2 numéros sortent parmi votre sélection"_s.arg(type.X).arg(
+                type.Y));
         types_->addButton(choix, i);
         grille->addWidget(choix, i / TypesParRangee, i % TypesParRangee);
         ++i;
@@ -100,11 +101,12 @@ void PanneauGaranties::reprendre(int ligne) {
                         .arg(s.NumerosParGrille)
                         .arg(s.Base));
     titre_->setToolTip(u"Clé du système : "_s + versQt(CleSysteme(s)));
-    promesse_->setText(u"Vous êtes assuré d'obtenir %1 numéros sur %2\nsi %3 numéros sortent parmi "
-                       u"votre sélection de %4"_s.arg(s.GarantieX)
-                           .arg(s.NumerosParGrille)
-                           .arg(s.GarantieY)
-                           .arg(s.Selection));
+    promesse_->setText(
+        u"Vous êtes assuré d'obtenir %1 numéros sur %2\nsi %3 numéros sortent parmi "
+        u"votre sélection de %4"_s.arg(s.GarantieX)
+            .arg(s.NumerosParGrille)
+            .arg(s.GarantieY)
+            .arg(s.Selection));
 }
 
 QList<QWidget*> PanneauGaranties::ordreTabulation() const {

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "base/Textes.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "systemes/CommandesSysteme.h"
@@ -36,8 +37,8 @@ constexpr std::array<Commande, 5> Commandes = {{
      &CommandesSysteme::BitBtn8Click},
     {u"BitBtn10", u"&Sauver le système", u"Enregistrer le système en mémoire dans un fichier *.syr",
      &CommandesSysteme::BitBtn10Click},
-    {u"Button85", u"&Exporter au format texte",
-     u"Sauvegarde du système en mémoire au format texte", &CommandesSysteme::Button85Click},
+    {u"Button85", u"&Exporter au format texte", u"Sauvegarde du système en mémoire au format texte",
+     &CommandesSysteme::Button85Click},
     {u"Button84", u"&Importer vers Statistiques",
      u"Copier les grilles du système dans la liste de combinaisons, avec leurs statistiques",
      &CommandesSysteme::Button84Click},
@@ -111,15 +112,16 @@ void PanneauGrilles::creerBoutons(CommandesSysteme& commandes) {
 }
 
 QString PanneauGrilles::ligne(int grille) const {
-    return versQt(LigneGrille(contexte_.atelier.SystemeCourant.grille(static_cast<std::size_t>(grille))));
+    return versQt(
+        LigneGrille(contexte_.atelier.SystemeCourant.grille(static_cast<std::size_t>(grille))));
 }
 
 QString PanneauGrilles::titre() const {
     const Systeme& s = contexte_.atelier.SystemeCourant;
     if (s.vide()) return u"Cliquez sur \"Générer...\" ou \"Ouvrir...\""_s;
     const SystemeDisponible& p = s.parametres;
-    const QString grilles = u" Grilles %1"_s.arg(p.Grilles, 4, 10, u'0');
-    const QString selection = u"Sélection %1"_s.arg(p.Selection, 2, 10, u'0');
+    const QString grilles = u" Grilles "_s + versQt(FormaterMasque(p.Grilles, 4));
+    const QString selection = u"Sélection "_s + versQt(FormaterMasque(p.Selection, 2));
     if (s.IndicateurImporte != 0)
         return selection + u" Système externe de %1 numéros par grille"_s.arg(p.NumerosParGrille) +
                grilles;

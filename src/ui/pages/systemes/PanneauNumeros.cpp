@@ -58,9 +58,10 @@ PanneauNumeros::PanneauNumeros(Contexte& ctx, CommandesSysteme& commandes, QWidg
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(Unite);
     pile->addWidget(comptes_);
-    auto* cle = legende(u"Gris : sélectionné. Vert : de base, dans toutes les grilles (deux au "
-                        u"plus)."_s,
-                        this);
+    auto* cle = legende(
+        u"Gris : sélectionné. Vert : de base, dans toutes les grilles (deux au "
+        u"plus)."_s,
+        this);
     cle->setWordWrap(true);
     pile->addWidget(cle);
     pile->addWidget(cases_, 1);
