@@ -70,6 +70,11 @@ void DelegueCases::paint(QPainter* peintre, const QStyleOptionViewItem& option,
     p.restore();
 }
 
+QSize DelegueCases::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const auto* cases = qobject_cast<const QListView*>(option.widget);
+    return cases == nullptr ? QStyledItemDelegate::sizeHint(option, index) : cases->gridSize();
+}
+
 // ------------------------------------------------------------------------------------------- view
 
 CasesNumeros::CasesNumeros(const QString& nom, const QString& sens, const AspectsCases& aspects,

@@ -18,6 +18,7 @@
 #include "comb/EtatCombinaisons.h"
 #include "comb/Selection.h"
 #include "lists/Liste.h"
+#include "lists/Tri.h"
 #include "stats/Occurrences.h"
 #include "systems/Systeme.h"
 #include "tickets/CombinaisonsNC.h"
@@ -71,6 +72,7 @@ struct Atelier {
     Liste ListeExtremes;
     Liste ListeMemoire;
     std::array<Liste, 3> ListeTampon;
+    TriEcartAvance triEcartAvance;  ///< switched off by a change of the interval
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
@@ -114,6 +116,7 @@ struct Atelier {
 
     /// Any but QuelleListe::Aucune.
     Liste& liste(QuelleListe laquelle);
+    const Liste& liste(QuelleListe laquelle) const;
 
     /// Saves the base to norvane.db when it differs from what was loaded or last saved, or when
     /// there is no such file yet. Does nothing while the base in memory is a filtered one; refuses

@@ -93,6 +93,7 @@ PanneauGarantie::PanneauGarantie(CommandesSysteme& commandes, double echelle, QW
     exemples_->setWordWrap(true);
     chances_->setObjectName(u"TableChances"_s);
     chances_->setAccessibleName(u"Chances de la meilleure grille"_s);
+    chances_->modele().poserTriDepart({0, true});
     chances_->reserverLignes(static_cast<int>(std::tuple_size_v<TableChances>));
     auto* pile = new QVBoxLayout(this);
     pile->setContentsMargins(0, 0, 0, 0);
@@ -130,9 +131,11 @@ void PanneauGarantie::remplirChances(const PreuveSysteme& preuve) {
         const std::int64_t total = std::accumulate(comptes.begin(), comptes.end(), std::int64_t{0});
         LigneTableau ligne(1);
         ligne[0].texte = std::to_string(sortis);
+        ligne[0].cle = sortis;
         for (const std::int64_t n : comptes) {
             CelluleTableau cellule;
             cellule.texte = part(n, total).toStdString();
+            cellule.cle = n;
             cellule.indice = u"%1 cas sur %2"_s.arg(compte(n), compte(total));
             ligne.push_back(std::move(cellule));
         }

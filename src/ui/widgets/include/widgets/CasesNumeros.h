@@ -53,6 +53,8 @@ class DelegueCases final : public QStyledItemDelegate {
 
     void paint(QPainter* peintre, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    /// A tile fills its place.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
 /// It changes nothing itself: its owner is asked, and shows what came of it.
