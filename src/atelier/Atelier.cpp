@@ -45,7 +45,12 @@ Resultat<Rien> Atelier::recalculer() {
     RecalculBase(base, occurrences);
     Vider(ListeExtremes);
     Vider(ListeMemoire);
+    triEcartAvance.actif = false;
     modeListe = ModeListe::Extremes;
+    TirageActif = -1;
+    if (std::exchange(series, false)) grilleSelection = SelectionGardee;
+    // They speak of other draws, though their interval may be the same.
+    EtatNormal = EtatSeries = {};
     // A grid that was accepted is accepted over any draws.
     auto tables = ConstruireSelection(grilleSelection, base, occurrences);
     selection = tables ? *std::move(tables) : Selection{};
@@ -61,6 +66,10 @@ Resultat<Rien> Atelier::relireEtat() {
 }
 
 Liste& Atelier::liste(QuelleListe laquelle) {
+    return const_cast<Liste&>(std::as_const(*this).liste(laquelle));
+}
+
+const Liste& Atelier::liste(QuelleListe laquelle) const {
     switch (laquelle) {
         case QuelleListe::Aucune:
         case QuelleListe::Extremes:

@@ -30,7 +30,7 @@ struct Modele {
     std::size_t rangs() const {
         return static_cast<std::size_t>(
             std::count_if(lignes.begin(), lignes.end(), [&](const Ligne& l) {
-                return disposition.mode != ModeStockage::PremierRang && l.mots[1] != RangNonCalcule;
+                return disposition.blocs() > 1 && l.mots[1] != RangNonCalcule;
             }));
     }
     Modele prendre(const Choisies& choisies) {
@@ -107,9 +107,10 @@ TEST(Liste, OperationsContreDesLignesSimples) {
     std::mt19937 hasard(41);
     const Disposition dispositions[] = {{2, ModeStockage::PremierRang},
                                         {3, ModeStockage::RangsDeGain},
+                                        {2, ModeStockage::RangsDeGain},  // its only rank
                                         {6, ModeStockage::TousLesRangs}};
     for (int essai = 0; essai < 60; ++essai) {
-        const Disposition d = dispositions[essai % 3];
+        const Disposition d = dispositions[essai % 4];
         auto [liste, modele] = Inventer(hasard, d, 1 + hasard() % 60);
         auto [autre, autreModele] = Inventer(hasard, d, hasard() % 20);
         if (autre.vide()) autre = {}, autreModele = {};
@@ -221,6 +222,44 @@ TEST(Liste, UneCiblePleinePrendLesPremieres) {
     Liste longue = Inventer(hasard, d, CapaciteListe + 2).first;
     EXPECT_EQ(Copier(source, Choisies{0}, longue).issue, Issue::Plein);
     EXPECT_EQ(longue.nombre(), CapaciteListe + 2);
+}
+
+TEST(Liste, SousListes) {
+    std::mt19937 hasard(44);
+    const struct {
+        std::size_t n, taille, nombre, derniere;
+    } cas[] = {{7, 3, 3, 1}, {6, 3, 2, 3}, {5, 5, 1, 5}, {4, 1, 4, 1}};
+    for (const auto& c : cas) {
+        auto [liste, modele] = Inventer(hasard, {3, ModeStockage::TousLesRangs}, c.n);
+        TrierLexico(liste, false);
+        modele.trier(false);
+        EXPECT_EQ(TailleSousListeMax(liste), c.n);
+        liste.division.enPreparation = true;
+        Diviser(liste, c.taille);
+        EXPECT_EQ(liste.division, (Division{false, c.taille, c.nombre}));
+        Liste cible = Inventer(hasard, {4, ModeStockage::PremierRang}, 3).first;
+        std::vector<Modele::Ligne> revues;
+        for (std::size_t k = 1; k <= c.nombre; ++k) {
+            ExtraireSousListe(liste, k, cible);
+            EXPECT_EQ(cible.nombre(), k < c.nombre ? c.taille : c.derniere);
+            EXPECT_EQ(cible.division, Division{});
+            const std::size_t debut = (k - 1) * c.taille;
+            Choisies lignes(cible.nombre());
+            std::iota(lignes.begin(), lignes.end(), debut);
+            Comparer(cible, modele.prendre(lignes));
+        }
+        // Lines that go leave the cut as it is; a new list is not cut.
+        Couper(liste, 1);
+        EXPECT_EQ(liste.division.NbSousListes, c.nombre);
+        ExtraireSousListe(liste, 5, cible);
+        EXPECT_TRUE(cible.vide());
+        Vider(liste);
+        EXPECT_EQ(liste.division, Division{});
+        EXPECT_EQ(TailleSousListeMax(liste), 0U);
+    }
+    EXPECT_EQ(TailleSousListeMax(
+                  Inventer(hasard, {2, ModeStockage::PremierRang}, CapaciteListe + 1).first),
+              CapaciteListe);
 }
 
 TEST(Liste, DeLignesEtDUneRecherche) {

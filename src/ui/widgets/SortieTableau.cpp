@@ -6,18 +6,17 @@
 #include <algorithm>
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QBuffer>
 #include <QFile>
-#include <QPageLayout>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QPrinter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 
 #include "base/Fichiers.h"
 #include "common/Enregistrement.h"
+#include "widgets/Impression.h"
+#include "widgets/ModeleTableau.h"
 
 namespace norvane::ui {
 
@@ -95,14 +94,8 @@ double mettreEnPages(QTextDocument& document, const QSizeF& page) {
     return 1.0;
 }
 
-/// The pages to print, from 1; 0 for no such bound.
-struct Pages {
-    int premiere = 0;
-    int derniere = 0;
-};
-
 /// A printer, or a PDF in the making.
-bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const Pages& voulues) {
+bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const PagesVoulues& voulues) {
     QPainter p;
     if (!p.begin(&support)) return false;
     const QRectF feuille(QPointF(0, 0),
@@ -130,68 +123,58 @@ bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const Pages& 
     return p.end();
 }
 
-/// Made in memory and written at once, so that nothing but a whole file replaces another one.
-void imprimerPdf(Contexte& contexte, const QPrinter& imprimante, const QString& html,
-                 const Pages& pages) {
-    std::size_t format = 0;
-    const QString choisi = imprimante.outputFileName();
-    const QString fichier = nomComplet(choisi, {{u"Document PDF (*.pdf)"_s, u"pdf"_s}}, 0, format);
-    // The dialog asked about the name that it was given.
-    if (fichier != choisi && !accepteRemplacement(contexte, fichier)) return;
-    QByteArray contenu;
-    QBuffer memoire(&contenu);
-    memoire.open(QIODevice::WriteOnly);
-    QPdfWriter pdf(&memoire);
-    pdf.setResolution(imprimante.resolution());
-    pdf.setPageLayout(imprimante.pageLayout());
-    pdf.setTitle(imprimante.docName());
-    pdf.setCreator(u"Norvane"_s);
-    const bool fait = imprimerHtml(pdf, html, pages);
-    memoire.close();
-    const auto ecrit =
-        fait ? EcrireFichier(QFile::encodeName(fichier).toStdString(), contenu.toStdString())
-             : Resultat<Rien>(Erreur{"Le document PDF n'a pas pu être composé : fermez d'autres "
-                                     "programmes, puis recommencez."});
-    if (ecrit) {
-        direEnregistre(contexte, u"Tableau imprimé"_s, fichier);
-    } else {
-        contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
-    }
+/// In the order of FormatTableau.
+std::vector<FormatFichier> formatsTableau() {
+    return {{u"Format Texte (*.txt)"_s, u"txt"_s},
+            {u"Format Html (*.htm *.html)"_s, u"html"_s, u"htm"_s},
+            {u"Format Texte OpenDocument (*.odt)"_s, u"odt"_s},
+            {u"Format Excel (*.xlsx)"_s, u"xlsx"_s},
+            {u"Format CSV (*.csv)"_s, u"csv"_s}};
 }
 
 }  // namespace
 
+TableauExporte tableauDe(const ModeleTableau& modele, std::vector<std::string> titre) {
+    TableauExporte tableau;
+    tableau.titre = std::move(titre);
+    for (const ColonneTableau& c : modele.colonnes()) {
+        tableau.colonnes.push_back(
+            {c.entete.toStdString(), c.alignement != Qt::AlignLeft, c.nature});
+    }
+    for (int l = 0; l < modele.rowCount(); ++l) {
+        auto& ligne = tableau.lignes.emplace_back();
+        for (int c = 0; c < modele.columnCount(); ++c) {
+            const QModelIndex place = modele.index(l, c);
+            const bool position = modele.colonnes()[static_cast<std::size_t>(c)].position;
+            ligne.push_back({modele.texte(place), position ? l + 1 : modele.cellule(place).cle});
+        }
+    }
+    return tableau;
+}
+
 void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                    const QString& titre, const QString& nomPropose) {
     const QString dossier = QFile::decodeName(contexte.atelier.Repertoire.string().c_str());
-    enregistrerSous(contexte, parent,
-                    {titre,
-                     dossier + u'/' + nomPropose,
-                     {{u"Format Texte (*.txt)"_s, u"txt"_s}, {u"Format CSV (*.csv)"_s, u"csv"_s}},
-                     u"Tableau enregistré"_s,
-                     [&tableau](const std::filesystem::path& fichier, std::size_t format) {
-                         return EcrireFichier(fichier,
-                                              format == 0 ? EnTexte(tableau) : EnCsv(tableau));
-                     }});
+    enregistrerSous(
+        contexte, parent,
+        {titre, dossier + u'/' + nomPropose, formatsTableau(), u"Tableau enregistré"_s,
+         [&tableau](const std::filesystem::path& fichier, std::size_t format) -> Resultat<Rien> {
+             const auto octets = Exporter(tableau, static_cast<FormatTableau>(format));
+             if (!octets) return Erreur{octets.erreur()};
+             return EcrireFichier(fichier, *octets);
+         }});
 }
 
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                      const QString& titre) {
-    QPrinter imprimante(QPrinter::HighResolution);
-    imprimante.setDocName(tableau.titre.empty() ? titre : versQt(tableau.titre.front()));
-    imprimante.setPageSize(QPageSize(QPageSize::A4));
-    imprimante.setPageMargins(QMarginsF(MargePage, MargePage, MargePage, MargePage),
-                              QPageLayout::Millimeter);
-    if (!contexte.services.imprimantes->choisir(parent, imprimante, titre)) return;
-    const QString html = versQt(EnHtml(tableau));
-    const Pages pages{imprimante.fromPage(), imprimante.toPage()};
-    if (imprimante.outputFormat() == QPrinter::PdfFormat) {
-        imprimerPdf(contexte, imprimante, html, pages);
-    } else if (!imprimerHtml(imprimante, html, pages)) {
-        contexte.services.messages->MessageErreur(
-            u"L'impression n'a pas pu se faire : vérifiez l'imprimante, puis recommencez."_s,
-            u"Erreur"_s);
-    }
+    imprimer(
+        contexte, parent,
+        {titre, tableau.titre.empty() ? titre : versQt(tableau.titre.front()), u"Tableau imprimé"_s,
+         QPageLayout::Portrait, QMarginsF(MargePage, MargePage, MargePage, MargePage),
+         [html = versQt(EnHtml(tableau, TeteHtml::Paragraphe))](QPagedPaintDevice& papier,
+                                                                const PagesVoulues& pages) {
+             return imprimerHtml(papier, html, pages);
+         }});
 }
 
 }  // namespace norvane::ui

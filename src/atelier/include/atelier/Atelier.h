@@ -11,13 +11,17 @@
 #include <vector>
 
 #include "atelier/Cases.h"
+#include "atelier/Selections.h"
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Travail.h"
 #include "comb/EtatCombinaisons.h"
 #include "comb/Selection.h"
 #include "lists/Liste.h"
+#include "lists/Tri.h"
 #include "stats/Occurrences.h"
+#include "systems/Systeme.h"
+#include "tickets/CombinaisonsNC.h"
 #include "tickets/SaisieBillets.h"
 
 namespace norvane {
@@ -51,6 +55,7 @@ struct Atelier {
     Base base;
     Occurrences occurrences;
     IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
+    IntervalleStats Analyses;                    ///< of the page "Analyses N"
 
     EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
     bool series = false;                ///< the engine looks at series of consecutive numbers alone
@@ -59,16 +64,26 @@ struct Atelier {
     GrilleSelection grilleSelection{};  ///< the numbers checked
     GrilleSelection SelectionGardee{};  ///< set aside on entering the series mode
     Selection selection;                ///< the selection in force, over the interval in force
+    SaisieSelection saisieSelection;    ///< the grid while it is edited
+    std::vector<Ensemble> ListeSelections;  ///< choices of 2 to 35 numbers
 
     ModeListe modeListe = ModeListe::Extremes;
     ModeStockage modeStockage = ModeStockage::PremierRang;  ///< of the next search by bounds
     Liste ListeExtremes;
     Liste ListeMemoire;
     std::array<Liste, 3> ListeTampon;
+    TriEcartAvance triEcartAvance;  ///< switched off by a change of the interval
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
+    int TirageActif = -1;           ///< record on show on the page of results, -1 for none
+
+    int typeGarantie = 0;                 ///< which of TypesGarantie
+    SystemeDisponible systemeDisponible;  ///< the line chosen of its list
+    SelectionSysteme NumerosSysteme;      ///< the numbers checked for a system
+    Systeme SystemeCourant;               ///< the system in memory
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
@@ -83,8 +98,9 @@ struct Atelier {
     explicit Atelier(std::filesystem::path repertoire);
 
     /// Everything that hangs on the draws again after a change of the base: structures, the
-    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied and
-    /// the list mode is the first one. An error is that of relireEtat; all else is done.
+    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied,
+    /// the list mode is the first one, the series mode is left and no draw is on show. An error is
+    /// that of relireEtat; all else is done.
     Resultat<Rien> recalculer();
 
     /// The bounds of the whole base as the file holds them. On an error all are void.
@@ -100,6 +116,7 @@ struct Atelier {
 
     /// Any but QuelleListe::Aucune.
     Liste& liste(QuelleListe laquelle);
+    const Liste& liste(QuelleListe laquelle) const;
 
     /// Saves the base to norvane.db when it differs from what was loaded or last saved, or when
     /// there is no such file yet. Does nothing while the base in memory is a filtered one; refuses

@@ -31,6 +31,15 @@ struct EtatTri {
     friend bool operator==(const EtatTri&, const EtatTri&) = default;
 };
 
+/// How a list is cut into numbered sub-lists. It goes with the list: a new one is not cut.
+struct Division {
+    bool enPreparation = false;       ///< their size is being chosen
+    std::size_t TailleSousListe = 0;  ///< lines of each but the last, which may have fewer
+    std::size_t NbSousListes = 0;     ///< 0: not cut
+
+    friend bool operator==(const Division&, const Division&) = default;
+};
+
 /// Lines are zero-based and go through the order; records are indices of the arena. Who changes a
 /// list works through the operations below or leaves it in a state they could have left.
 struct Liste {
@@ -41,9 +50,11 @@ struct Liste {
     int FinListe = 0;
     std::size_t NbCombRangs = 0;  ///< records whose lower ranks are filled
     EtatTri tri;
+    Division division;
     bool partielle = false;   ///< its search was stopped
+    bool melangee = false;    ///< stopped on the way to its interval: some records are of another
     std::uint64_t total = 0;  ///< combinations found where only the first were kept; else 0
-    std::optional<double> secondes{};  ///< that its search took, where it comes from one
+    std::optional<double> secondes{};  ///< that the last work on it took, where it comes from one
 
     int taille() const { return arene.disposition.taille; }
     ModeStockage mode() const { return arene.disposition.mode; }
@@ -98,6 +109,12 @@ Transfert Deplacer(Liste& source, LignesChoisies lignes, Liste& cible);
 void Supprimer(Liste& liste, LignesChoisies lignes);
 /// Keeps the first `n` lines, as they stand.
 void Couper(Liste& liste, std::size_t n);
+/// Drops the records (not the lines) that are not kept; the other lines stay in their order.
+void Garder(Liste& liste, const std::vector<bool>& enregistrements);
+/// Counts NbCombRangs anew, from the records.
+void CompterRangs(Liste& liste);
+/// The record of each line, written out.
+std::vector<std::uint32_t> OrdreDesLignes(const Liste& liste);
 /// No record, no size, no interval.
 void Vider(Liste& liste);
 
@@ -107,6 +124,14 @@ void TrierLexico(Liste& liste, bool croissant);
 void TrierFrequence(Liste& liste);
 /// Sorts by the numbers, ascending, and of lines with equal numbers keeps the last. How many went.
 std::size_t RetirerDoublons(Liste& liste);
+
+/// Lines that a sub-list may have at most, as many as a buffer holds; 0 for an empty list.
+std::size_t TailleSousListeMax(const Liste& liste);
+/// Cuts the list into sub-lists of `taille` lines, 1..TailleSousListeMax. Nothing is copied.
+void Diviser(Liste& liste, std::size_t taille);
+/// Puts a copy of sub-list `numero` (from 1) of a list that was cut in place of what `cible` holds:
+/// empty when the list has become too short for it.
+void ExtraireSousListe(const Liste& liste, std::size_t numero, Liste& cible);
 
 /// The line that has these numbers, ascending.
 std::optional<std::size_t> Position(const Liste& liste, std::span<const Mot> numeros);

@@ -29,8 +29,15 @@ struct NumeroTirage {
     friend bool operator==(const NumeroTirage&, const NumeroTirage&) = default;
 };
 
+/// A row of a table of ranks: its good numbers, or its category.
+struct RangTable {
+    int indice;
+
+    friend bool operator==(const RangTable&, const RangTable&) = default;
+};
+
 /// The draw that a cell speaks of, or what it has a history of.
-using Cible = std::variant<NumeroTirage, Element>;
+using Cible = std::variant<NumeroTirage, Element, RangTable>;
 
 struct Cellule {
     std::string texte;           ///< UTF-8: shown, saved and printed
@@ -55,5 +62,9 @@ Cellule CelluleDate(int date, std::string_view jamais, int numero);
 /// Sorted by value, then count, then position (each below 65536). It leads to the draw `position`,
 /// or nowhere when that lies before the interval, which starts at record `premier` (zero-based).
 Cellule CelluleMaximum(int valeur, int nombre, int position, int premier, int dernierTirage);
+
+/// "12  (02 24/07/2024)": the same with the short date yyyymmdd of that draw, to which it leads. A
+/// `date` of 0: the position lies before the interval, "12  (02)" is all, and it leads nowhere.
+Cellule CelluleMaximumDate(int valeur, int nombre, int position, int date);
 
 }  // namespace norvane

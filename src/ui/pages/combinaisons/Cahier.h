@@ -1,33 +1,36 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The notebook under the statistics: what the modes do and what the colours mean, or the buffer
-// lists.
+// The notebook under the statistics: the selection of numbers and the sorts, or the buffer lists.
 #pragma once
 
 #include <QStackedWidget>
 
 #include "atelier/Atelier.h"
 
-class QLabel;
-
 namespace norvane::ui {
 
-class Fiche;
+class PanneauSelections;
+class PanneauTri;
+struct Contexte;
 
 class Cahier final : public QStackedWidget {
     Q_OBJECT
 
  public:
-    explicit Cahier(QWidget* parent);
+    Cahier(Contexte& ctx, QWidget* parent);
 
     void montrerMode(ModeListe mode);
 
- private:
-    Fiche* creerLegende();
-    Fiche* creerTampons();
+    PanneauSelections& selections() { return *selections_; }
+    PanneauTri& tri() { return *tri_; }
 
-    QLabel* aideMode_ = nullptr;
+ private:
+    QWidget* creerChoix(Contexte& ctx);
+    QWidget* creerTampons();
+
+    PanneauSelections* selections_ = nullptr;
+    PanneauTri* tri_ = nullptr;
 };
 
 }  // namespace norvane::ui

@@ -8,9 +8,11 @@
 
 #include "base/Textes.h"
 #include "combinaisons/Cahier.h"
+#include "combinaisons/CommandesIntervalle.h"
 #include "combinaisons/LigneBornes.h"
 #include "combinaisons/PanneauCombinaison.h"
 #include "combinaisons/PanneauListe.h"
+#include "combinaisons/PanneauSelections.h"
 #include "combinaisons/PanneauTailles.h"
 #include "combinaisons/PanneauTri.h"
 #include "common/Theme.h"
@@ -40,7 +42,9 @@ QString texteTemps(const std::optional<double>& secondes) {
 }  // namespace
 
 PageCombinaisons::PageCombinaisons(Contexte& ctx, QWidget* parent)
-    : Page(ctx, u"Varo3"_s, u"Combinaisons N"_s, parent), moteur_(ctx.atelier) {
+    : Page(ctx, u"Varo3"_s, u"Combinaisons N"_s, parent),
+      moteur_(ctx.atelier),
+      commandesIntervalle_(new CommandesIntervalle(ctx, moteur_, this)) {
     construire();
     relier();
     poserOrdreTabulation();
@@ -54,7 +58,6 @@ void PageCombinaisons::construire() {
     liste_ = new PanneauListe(ListePrincipale, contexte.atelier.ListeMemoire, milieu);
     milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
     milieu->pile->addWidget(liste_, 1);
-    milieu->pile->addWidget(tri_ = new PanneauTri(milieu));
     auto* choisie = new Fiche(this);
     combinaison_ = new PanneauCombinaison(contexte, CombinaisonChoisie, choisie);
     choisie->pile->addWidget(combinaison_);
@@ -62,7 +65,8 @@ void PageCombinaisons::construire() {
     auto* droite = new QVBoxLayout;
     droite->setSpacing(2 * Unite);
     droite->addWidget(choisie);
-    droite->addWidget(cahier_ = new Cahier(this), 1);
+    droite->addWidget(cahier_ = new Cahier(contexte, this), 1);
+    tri_ = &cahier_->tri();
     auto* page = new QHBoxLayout(this);
     page->setContentsMargins(2 * Unite, 2 * Unite, 2 * Unite, 2 * Unite);
     page->setSpacing(2 * Unite);
@@ -76,6 +80,12 @@ void PageCombinaisons::relier() {
     connect(tailles_, &PanneauTailles::stockageChoisi, this, &PageCombinaisons::RadioGroup1Click);
     connect(tailles_, &PanneauTailles::tailleCliquee, this, &PageCombinaisons::CombSearchClick);
     connect(tailles_, &PanneauTailles::bornesChoisies, this, &PageCombinaisons::colorer);
+    connect(tailles_, &PanneauTailles::intervalleDemande, commandesIntervalle_,
+            &CommandesIntervalle::BitBtnWithColor4Click);
+    connect(tailles_, &PanneauTailles::seriesDemandees, commandesIntervalle_,
+            &CommandesIntervalle::CheckBoxSeriesClick);
+    connect(&cahier_->selections(), &PanneauSelections::statistiquesDemandees, combinaison_,
+            &PanneauCombinaison::montrer);
     connect(liste_, &PanneauListe::combinaisonChoisie, this,
             [this](const Combinaison& c) { combinaison_->montrer(c.numeros); });
     connect(combinaison_, &PanneauCombinaison::positionDemandee, this,
@@ -84,7 +94,8 @@ void PageCombinaisons::relier() {
 
 void PageCombinaisons::poserOrdreTabulation() {
     const QList<QWidget*> ordre = tailles_->ordreTabulation() + QList<QWidget*>{&liste_->boite()} +
-                                  combinaison_->ordreTabulation();
+                                  combinaison_->ordreTabulation() +
+                                  cahier_->selections().ordreTabulation();
     for (qsizetype i = 1; i < ordre.size(); ++i) setTabOrder(ordre[i - 1], ordre[i]);
 }
 
@@ -143,7 +154,8 @@ void PageCombinaisons::CombSearchClick(int taille) {
     ReponseClic reponse = moteur_.Cliquer(taille, bornes.inf.valeur, bornes.sup.valeur);
     switch (reponse.genre) {
         case ReponseClic::Genre::Lance:
-            lancer(taille, std::move(reponse));
+            lancer(u"Calcul des combinaisons de %1 numéros en cours..."_s.arg(taille),
+                   std::move(reponse));
             return;
         case ReponseClic::Genre::Affiche:
             contexte.relais.annoncer({.listes = true});
@@ -156,9 +168,8 @@ void PageCombinaisons::CombSearchClick(int taille) {
     }
 }
 
-void PageCombinaisons::lancer(int taille, ReponseClic reponse) {
-    const VueTravail vue{u"Calcul des combinaisons de %1 numéros en cours..."_s.arg(taille),
-                         &tailles_->jauge()};
+void PageCombinaisons::lancer(const QString& texte, ReponseClic reponse) {
+    const VueTravail vue{texte, &tailles_->jauge()};
     if (contexte.travaux.lancer(std::move(reponse.travail), vue, this,
                                 [this](Travail& travail) { TraitementTermine(travail); })) {
         tailles_->montrerRecherche(recherche());
@@ -213,7 +224,10 @@ void PageCombinaisons::surChange(const Changement& changement) {
     }
     if (changement.intervalle) suivreIntervalle();
     if (changement.listes) suivreMode();
-    if (changement.intervalle || changement.listes) suivreBornes();
+    if (changement.intervalle || changement.listes) {
+        suivreBornes();
+        cahier_->selections().suivre();
+    }
 }
 
 void PageCombinaisons::suivreBase() {
@@ -223,6 +237,7 @@ void PageCombinaisons::suivreBase() {
     suivreIntervalle();
     suivreMode();
     suivreBornes();
+    cahier_->selections().suivre();
 }
 
 void PageCombinaisons::suivreIntervalle() {
@@ -234,6 +249,7 @@ void PageCombinaisons::suivreMode() {
     const Atelier& a = contexte.atelier;
     tailles_->montrerMode(a.modeListe);
     tailles_->montrerStockage(a.modeStockage);
+    tailles_->montrerSeries(a.series);
     cahier_->montrerMode(a.modeListe);
     liste_->poserInvite(QString::fromUtf16(Invites[static_cast<std::size_t>(a.modeListe)]));
     AfficherListe();

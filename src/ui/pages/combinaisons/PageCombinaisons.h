@@ -13,6 +13,7 @@ namespace norvane::ui {
 
 class Alerte;
 class Cahier;
+class CommandesIntervalle;
 class PanneauCombinaison;
 class PanneauListe;
 class PanneauTailles;
@@ -44,7 +45,7 @@ class PageCombinaisons final : public Page {
     void ButtonPositionClick();
 
     // Searches.
-    void lancer(int taille, ReponseClic reponse);
+    void lancer(const QString& texte, ReponseClic reponse);
     void TraitementTermine(Travail& travail);
     void direFin(int taille, const FinTraitement& fin);
     /// The size whose search runs, 0 for none.
@@ -59,6 +60,7 @@ class PageCombinaisons final : public Page {
     void AfficherListe();
 
     Moteur moteur_;
+    CommandesIntervalle* commandesIntervalle_;
     PanneauTailles* tailles_ = nullptr;
     PanneauListe* liste_ = nullptr;
     PanneauTri* tri_ = nullptr;

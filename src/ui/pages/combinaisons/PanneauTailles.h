@@ -12,11 +12,14 @@
 #include "atelier/Moteur.h"
 
 class QButtonGroup;
+class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QProgressBar;
+class QPushButton;
+class QVBoxLayout;
 
 namespace norvane::ui {
 
@@ -40,6 +43,7 @@ class PanneauTailles final : public QWidget {
     void suivreBornes(const BornesTailles& bornes);
     void montrerMode(ModeListe mode);
     void montrerStockage(ModeStockage mode);
+    void montrerSeries(bool series);
     /// The size whose search runs, 0 for none.
     void montrerRecherche(int taille);
 
@@ -55,6 +59,8 @@ class PanneauTailles final : public QWidget {
     void bornesChoisies();
     void modeChoisi(norvane::ModeListe mode);
     void stockageChoisi(norvane::ModeStockage mode);
+    void intervalleDemande();
+    void seriesDemandees();
 
  protected:
     void changeEvent(QEvent* evenement) override;
@@ -62,10 +68,13 @@ class PanneauTailles final : public QWidget {
  private:
     QComboBox* creerModes();
     QGridLayout* creerTailles();
+    QVBoxLayout* creerIntervalle();
     QGroupBox* creerStockage();
 
     std::array<LigneBornes*, NbTailles> lignes_{};
     QComboBox* modeListe_;
+    QCheckBox* series_ = nullptr;
+    QPushButton* intervalle_ = nullptr;
     QButtonGroup* stockage_ = nullptr;
     QProgressBar* jauge_;
     QLabel* temps_;

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "base/Ensemble.h"
+#include "reports/SujetHistorique.h"
 #include "stats/Cellule.h"
 #include "tickets/Grille.h"
 
@@ -21,24 +21,6 @@ struct VersTirage {
 
     friend bool operator==(const VersTirage&, const VersTirage&) = default;
 };
-
-/// What a history speaks of.
-struct CoupleChances {
-    int premiere, seconde;
-    friend bool operator==(const CoupleChances&, const CoupleChances&) = default;
-};
-struct RangCombinaison {
-    Ensemble numeros;
-    int bons;  ///< good numbers of the rank
-    friend bool operator==(const RangCombinaison&, const RangCombinaison&) = default;
-};
-struct CategorieChances {
-    Ensemble numeros;
-    Ensemble chances;
-    int categorie;  ///< row of the table of categories, from 0
-    friend bool operator==(const CategorieChances&, const CategorieChances&) = default;
-};
-using SujetHistorique = std::variant<Element, CoupleChances, RangCombinaison, CategorieChances>;
 
 /// The page "Historiques" on a subject that came out, over draws inf..sup (one-based).
 struct VersHistorique {
@@ -55,11 +37,22 @@ struct VersTickets {
     friend bool operator==(const VersTickets&, const VersTickets&) = default;
 };
 
-/// The page "Combinaisons N" on the list in memory, which has changed.
+/// The stock of grids in consultation, and the draw that a grid of it is looked at on.
+struct VersGrille {
+    int grille;  ///< one-based place in the stock
+    int tirage;  ///< one-based
+
+    friend bool operator==(const VersGrille&, const VersGrille&) = default;
+};
+
+/// The page "Combinaisons N" on the list in memory, which has changed; `adapter`: its statistics
+/// are then computed over the interval in force.
 struct VersListe {
+    bool adapter = false;
+
     friend bool operator==(const VersListe&, const VersListe&) = default;
 };
 
-using Destination = std::variant<VersTirage, VersHistorique, VersTickets, VersListe>;
+using Destination = std::variant<VersTirage, VersHistorique, VersTickets, VersGrille, VersListe>;
 
 }  // namespace norvane::ui
