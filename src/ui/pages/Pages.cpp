@@ -12,6 +12,7 @@
 #include "historiques/PageHistoriques.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
+#include "systemes/PageSystemes.h"
 
 namespace norvane::ui {
 
@@ -39,12 +40,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
         return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
                               u"Cette page imprimera vos grilles sur les bulletins de jeu."_s, p);
     },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo10"_s, u"Systèmes réducteurs"_s,
-                              u"Cette page réduira une sélection de numéros à un système dont la "
-                              u"garantie est prouvée."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageSystemes(c, p); },
 };
 
 }  // namespace
