@@ -19,13 +19,6 @@ namespace norvane::ui {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString IndiceLigne =
-    u"Double cliquez sur ce rang pour afficher l'historique correspondant..."_s;
-
-}  // namespace
-
 PanneauCategories::PanneauCategories(Contexte& ctx, QWidget* parent)
     : QWidget(parent),
       contexte_(ctx),
@@ -80,9 +73,7 @@ void PanneauCategories::afficher() {
     std::vector<LigneTableau> lignes;
     if (!vide_) lignes = lignesTableau(lignes_);
     for (std::size_t i = 0; i < lignes.size(); ++i) {
-        CelluleTableau& sortis = lignes[i].front();
-        sortis.indice = IndiceLigne;
-        if (lignes_[i].chance) sortis.image = chance_;
+        if (lignes_[i].chance) lignes[i].front().image = chance_;
     }
     table_->montrer(std::move(lignes), barres_->isChecked());
 }
