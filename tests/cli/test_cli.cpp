@@ -17,6 +17,8 @@
 #include "cli/Executer.h"
 #include "Dossier.h"
 #include "OracleStats.h"
+#include "reports/Analyses.h"
+#include "reports/DocumentExport.h"
 #include "SeptTirages.h"
 #include "tickets/FichiersGrilles.h"
 
@@ -346,6 +348,21 @@ TEST_F(Cli, MarquesDesBulletins) {
     for (const auto& [ligne, dit] : refus) refuse(std::string(ligne), dit);
     poser(dossier / "a.bul", "2\n");
     refuse(std::string("bulletins a.grl"), "a.bul");
+}
+
+TEST_F(Cli, Analyses) {
+    const Document rapport = RedigerAnalyses(QuatreTirages().enUsage(), 1, 3);
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses").out, EnTexte(rapport));
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --format html").out,
+              EnHtml(rapport, JeuStyles::RVStyle2, PlaceImages::DansLaPage));
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --sortie a.txt").out, "");
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --format html --sortie a.html").out, "");
+    const auto fichiers = Contenu(dossier);
+    EXPECT_EQ(fichiers.at("a.txt"), EnTexte(rapport));
+    EXPECT_EQ(fichiers.at("a.html"), EnHtml(rapport, JeuStyles::RVStyle2, PlaceImages::Fichiers));
+    EXPECT_TRUE(fichiers.contains("varoimg2.svg"));
+    refuse(std::string("analyses --format pdf"), "« pdf »");
+    refuse(std::string("--base quatre.csv analyses --sortie absent/a.txt"), "absent/a.txt");
 }
 
 TEST_F(Cli, SortieQuiEchoue) {
