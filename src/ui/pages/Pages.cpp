@@ -9,8 +9,10 @@
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
 #include "graphes/PageGraphes.h"
+#include "historiques/PageHistoriques.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
+#include "systemes/PageSystemes.h"
 
 namespace norvane::ui {
 
@@ -33,17 +35,12 @@ constexpr std::array<Fabrique, 10> Fabriques = {
     },
     [](Contexte& c, QWidget* p) -> Page* { return new PageAnalyses(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
-    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriquesAVenir(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
         return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
                               u"Cette page imprimera vos grilles sur les bulletins de jeu."_s, p);
     },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo10"_s, u"Systèmes réducteurs"_s,
-                              u"Cette page réduira une sélection de numéros à un système dont la "
-                              u"garantie est prouvée."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageSystemes(c, p); },
 };
 
 }  // namespace
