@@ -3,6 +3,7 @@
 #include "Commandes.h"
 
 #include "CommandeAnalyses.h"
+#include "CommandeBulletins.h"
 #include "CommandeListe.h"
 #include "CommandeSystemes.h"
 
@@ -42,6 +43,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    commandes.push_back(std::make_unique<CommandeBulletins>(racine));
     commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
     commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));

@@ -287,6 +287,48 @@ TEST_F(Cli, FichiersDeListesEtDeSelections) {
     refuse(std::string("selection lire b.slt"), "s'arrête après 49");
 }
 
+TEST_F(Cli, MarquesDesBulletins) {
+    poser(
+        dossier / "a.grl", "7\n" + [] {
+            std::string grilles;
+            for (int g = 0; g < 6; ++g) grilles += "2.2 5 3 14 25 31 44 1 7\n";
+            return grilles + "3 5 1 2 3 4 5 1 10\n";
+        }());
+    const std::string second =
+        "bulletin\tgrille\tbloc\tvaleur\tx_mm\ty_mm\tcote_mm\n"
+        "2\t1\tnumero\t1\t7.775\t16.475\t0.650\n2\t1\tnumero\t2\t11.575\t16.475\t0.650\n"
+        "2\t1\tnumero\t3\t15.375\t16.475\t0.650\n2\t1\tnumero\t4\t19.175\t16.475\t0.650\n"
+        "2\t1\tnumero\t5\t22.975\t16.475\t0.650\n2\t1\tchance\t10\t21.075\t60.575\t0.650\n"
+        "2\t1\t2nd\t1\t22.975\t12.575\t0.650\n";
+    EXPECT_EQ(lancer("bulletins a.grl --du 2 --marque 1").out, second);
+    poser(dossier / "a.bul", "2\n-1 -1 -1 -1 -1 -1\n2 3 -1 1 -1 -1\n");
+    EXPECT_EQ(lancer("bulletins a.grl --du 2 --au 2 --marque 1").out,
+              second +
+                  "2\t0\tsemaines\t2\t10.975\t144.975\t0.650\n"
+                  "2\t0\tjoker1\t2\t20.975\t156.975\t0.650\n"
+                  "2\t0\tjoker1\t3\t30.975\t156.975\t0.650\n"
+                  "2\t0\tjour\t1\t10.975\t132.975\t0.650\n");
+    poser(dossier / "NORVANE.INI",
+          "[CONFIGURATION]\nDecalageImprimanteBordHaut=40\n"
+          "DecalageImprimanteBordGauche=1.5\n");
+    poser(dossier / "bulletin.ini", "[CASE]\ncote=0\n");
+    const Sortie decalee = lancer("bulletins a.grl --du 2");
+    EXPECT_EQ(decalee.statut, StatutFait);
+    EXPECT_NE(decalee.out.find("2\t0\tjour\t1\t12.150\t172.650\t1.300\n"), std::string::npos);
+    EXPECT_NE(decalee.err.find("La géométrie intégrée est employée"), std::string::npos);
+    EXPECT_NE(decalee.err.find("2 marques tomberaient hors du papier"), std::string::npos);
+    poser(dossier / "vide.grl", "0\n");
+    const std::pair<const char*, const char*> refus[] = {
+        {"bulletins vide.grl", "aucune grille"},
+        {"bulletins a.grl --du 3", "--du va de 1 à 2, pas 3"},
+        {"bulletins a.grl --au 0", "--au va de 1 à 2, pas 0"},
+        {"bulletins a.grl --du 2 --au 1", "Bulletins croisés"},
+        {"bulletins a.grl --marque 5", "--marque va de 1 à 4, pas 5"}};
+    for (const auto& [ligne, dit] : refus) refuse(std::string(ligne), dit);
+    poser(dossier / "a.bul", "2\n");
+    refuse(std::string("bulletins a.grl"), "a.bul");
+}
+
 TEST_F(Cli, SortieQuiEchoue) {
     const std::pair<const char*, const char*> cas[] = {
         {"base", "Les résultats n'ont pas pu être écrits sur la sortie standard.\n"},
