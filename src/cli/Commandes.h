@@ -70,21 +70,6 @@ class CommandeCombExtremes : public Commande {
     bool series_ = false;
 };
 
-class CommandeCombBornes : public Commande {
- public:
-    explicit CommandeCombBornes(CLI::App& comb);
-    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
-
- private:
-    struct Demande;
-    Resultat<Demande> verifier() const;
-
-    std::optional<long> taille_, inf_, sup_, stockage_, max_;
-    std::optional<std::string> absolue_, secondaire_;
-    bool series_ = false;
-    bool compter_ = false;
-};
-
 class CommandeCombStats : public Commande {
  public:
     explicit CommandeCombStats(CLI::App& comb);
