@@ -7,10 +7,8 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <functional>
 #include <ostream>
 
-#include "base/Configuration.h"
 #include "comb/TravauxRangs.h"
 #include "Enregistrements.h"
 #include "EtabliComb.h"
@@ -25,13 +23,24 @@ namespace {
 constexpr int ComptesMax = NbTiragesMax;
 constexpr std::array NomsCriteres = {"NbFois", "Ecart", "EcartMax", "Suite", "SuiteMax"};
 
+/// Shows how far a search or the ranks are, and what `Base` does besides.
+template <typename Base>
+class Montre : public Base {
+ public:
+    template <typename... Arguments>
+    explicit Montre(Progression& progression, int total, Arguments&&... arguments)
+        : Base(std::forward<Arguments>(arguments)...), max(total), progression_(progression) {}
+    int max;
+    void SetProgress(int valeur) override { progression_.montrer(valeur, max); }
+
+ private:
+    Progression& progression_;
+};
+
 /// Writes the records as they come.
 class Ecriture : public PuitsMuet {
  public:
-    Ecriture(std::ostream& out, Disposition disposition, std::function<void(int)> avance)
-        : out_(out), disposition_(disposition), avance_(std::move(avance)) {}
-
-    void SetProgress(int valeur) override { avance_(valeur); }
+    Ecriture(std::ostream& out, Disposition disposition) : out_(out), disposition_(disposition) {}
     void AddRecord(std::span<const Mot> mots) override {
         EcrireEnregistrements(out_, disposition_, mots);
     }
@@ -39,18 +48,6 @@ class Ecriture : public PuitsMuet {
  private:
     std::ostream& out_;
     const Disposition disposition_;
-    const std::function<void(int)> avance_;
-};
-
-/// Fills a list and shows how far the search or the ranks are.
-class ListeMontree : public PuitsListe {
- public:
-    ListeMontree(Progression& progression, int total) : max(total), progression_(progression) {}
-    int max;
-    void SetProgress(int valeur) override { progression_.montrer(valeur, max); }
-
- private:
-    Progression& progression_;
 };
 
 void EcrireLignes(std::ostream& out, const Liste& liste) {
@@ -70,6 +67,7 @@ void EcrireLignes(std::ostream& out, const Liste& liste) {
 struct CommandeCombBornes::Demande {
     int taille, inf, sup;
     ModeStockage mode;
+    std::uint64_t limite;
     EtatTri tri;
     GrilleSelection grille;
     GainsNominaux gains{};
@@ -106,7 +104,7 @@ CommandeCombBornes::CommandeCombBornes(CLI::App& comb)
                   "les rangs calculés, sinon sur le premier");
     app.add_flag("--gain", gain_, "Trie selon ce qu'elles ont rapporté, de même")
         ->disable_flag_override();
-    app.add_option("--sortie", sortie_, "Écrit la liste dans un fichier *.lst")
+    app.add_option("--sortie", sortie_, "Fichier *.lst où écrire la liste, au lieu de l'afficher")
         ->type_name("FICHIER");
 }
 
@@ -123,6 +121,8 @@ Resultat<CommandeCombBornes::Demande> CommandeCombBornes::verifier() const {
     if (stockage < 0 || stockage > 2)
         return Erreur{fmt::format("--stockage {} n'existe pas : choisissez 0, 1 ou 2.", stockage)};
     if (max_ && *max_ < 1) return Erreur{fmt::format("--max {} doit être au moins 1.", *max_)};
+    if (compter_ && sortie_)
+        return Erreur{"--compter et --sortie ne vont pas ensemble : choisissez l'un des deux."};
     if (series_ && (absolue_ || secondaire_))
         return Erreur{"Pas de sélections de numéros en mode séries..."};
 
@@ -130,12 +130,13 @@ Resultat<CommandeCombBornes::Demande> CommandeCombBornes::verifier() const {
     if (!tri) return Erreur{tri.erreur()};
     const auto grille = lireSelection();
     if (!grille) return Erreur{grille.erreur()};
-    return Demande{*taille,
-                   static_cast<int>(*inf_),
-                   static_cast<int>(*sup_),
-                   static_cast<ModeStockage>(stockage),
-                   *tri,
-                   *grille};
+    return Demande{.taille = *taille,
+                   .inf = static_cast<int>(*inf_),
+                   .sup = static_cast<int>(*sup_),
+                   .mode = static_cast<ModeStockage>(stockage),
+                   .limite = static_cast<std::uint64_t>(max_.value_or(0)),
+                   .tri = *tri,
+                   .grille = *grille};
 }
 
 Resultat<GrilleSelection> CommandeCombBornes::lireSelection() const {
@@ -188,7 +189,14 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
     c.gains = FormeGains::de(demande->gains);
 
     const bool trie = demande->tri.TypeTriListe != TypeTri::Sans;
-    if (compter_ || (!rangs_ && !trie && !sortie_)) return couler(c, *demande, contexte, out);
+    if (compter_ || (!rangs_ && !trie && !sortie_)) {
+        Montre<Ecriture> ecriture(contexte.progression, demande->jauge(c), contexte.sortie,
+                                  Disposition{demande->taille, demande->mode, c.gains});
+        const auto nombre = chercher(c, *demande, demande->limite, ecriture);
+        if (!nombre) return Erreur{nombre.erreur()};
+        if (compter_) fmt::print(out, "{}\n", *nombre);
+        return Rien{};
+    }
     const auto liste = dresser(c, *demande, contexte);
     if (!liste) return Erreur{liste.erreur()};
     if (sortie_) return SauverListe(*liste, contexte.repertoire / *sortie_);
@@ -196,52 +204,38 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
     return Rien{};
 }
 
-/// The records as the search gives them, or their number.
-Resultat<Rien> CommandeCombBornes::couler(const ContexteComb& c, const Demande& demande,
-                                          const Contexte& contexte, std::ostream& out) const {
-    const int jauge = demande.jauge(c);
-    Ecriture ecriture(contexte.sortie, {demande.taille, demande.mode, c.gains},
-                      [&](int valeur) { contexte.progression.montrer(valeur, jauge); });
-    const auto fil = CreerRechercheBornes(c, ecriture, demande.taille, demande.inf, demande.sup);
+Resultat<std::uint64_t> CommandeCombBornes::chercher(const ContexteComb& c, const Demande& demande,
+                                                     std::uint64_t limite, Puits& puits) const {
+    const auto fil = CreerRechercheBornes(c, puits, demande.taille, demande.inf, demande.sup);
     if (!fil) {
         const Arene unique = CombinaisonUnique(c, demande.inf, demande.sup);
-        compter_ ? fmt::print(out, "{}\n", unique.nombre()) : ecriture.AddRecord(unique.mots);
-        return Rien{};
+        if (!compter_) puits.AddRecord(unique.mots);
+        return std::uint64_t{unique.nombre()};
     }
     fil->compterSeulement = compter_;
-    fil->limite = static_cast<std::uint64_t>(max_.value_or(0));
-    auto mene = Mener(*fil);
-    if (!mene) return mene;
-    if (compter_) fmt::print(out, "{}\n", fil->nombre());
-    return Rien{};
+    fil->limite = limite;
+    if (const auto mene = Mener(*fil); !mene) return Erreur{mene.erreur()};
+    return fil->nombre();
 }
 
-/// The list with its ranks and its order.
 Resultat<Liste> CommandeCombBornes::dresser(const ContexteComb& c, const Demande& demande,
                                             const Contexte& contexte) const {
-    ListeMontree puits(contexte.progression, demande.jauge(c));
+    Montre<PuitsListe> puits(contexte.progression, demande.jauge(c));
     Liste& liste = puits.liste;
-    const bool trie = demande.tri.TypeTriListe != TypeTri::Sans;
-    const auto max = static_cast<std::uint64_t>(max_.value_or(0));
-    if (const auto fil = CreerRechercheBornes(c, puits, demande.taille, demande.inf, demande.sup)) {
-        liste.arene.disposition = fil->disposition();
-        fil->limite = trie ? 0 : max;
-        const auto mene = Mener(*fil);
-        if (!mene) return Erreur{mene.erreur()};
-    } else {
-        liste.arene = CombinaisonUnique(c, demande.inf, demande.sup);
-    }
+    liste.arene.disposition = {demande.taille, demande.mode, c.gains};
     liste.DebutListe = c.IntervalleInf;
     liste.FinListe = c.IntervalleSup;
+    const bool trie = demande.tri.TypeTriListe != TypeTri::Sans;
+    const auto nombre = chercher(c, demande, trie ? 0 : demande.limite, puits);
+    if (!nombre) return Erreur{nombre.erreur()};
     if (rangs_) {
         puits.max = std::max(PasRangs(liste.nombre()), 1);
         TRemplirRangsSearch fil(c, puits, liste.arene, QuelleListe::Memoire);
-        const auto mene = Mener(fil);
-        if (!mene) return Erreur{mene.erreur()};
+        if (const auto mene = Mener(fil); !mene) return Erreur{mene.erreur()};
         CompterRangs(liste);
     }
     Trier(liste, demande.tri, demande.gains);
-    if (max > 0) Couper(liste, max);
+    if (demande.limite > 0) Couper(liste, demande.limite);
     return std::move(liste);
 }
 

@@ -12,6 +12,7 @@
 namespace norvane {
 
 struct ContexteComb;
+class Puits;
 
 class CommandeCombBornes : public Commande {
  public:
@@ -23,8 +24,11 @@ class CommandeCombBornes : public Commande {
     Resultat<Demande> verifier() const;
     Resultat<GrilleSelection> lireSelection() const;
     Resultat<EtatTri> lireTri(int taille) const;
-    Resultat<Rien> couler(const ContexteComb& c, const Demande& demande, const Contexte& contexte,
-                          std::ostream& out) const;
+    /// Gives the records to the sink, at most `limite` of them where that is not 0, or only counts
+    /// them; how many there are.
+    Resultat<std::uint64_t> chercher(const ContexteComb& c, const Demande& demande,
+                                     std::uint64_t limite, Puits& puits) const;
+    /// The list with its ranks and its order.
     Resultat<Liste> dresser(const ContexteComb& c, const Demande& demande,
                             const Contexte& contexte) const;
 
