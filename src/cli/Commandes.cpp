@@ -4,6 +4,7 @@
 
 #include "CommandeAnalyses.h"
 #include "CommandeBulletins.h"
+#include "CommandeCombBornes.h"
 #include "CommandeHistorique.h"
 #include "CommandeImporter.h"
 #include "CommandeListe.h"
