@@ -4,7 +4,9 @@
 
 #include "CommandeAnalyses.h"
 #include "CommandeBulletins.h"
+#include "CommandeCombBornes.h"
 #include "CommandeHistorique.h"
+#include "CommandeImporter.h"
 #include "CommandeListe.h"
 #include "CommandeNC.h"
 #include "CommandeSystemes.h"
@@ -26,6 +28,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     std::vector<std::unique_ptr<Commande>> commandes;
     commandes.push_back(std::make_unique<CommandeBase>(racine));
     commandes.push_back(std::make_unique<CommandeTirages>(racine));
+    commandes.push_back(std::make_unique<CommandeImporter>(racine));
     CLI::App& stats =
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
     commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));

@@ -18,6 +18,8 @@
 #include "Dossier.h"
 #include "lists/FichiersListes.h"
 #include "OracleStats.h"
+#include "reports/Analyses.h"
+#include "reports/DocumentExport.h"
 #include "reports/Historique.h"
 #include "SeptTirages.h"
 #include "tickets/FichiersGrilles.h"
@@ -350,6 +352,21 @@ TEST_F(Cli, MarquesDesBulletins) {
     refuse(std::string("bulletins a.grl"), "a.bul");
 }
 
+TEST_F(Cli, Analyses) {
+    const Document rapport = RedigerAnalyses(QuatreTirages().enUsage(), 1, 3);
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses").out, EnTexte(rapport));
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --format html").out,
+              EnHtml(rapport, JeuStyles::RVStyle2, PlaceImages::DansLaPage));
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --sortie a.txt").out, "");
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --format html --sortie a.html").out, "");
+    const auto fichiers = Contenu(dossier);
+    EXPECT_EQ(fichiers.at("a.txt"), EnTexte(rapport));
+    EXPECT_EQ(fichiers.at("a.html"), EnHtml(rapport, JeuStyles::RVStyle2, PlaceImages::Fichiers));
+    EXPECT_TRUE(fichiers.contains("varoimg2.svg"));
+    refuse(std::string("analyses --format pdf"), "« pdf »");
+    refuse(std::string("--base quatre.csv analyses --sortie absent/a.txt"), "absent/a.txt");
+}
+
 TEST_F(Cli, SortieQuiEchoue) {
     const std::pair<const char*, const char*> cas[] = {
         {"base", "Les résultats n'ont pas pu être écrits sur la sortie standard.\n"},
@@ -408,6 +425,21 @@ TEST_F(Cli, SortiesEntieresDesCommandesDeCombinaisons) {
         {{"comb", "bornes", "2", "1", "9", "--absolue", "20 23 25"}, "20 23\t1 3 3 0 1\n"},
         {{"--de", "2", "--a", "3", "comb", "bornes", "3", "2", "2"}, "07 33 41\t2 0 0 2 2\n"},
         {{"comb", "bornes", "2", "5", "9"}, ""},
+        {{"comb", "bornes", "3", "3", "3", "--stockage", "1", "--rangs"},
+         "07 33 41\t0 4 4 0 0 3 0 1 3 3\n"},
+        {{"--de", "2", "--a", "3", "comb", "bornes", "2", "2", "2", "--stockage", "2", "--rangs",
+          "--max", "2"},
+         "07 33\t0 2 2 0 0 0 2 2 0 0 2 0 0 2 2\n07 41\t0 2 2 0 0 0 2 2 0 0 2 0 0 2 2\n"},
+        {{"comb", "bornes", "2", "2", "9", "--tri", "EcartMax", "--decroissant", "--max", "2"},
+         "20 33\t2 0 2 2 2\n20 41\t2 0 2 2 2\n"},
+        {{"comb", "bornes", "3", "2", "9", "--stockage=2", "--rangs", "--tri", "NbFois",
+          "--profondeur", "1", "--decroissant", "--max", "1"},
+         "07 33 41\t0 4 4 0 0 1 3 3 0 1 0 4 4 0 0 3 0 1 3 3\n"},
+        {{"comb", "bornes", "3", "2", "9", "--stockage=2", "--rangs", "--gain", "--max", "1"},
+         "20 33 41\t0 4 4 0 0 1 3 3 0 1 1 2 2 0 1 2 0 2 2 2\n"},
+        {{"comb", "bornes", "2", "3", "9", "--tri", "Ecart", "--gain", "--sortie", "l.lst"}, ""},
+        {{"liste", "lire", "l.lst"},
+         "4\t2\t0\t1\t4\n07 20\t3 0 1 2 2\n07 33\t3 0 1 3 3\n07 41\t3 0 1 3 3\n33 41\t3 0 1 3 3\n"},
         {{"comb", "stats", "41 7"},
          "k\tNbFois\tDate\tEcart\tEcartMax\tNbEcartMax\tPosEcartMax\tSuite\tSuiteMax\t"
          "NbSuiteMax\tPosSuiteMax\n"
@@ -436,6 +468,11 @@ TEST_F(Cli, CombinaisonsRefusees) {
         {{"comb", "bornes", "2", "0", "65535"}, "SUP 65535 est hors"},
         {{"comb", "bornes", "2", "0", "1", "--stockage", "3"}, "--stockage 3 n'existe pas"},
         {{"comb", "bornes", "2", "0", "1", "--max", "0"}, "--max 0"},
+        {{"comb", "bornes", "2", "0", "1", "--tri", "ecart"},
+         "--tri ecart n'existe pas : choisissez NbFois, Ecart, EcartMax, Suite, SuiteMax."},
+        {{"comb", "bornes", "2", "0", "1", "--profondeur", "3"},
+         "--profondeur 3 n'est pas un rang"},
+        {{"comb", "bornes", "2", "0", "1", "--profondeur", "1", "--gain"}, "s'excluent"},
         {{"comb", "bornes", "10", "0", "99"},
          "La liste compterait environ 8\u00A0220\u00A0000\u00A0000 combi"},
         {{"comb", "bornes", "3", "0", "9", "--secondaire", "4"}, "case cochée verte"},
