@@ -8,6 +8,7 @@
 #include "CommandeHistorique.h"
 #include "CommandeImporter.h"
 #include "CommandeListe.h"
+#include "CommandeNC.h"
 #include "CommandeSystemes.h"
 
 namespace norvane {
@@ -47,6 +48,12 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    CLI::App& nc = Groupe(racine, "nc", "Grilles de numéros et de chances sur l'intervalle");
+    commandes.push_back(std::make_unique<CommandeNcTable>(nc));
+    commandes.push_back(std::make_unique<CommandeNcListe>(nc));
+    for (const CommandeNcFiltre::Filtre& filtre : CommandeNcFiltre::filtres())
+        commandes.push_back(std::make_unique<CommandeNcFiltre>(nc, filtre));
+    commandes.push_back(std::make_unique<CommandeNcJamais>(nc));
     commandes.push_back(std::make_unique<CommandeBulletins>(racine));
     commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& historique =
