@@ -46,8 +46,7 @@ bool Travaux::lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
     occupation_ = Occupation(activite_, travail->description);
     travail_ = std::move(travail);
     vue_ = vue;
-    jauge_ = vue.jauge != nullptr ? vue.jauge : jaugeCommune_.get();
-    if (jauge_ && jauge_ == jaugeCommune_) jauge_->show();
+    jauge_ = vue.jauge;
     temps_ = vue.temps;
     pour_ = pour;
     fin_ = std::move(fin);
@@ -79,7 +78,6 @@ void Travaux::finir() {
     const auto fin = std::move(fin_);
     occupation_.liberer();
     if (jauge_) jauge_->reset();
-    if (jauge_ && jauge_ == jaugeCommune_) jauge_->hide();
     if (temps_) {
         temps_->setText(u"Temps de calcul : "_s +
                         QString::fromStdString(FormaterDecimal(duree_, 1)));

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
+#include <QProgressBar>
 
 #include "base/Fichiers.h"
 #include "base/Jackpot.h"
@@ -142,14 +143,16 @@ void MiseAJourTirages::importer(const QString& fichier) {
 void MiseAJourTirages::lancer(PtrTravail travail, const QString& texte,
                               std::shared_ptr<Travaille> travaille) {
     const bool parti =
-        contexte_.travaux.lancer(std::move(travail), {texte}, this,
+        contexte_.travaux.lancer(std::move(travail), {texte, jauge_}, this,
                                  [this, travaille](Travail& fini) { terminer(*travaille, fini); });
     if (!parti) direErreur(contexte_.travaux.erreur());
+    if (parti && jauge_ != nullptr) jauge_->show();
     Q_EMIT enCoursChange();
 }
 
 void MiseAJourTirages::terminer(Travaille& travaille, const Travail& travail) {
     Q_EMIT enCoursChange();
+    if (jauge_ != nullptr) jauge_->hide();
     if (!direTransport(travaille)) return;
     if (!travaille.jackpot.isEmpty()) Q_EMIT jackpotLu(travaille.jackpot);
     if (travail.arrete()) {

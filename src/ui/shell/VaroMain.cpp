@@ -102,7 +102,7 @@ void TVaroMainForm::creerEtat() {
     progression_->setMaximumHeight(barre->fontMetrics().height());
     progression_->setTextVisible(false);
     progression_->hide();
-    travaux_.poserJaugeCommune(progression_);
+    miseAJour_->poserJauge(progression_);
     intervalle_ = new QLabel(barre);
     intervalle_->setObjectName(u"PanneauIntervalle"_s);
     intervalle_->setContentsMargins(Unite, 0, Unite, 0);

@@ -5,10 +5,11 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QNetworkInformation>
+#include <QProgressBar>
 #include <QPushButton>
 
 #include "base/Dates.h"
+#include "common/Connexion.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "dialogs/MiseAJourTirages.h"
@@ -20,6 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr double LargeurJauge = 80;  // design units
 const QString Indice = u"Mise à jour des tirages depuis l'Internet"_s;
 
 QDate jour(int date) {
@@ -40,6 +42,7 @@ PanneauInternet::PanneauInternet(Contexte& ctx, QWidget* parent)
     : QWidget(parent),
       contexte_(ctx),
       miseAJour_(new MiseAJourTirages(ctx, this)),
+      detecteur_(new Connexion(this)),
       age_(legende({}, this)),
       jackpot_(new QLabel(this)),
       connexion_(new QLabel(this)),
@@ -52,17 +55,25 @@ PanneauInternet::PanneauInternet(Contexte& ctx, QWidget* parent)
     auto* ligne = new QHBoxLayout(this);
     ligne->setContentsMargins(0, 0, 0, 0);
     ligne->setSpacing(2 * Unite);
+    auto* jauge = new QProgressBar(this);
+    jauge->setObjectName(u"JaugeInternet"_s);
+    jauge->setMaximumWidth(ctx.px(LargeurJauge));
+    jauge->setTextVisible(false);
+    jauge->hide();
+    miseAJour_->poserJauge(jauge);
     ligne->addWidget(age_);
     ligne->addStretch(1);
     ligne->addWidget(jackpot_);
+    ligne->addWidget(jauge);
     ligne->addWidget(connexion_);
     ligne->addWidget(internet_);
     connect(internet_, &QPushButton::clicked, this, [this] {
-        suivreConnexion();
+        detecteur_->demarrer();
         miseAJour_->MajwebClick();
     });
     connect(miseAJour_, &MiseAJourTirages::enCoursChange, this,
             [this] { internet_->setText(miseAJour_->enCours() ? u"STOP"_s : u"&Internet"_s); });
+    connect(detecteur_, &Connexion::change, this, &PanneauInternet::montrerConnexion);
     connect(miseAJour_, &MiseAJourTirages::jackpotLu, jackpot_, &QLabel::setText);
     suivre();
 }
@@ -75,20 +86,7 @@ void PanneauInternet::suivre() {
                   depuis(jour(date), contexte_.services.horloge->aujourdhui()));
 }
 
-/// Off at the start: nobody who stays at home is watched.
-void PanneauInternet::suivreConnexion() {
-    if (suivie_) return;
-    suivie_ =
-        QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
-    if (!suivie_) return;
-    connect(QNetworkInformation::instance(), &QNetworkInformation::reachabilityChanged, this,
-            &PanneauInternet::montrerConnexion);
-    montrerConnexion();
-}
-
-void PanneauInternet::montrerConnexion() {
-    const bool enLigne = QNetworkInformation::instance()->reachability() ==
-                         QNetworkInformation::Reachability::Online;
+void PanneauInternet::montrerConnexion(bool enLigne) {
     connexion_->setText(enLigne ? u"Online"_s : u"Offline"_s);
     QPalette palette = connexion_->palette();
     palette.setColor(QPalette::WindowText, enLigne ? QColor(0x00, 0xFF, 0x00) : QColor(0xFF, 0, 0));

@@ -11,6 +11,7 @@ class QPushButton;
 
 namespace norvane::ui {
 
+class Connexion;
 class MiseAJourTirages;
 struct Contexte;
 
@@ -24,14 +25,13 @@ class PanneauInternet final : public QWidget {
     void suivre();
 
  private:
-    void suivreConnexion();
-    void montrerConnexion();
+    void montrerConnexion(bool enLigne);
 
     Contexte& contexte_;
     MiseAJourTirages* miseAJour_;
+    Connexion* detecteur_;
     QLabel *age_, *jackpot_, *connexion_;
     QPushButton* internet_;
-    bool suivie_ = false;  ///< the detector of the connection is on
 };
 
 }  // namespace norvane::ui

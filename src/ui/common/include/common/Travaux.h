@@ -41,9 +41,6 @@ class Travaux final : public QObject {
     bool lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
                 std::function<void(Travail&)> fin);
 
-    /// The gauge of works without one of their own: shown while one runs.
-    void poserJaugeCommune(QProgressBar* jauge) { jaugeCommune_ = jauge; }
-
     /// Asks the work in hand to stop; does nothing without one.
     void arreter();
     /// The work in hand, null when none runs.
@@ -68,7 +65,6 @@ class Travaux final : public QObject {
     PtrTravail travail_;
     VueTravail vue_;
     QPointer<QProgressBar> jauge_;
-    QPointer<QProgressBar> jaugeCommune_;
     QPointer<QLabel> temps_;
     QPointer<QObject> pour_;
     std::function<void(Travail&)> fin_;

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+class QProgressBar;
+
 #include "atelier/MiseAJour.h"
 #include "common/Telechargement.h"
 
@@ -20,6 +22,9 @@ class MiseAJourTirages final : public QObject {
  public:
     /// `fenetre`: a widget of the window that is closed when the program is to start again.
     MiseAJourTirages(Contexte& ctx, QWidget* fenetre);
+
+    /// Shown while an update runs.
+    void poserJauge(QProgressBar* jauge) { jauge_ = jauge; }
 
     /// Fetches and merges the archive of the settings; stops that when it is under way.
     void MajwebClick();
@@ -48,6 +53,7 @@ class MiseAJourTirages final : public QObject {
 
     Contexte& contexte_;
     QWidget* fenetre_;
+    QProgressBar* jauge_ = nullptr;
 };
 
 }  // namespace norvane::ui
