@@ -217,7 +217,9 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
         puits.liste.DebutListe = c.IntervalleInf;
         puits.liste.FinListe = c.IntervalleSup;
         if (const auto mene = chercher(c, *demande, puits); !mene) return Erreur{mene.erreur()};
-        return SauverListe(puits.liste, contexte.repertoire / *sortie_);
+        return contexte.mener([&](const Suivi& suivi) {
+            return SauverListe(puits.liste, contexte.repertoire / *sortie_, suivi);
+        });
     }
     Montre<Ecriture> ecriture(avance, contexte.sortie, disposition);
     const auto nombre = chercher(c, *demande, ecriture);
