@@ -22,7 +22,7 @@ CommandeListeLire::CommandeListeLire(CLI::App& liste)
 Resultat<Rien> CommandeListeLire::executer(const Contexte& contexte, std::ostream& /*out*/) {
     const auto gains = FormeGains::de(contexte.lireReglages().GainsNominaux);
     Liste liste;
-    const auto mene = contexte.mener([&](const Suivi& suivi) -> Resultat<Rien> {
+    auto mene = contexte.mener([&](const Suivi& suivi) -> Resultat<Rien> {
         auto lue = OuvrirListe(contexte.repertoire / fichier_, gains, suivi);
         if (!lue) return Erreur{lue.erreur()};
         liste = *std::move(lue);
