@@ -132,8 +132,10 @@ void VueRapport::paintEvent(QPaintEvent* evenement) {
 void VueRapport::contextMenuEvent(QContextMenuEvent* evenement) {
     QTextCursor curseur = cursorForPosition(evenement->pos());
     curseur.select(QTextCursor::WordUnderCursor);
-    const QString mot = curseur.selectedText().trimmed();
-    mot_->setText(mot.isEmpty() ? u"&Mot cliqué"_s : QString(mot).replace(u'&', u"&&"_s));
+    const QString mot = curseur.selectedText();
+    // The lines of a box are no word.
+    const bool lisible = std::ranges::any_of(mot, [](QChar c) { return c.isLetterOrNumber(); });
+    mot_->setText(lisible ? QString(mot).replace(u'&', u"&&"_s) : u"&Mot cliqué"_s);
     copier_->setEnabled(textCursor().hasSelection());
     menu_->popup(evenement->globalPos());
 }
