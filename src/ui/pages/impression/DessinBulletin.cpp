@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double UnitesParPouce = 25.4 * UnitesParMm;
-constexpr double PartTexte = 0.5;  // of the side of a box
+constexpr double PartTexte = 0.42;  // of the side of a box
 constexpr QRgb Feuille = qRgb(0xFF, 0xFE, 0xFA);
 constexpr QRgb FeuilleVide = qRgb(0xEE, 0xEE, 0xEA);
 constexpr QRgb Bordure = qRgb(0xB8, 0xBC, 0xC8);
@@ -152,7 +152,6 @@ void peindreApercu(QPainter& p, const QRectF& cible, const Grille* grille, int p
     if (grille != nullptr) {
         reglerTexte(p, 13);
         peindreCasesApercu(p, ParticipeAu2ndTirage(*grille));
-        p.setRenderHint(QPainter::Antialiasing, false);
         for (const MarqueApercu& m : MarquesApercu(*grille, marque))
             p.fillRect(QRectF(m.gauche, m.haut, m.droite - m.gauche, m.bas - m.haut), Qt::black);
     }

@@ -17,7 +17,7 @@ ListeCoches::ListeCoches(const QString& nom, const QString& libelle, const QStri
     setAccessibleName(libelle);
     setFlow(LeftToRight);
     setFrameShape(NoFrame);
-    setSpacing(0);
+    setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -15,8 +15,8 @@ class ListeCoches final : public QListWidget {
     ListeCoches(const QString& nom, const QString& libelle, const QStringList& items,
                 QWidget* parent);
 
-    /// Ticks what `coche` says, without a signal; the item ticked last in the list is the current
-    /// one, none without a tick.
+    /// Ticks what `coche` says, without a signal. Unless the keys are in the list, what is ticked
+    /// is the current item, and nothing without a tick.
     template <typename Coche>
     void montrer(Coche coche) {
         const QSignalBlocker muet(this);
@@ -26,7 +26,7 @@ class ListeCoches final : public QListWidget {
             item(i)->setCheckState(oui ? Qt::Checked : Qt::Unchecked);
             if (oui) courant = i;
         }
-        if (courant < 0 || !hasFocus()) setCurrentRow(courant);
+        if (!hasFocus()) setCurrentRow(courant);
     }
 
     QSize sizeHint() const override;

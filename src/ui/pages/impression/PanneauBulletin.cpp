@@ -43,6 +43,8 @@ QLayout* PanneauBulletin::creerTete() {
     nombre_ = legende({}, this);
     nombre_->setObjectName(u"LabelNombreBulletins"_s);
     prix_ = valeur(u"LabelPrixBulletin"_s, u"Prix du bulletin"_s, this);
+    ecrireNumero();
+    connect(numero_, &QLineEdit::editingFinished, this, &PanneauBulletin::ecrireNumero);
     connect(numero_, &QLineEdit::textChanged, this, &PanneauBulletin::surSaisie);
     const auto deplacer = [this](int pas) { commandes_.aller(commandes_.etat().bulletin + pas); };
     connect(numero_, &ChampNumero::deplacement, this, deplacer);
@@ -82,15 +84,18 @@ void PanneauBulletin::surSaisie() {
     commandes_.aller(texte.isEmpty() ? 1 : texte.toInt());
 }
 
+void PanneauBulletin::ecrireNumero() {
+    const int bulletin = commandes_.etat().bulletin;
+    if (numero_->text().toInt() == bulletin) return;
+    const QSignalBlocker muet(numero_);
+    numero_->setText(QString::number(bulletin));
+}
+
 void PanneauBulletin::montrer() {
     const EtatBulletins& etat = commandes_.etat();
     const int nombre = commandes_.nombre();
-    // Nothing typed yet counts as 1: what is about to be typed finds an empty field.
-    if (!(numero_->text().isEmpty() && numero_->hasFocus() && etat.bulletin == 1) &&
-        numero_->text().toInt() != etat.bulletin) {
-        const QSignalBlocker muet(numero_);
-        numero_->setText(QString::number(etat.bulletin));
-    }
+    // An empty field counts as 1, and stays empty for what is about to be typed.
+    if (!(numero_->text().isEmpty() && etat.bulletin == 1)) ecrireNumero();
     nombre_->setText(nombre == 0 ? u"aucune grille : pas de bulletin"_s
                                  : u"sur %1"_s.arg(versQt(FormaterCompte(nombre))));
     const auto siennes = GrillesDuBulletin(commandes_.grilles(), etat.bulletin);

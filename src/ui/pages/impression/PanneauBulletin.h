@@ -40,6 +40,7 @@ class PanneauBulletin final : public QWidget {
     QLayout* creerTete();
     QLayout* creerPlace(int j);
     void surSaisie();
+    void ecrireNumero();
     void montrerPlace(int j, const Grille* grille);
 
     CommandesBulletins& commandes_;

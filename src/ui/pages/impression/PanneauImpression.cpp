@@ -143,25 +143,28 @@ QLayout* PanneauImpression::creerBoutons() {
     poserIndice(epreuve_,
                 u"Imprimer aussi les cases, pour relire les marques sur du papier blanc"_s);
     connect(epreuve_, &QCheckBox::clicked, &commandes_, &CommandesBulletins::choisirEpreuve);
-    calibrer_ = bouton(u"BoutonCalibrage"_s, u"Page de &calibrage"_s,
+    calibrer_ = bouton(u"BoutonCalibrage"_s, u"Page de\n&calibrage"_s,
                        u"Imprimer des règles et le contour de toutes les cases, pour mesurer les "
                        u"décalages"_s,
                        this);
     connect(calibrer_, &QPushButton::clicked, &commandes_, &CommandesBulletins::calibrer);
     imprimer_ = bouton(u"BitBtnWithColor18"_s, Imprimer, u"Imprimer les bulletins choisis"_s, this);
     grossir(imprimer_, 1.1);
-    imprimer_->setMinimumHeight(2 * imprimer_->fontMetrics().lineSpacing() + 3 * Unite);
+    for (QPushButton* b : {calibrer_, imprimer_})
+        b->setFixedHeight(2 * imprimer_->fontMetrics().lineSpacing() + 2 * Unite);
     connect(imprimer_, &QPushButton::clicked, &commandes_,
             &CommandesBulletins::BitBtnWithColor18Click);
     jauge_ = new QProgressBar(this);
     jauge_->setObjectName(u"JaugeImpression"_s);
     jauge_->setAccessibleName(u"Avancement de l'impression"_s);
     jauge_->setTextVisible(false);
+    jauge_->setFixedHeight(2 * Unite);
     auto* pile = new QVBoxLayout;
     pile->setSpacing(Unite);
     pile->addWidget(epreuve_);
-    pile->addWidget(calibrer_);
-    pile->addWidget(imprimer_);
+    auto* boutons = rangee({calibrer_, imprimer_});
+    boutons->setStretch(1, 1);
+    pile->addLayout(boutons);
     pile->addWidget(jauge_);
     return pile;
 }

@@ -4,6 +4,7 @@
 #include "impression/PanneauOptions.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -53,13 +54,7 @@ PanneauOptions::PanneauOptions(CommandesBulletins& commandes, QWidget* parent)
     auto* semaines = rangee({semaines_, appliquer_});
     semaines->insertStretch(1, 1);
     pile->addLayout(colonne(u"SEMAINES"_s, semaines, this));
-    const auto joker = [&](const QString& titre, ListeCoches* liste) {
-        auto* ligne = rangee({liste});
-        ligne->addStretch(1);
-        pile->addLayout(colonne(titre, ligne, this));
-    };
-    joker(u"JOKER+ 1"_s, joker1_);
-    joker(u"JOKER+ 2"_s, joker2_);
+    pile->addLayout(creerJokers());
     auto* pied = rangee({groupe_, tous_});
     pied->insertStretch(1, 1);
     pile->addLayout(pied);
@@ -78,6 +73,17 @@ void PanneauOptions::creerListes() {
             &CommandesBulletins::RxCheckListBox4StateChange);
     connect(joker2_, &ListeCoches::StateChange, &commandes_,
             &CommandesBulletins::RxCheckListBox5StateChange);
+}
+
+QLayout* PanneauOptions::creerJokers() {
+    auto* grille = new QGridLayout;
+    grille->setSpacing(Unite / 2);
+    grille->setColumnStretch(1, 1);
+    for (int i = 0; ListeCoches * liste : {joker1_, joker2_}) {
+        grille->addWidget(legende(liste->accessibleName(), this), i, 0);
+        grille->addWidget(liste, i++, 1, Qt::AlignLeft);
+    }
+    return grille;
 }
 
 QLayout* PanneauOptions::creerJours() {

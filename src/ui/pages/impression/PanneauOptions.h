@@ -27,6 +27,7 @@ class PanneauOptions final : public QWidget {
 
  private:
     void creerListes();
+    QLayout* creerJokers();
     QLayout* creerJours();
 
     CommandesBulletins& commandes_;

@@ -3,6 +3,7 @@
 
 #include "impression/PanneauPrix.h"
 
+#include <cmath>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -19,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LignesVues = 4;
+constexpr double CentimesParEuro = 100;
 
 std::vector<ColonneTableau> colonnes() {
     struct Colonne {
@@ -58,7 +60,7 @@ CelluleTableau compte(int n) {
 CelluleTableau montant(double euros) {
     CelluleTableau cellule;
     if (euros != 0) cellule.texte = FormaterMontant(euros);
-    cellule.cle = euros;
+    cellule.cle = std::llround(euros * CentimesParEuro);
     return cellule;
 }
 
