@@ -46,6 +46,10 @@ Resultat<Rien> Atelier::recalculer() {
     Vider(ListeExtremes);
     Vider(ListeMemoire);
     modeListe = ModeListe::Extremes;
+    TirageActif = -1;
+    if (std::exchange(series, false)) grilleSelection = SelectionGardee;
+    // They speak of other draws, though their interval may be the same.
+    EtatNormal = EtatSeries = {};
     // A grid that was accepted is accepted over any draws.
     auto tables = ConstruireSelection(grilleSelection, base, occurrences);
     selection = tables ? *std::move(tables) : Selection{};

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Commandes.h"
 
+#include "CommandeListe.h"
+#include "CommandeSystemes.h"
+
 namespace norvane {
 
 namespace {
@@ -27,6 +30,10 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeCombExtremes>(comb));
     commandes.push_back(std::make_unique<CommandeCombBornes>(comb));
     commandes.push_back(std::make_unique<CommandeCombStats>(comb));
+    commandes.push_back(std::make_unique<CommandeListeLire>(
+        Groupe(racine, "liste", "Fichiers de listes de combinaisons (*.lst)")));
+    commandes.push_back(std::make_unique<CommandeSelectionLire>(
+        Groupe(racine, "selection", "Fichiers de sélections de numéros (*.slt)")));
     CLI::App& regles = Groupe(racine, "regles", "Règles des mises et des gains, sans la base");
     for (const CommandeRegle::Regle& regle : CommandeRegle::regles())
         commandes.push_back(std::make_unique<CommandeRegle>(regles, regle));
@@ -34,6 +41,11 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
+    commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));
+    commandes.push_back(std::make_unique<CommandeSystemesGenerer>(systemes));
+    commandes.push_back(std::make_unique<CommandeSystemesLire>(systemes));
+    commandes.push_back(std::make_unique<CommandeSystemesVerifier>(systemes));
     return commandes;
 }
 

@@ -134,8 +134,7 @@ Resultat<Rien> SupprimerVariantes(const fs::path& repertoire, const std::string&
 
 Resultat<EtatCombinaisons> LireCombCalc(const fs::path& repertoire, int nbTirages) {
     const fs::path fichier = repertoire / NomCombCalc;
-    std::error_code erreur;
-    if (!fs::exists(fichier, erreur)) return EtatCombinaisons{};
+    if (!NomPresent(fichier)) return EtatCombinaisons{};
     const auto contenu = LireFichier(fichier, OctetsMax);
     if (!contenu) return Erreur{contenu.erreur()};
 

@@ -5,7 +5,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <system_error>
 
 #include "base/Base.h"
 #include "base/Fichiers.h"
@@ -86,8 +85,7 @@ std::optional<Combinaison> LireLigneCombinaison(std::string_view ligne) {
 
 Resultat<std::vector<Combinaison>> LireListe(const std::filesystem::path& fichier, int taille) {
     std::vector<Combinaison> lignes;
-    std::error_code erreur;
-    if (!std::filesystem::exists(fichier, erreur)) return lignes;
+    if (!NomPresent(fichier)) return lignes;
     const auto contenu = LireFichier(fichier, OctetsMax);
     if (!contenu) return Erreur{contenu.erreur()};
 

@@ -24,13 +24,6 @@ bool RangsRemplis(const Disposition& d, std::span<const Mot> enregistrement) {
     return d.premierRang() != 0 && enregistrement[1] != RangNonCalcule;
 }
 
-void CompterRangs(Liste& liste) {
-    liste.NbCombRangs = 0;
-    for (std::size_t i = 0; i < liste.nombre(); ++i)
-        liste.NbCombRangs +=
-            static_cast<std::size_t>(RangsRemplis(liste.arene.disposition, liste.arene[i]));
-}
-
 /// Drops the records that are not kept; the arena closes up once and the order follows.
 void Compacter(Liste& liste, const std::vector<bool>& gardes) {
     if (std::ranges::find(gardes, false) == gardes.end()) return;
@@ -82,6 +75,13 @@ void TrierSelon(Liste& liste, Calcul calculer) {
 }
 
 }  // namespace
+
+void CompterRangs(Liste& liste) {
+    liste.NbCombRangs = 0;
+    for (std::size_t i = 0; i < liste.nombre(); ++i)
+        liste.NbCombRangs +=
+            static_cast<std::size_t>(RangsRemplis(liste.arene.disposition, liste.arene[i]));
+}
 
 Liste ListeDeCombinaisons(int taille, std::span<const Combinaison> lignes) {
     Liste liste;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "atelier/Cases.h"
+#include "atelier/Selections.h"
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Travail.h"
@@ -59,6 +60,8 @@ struct Atelier {
     GrilleSelection grilleSelection{};  ///< the numbers checked
     GrilleSelection SelectionGardee{};  ///< set aside on entering the series mode
     Selection selection;                ///< the selection in force, over the interval in force
+    SaisieSelection saisieSelection;    ///< the grid while it is edited
+    std::vector<Ensemble> ListeSelections;  ///< choices of 2 to 35 numbers
 
     ModeListe modeListe = ModeListe::Extremes;
     ModeStockage modeStockage = ModeStockage::PremierRang;  ///< of the next search by bounds
@@ -69,6 +72,7 @@ struct Atelier {
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
     Cases choixLibre;               ///< the free choice of numbers and chances
+    int TirageActif = -1;           ///< record on show on the page of results, -1 for none
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;
@@ -83,8 +87,9 @@ struct Atelier {
     explicit Atelier(std::filesystem::path repertoire);
 
     /// Everything that hangs on the draws again after a change of the base: structures, the
-    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied and
-    /// the list mode is the first one. An error is that of relireEtat; all else is done.
+    /// interval (the whole base), bounds, selection. The main list and the extremes are emptied,
+    /// the list mode is the first one, the series mode is left and no draw is on show. An error is
+    /// that of relireEtat; all else is done.
     Resultat<Rien> recalculer();
 
     /// The bounds of the whole base as the file holds them. On an error all are void.

@@ -85,6 +85,9 @@ using LignesChoisies = std::span<const std::size_t>;
 /// A list of extremes from its lines: records that hold the count alone, in their order.
 Liste ListeDeCombinaisons(int taille, std::span<const Combinaison> lignes);
 
+/// NbCombRangs from the records.
+void CompterRangs(Liste& liste);
+
 /// Whether lines of `source` may go to `cible`: an empty list takes any, another one those of its
 /// own size, mode of storage and interval.
 bool Compatibles(const Liste& source, const Liste& cible);

@@ -251,6 +251,7 @@ Cases PageResultats::tenues() const {
 /// The draw on show is another one.
 void PageResultats::montrerTirage() {
     const ChoixTirage& choix = tirage_->choix();
+    contexte.atelier.TirageActif = choix.indice();
     rapports_->montrer(choix);
     montrer();
     std::array<bool, NbBoutons> allumes{};
