@@ -27,12 +27,10 @@ const QString TypeLignes = u"application/x-norvane-lignes"_s;
 
 /// What goes along with the pointer.
 QPixmap etiquetteLignes(const QWidget& liste, std::size_t nombre) {
-    const QString texte =
-        nombre == 1 ? u"1 combinaison"_s : u"%1 combinaisons"_s.arg(nombre);
+    const QString texte = nombre == 1 ? u"1 combinaison"_s : u"%1 combinaisons"_s.arg(nombre);
     const QFontMetrics mesures = liste.fontMetrics();
     const qreal echelle = liste.devicePixelRatioF();
-    const QSize taille(mesures.horizontalAdvance(texte) + 2 * Marge,
-                       mesures.height() + 2 * Cadre);
+    const QSize taille(mesures.horizontalAdvance(texte) + 2 * Marge, mesures.height() + 2 * Cadre);
     QPixmap image(taille * echelle);
     image.setDevicePixelRatio(echelle);
     image.fill(QColor(CouleurLigneChoisie));
@@ -156,8 +154,7 @@ void ListeCombinaisons::montrer(const Liste* liste) {
     if (modele_->rowCount() != avant) return;
     const QSignalBlocker silence(this);
     QItemSelection repris;
-    for (const auto& [haut, bas] : plages)
-        repris.select(modele_->index(haut), modele_->index(bas));
+    for (const auto& [haut, bas] : plages) repris.select(modele_->index(haut), modele_->index(bas));
     if (actuelle >= 0)
         selectionModel()->setCurrentIndex(modele_->index(actuelle), QItemSelectionModel::NoUpdate);
     selectionModel()->select(repris, QItemSelectionModel::ClearAndSelect);

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QProgressBar>
 
+#include "combinaisons/DetailsListe.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "widgets/Fiche.h"
@@ -32,18 +33,6 @@ QString sensCompte(int taille) {
 }
 
 }  // namespace
-
-QString libelleStockage(ModeStockage mode) {
-    switch (mode) {
-        case ModeStockage::PremierRang:
-            return u"Premier rang stocké"_s;
-        case ModeStockage::RangsDeGain:
-            return u"Rangs de gain stockés"_s;
-        case ModeStockage::TousLesRangs:
-            return u"Tous les rangs stockés"_s;
-    }
-    return {};
-}
 
 PanneauListe::PanneauListe(const NomsListe& n, const Liste& liste, QWidget* parent)
     : QWidget(parent),
@@ -154,12 +143,13 @@ void PanneauListe::direType() {
     }
     const QString nom = QString::fromUtf16(noms.nom);
     titre_->setText(liste_.vide() ? nom : u"%1 (%2 numéros)"_s.arg(nom).arg(liste_.taille()));
-    intervalle_->setText(liste_.vide() ? vide
-                                       : u"%1 Tirages : [%2 - %3]"_s
-                                             .arg(liste_.FinListe - liste_.DebutListe + 1)
-                                             .arg(liste_.DebutListe)
-                                             .arg(liste_.FinListe));
-    for (QLabel* etiquette : {titre_, rang_, intervalle_}) poserIndice(etiquette, etiquette->text());
+    intervalle_->setText(
+        liste_.vide() ? vide
+                      : u"%1 Tirages : [%2 - %3]"_s.arg(liste_.FinListe - liste_.DebutListe + 1)
+                            .arg(liste_.DebutListe)
+                            .arg(liste_.FinListe));
+    for (QLabel* etiquette : {titre_, rang_, intervalle_})
+        poserIndice(etiquette, etiquette->text());
 }
 
 void PanneauListe::direNombre(const Liste* montree) {

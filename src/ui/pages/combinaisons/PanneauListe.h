@@ -33,17 +33,10 @@ struct NomsListe {
     const char16_t* indice;      ///< of the main list: place of the line chosen, from 1
     const char16_t* compteMenu;  ///< first item of its menu
 };
-inline constexpr NomsListe ListePrincipale{QuelleListe::Memoire,
-                                           nullptr,
-                                           u"ListBox",
-                                           u"CGauge1",
-                                           u"LabelCombEnMemoire",
-                                           u"LabelCombEnListe",
-                                           u"LabelEtatListe",
-                                           u"LabelStockage",
-                                           nullptr,
-                                           u"RxLabelIndice",
-                                           u"SelectMenu1"};
+inline constexpr NomsListe ListePrincipale{
+    QuelleListe::Memoire, nullptr,           u"ListBox",       u"CGauge1", u"LabelCombEnMemoire",
+    u"LabelCombEnListe",  u"LabelEtatListe", u"LabelStockage", nullptr,    u"RxLabelIndice",
+    u"SelectMenu1"};
 inline constexpr std::array<NomsListe, 3> ListesTampon{
     {{QuelleListe::Tampon1, u"Liste Tampon I", u"ListBox1", u"CGauge2", u"RxLabel10",
       u"LabelNbTamp1", u"LabelEtatTamp1", u"LabelMemTamp1", u"LabelIntervalleTamp1", nullptr,
@@ -54,9 +47,6 @@ inline constexpr std::array<NomsListe, 3> ListesTampon{
      {QuelleListe::Tampon3, u"Liste Tampon III", u"ListBox3", u"CGauge4", u"RxLabel12",
       u"LabelNbTamp3", u"LabelEtatTamp3", u"LabelMemTamp3", u"LabelIntervalleTamp3", nullptr,
       u"SelectMenuTamp3"}}};
-
-/// "Premier rang stocké" and the like.
-QString libelleStockage(ModeStockage mode);
 
 class PanneauListe final : public QWidget {
     Q_OBJECT

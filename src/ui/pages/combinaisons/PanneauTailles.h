@@ -42,6 +42,8 @@ class PanneauTailles final : public QWidget {
     void montrerStockage(ModeStockage mode);
     /// The size whose search runs, 0 for none.
     void montrerRecherche(int taille);
+    /// The size that the advanced sort by gap waits for, 0 for none.
+    void montrerEcartAvance(int taille);
 
     // Where a search shows itself.
     QProgressBar& jauge() { return *jauge_; }
@@ -60,11 +62,13 @@ class PanneauTailles final : public QWidget {
     void changeEvent(QEvent* evenement) override;
 
  private:
+    QLabel* creerMarque(int taille);
     QComboBox* creerModes();
     QGridLayout* creerTailles();
     QGroupBox* creerStockage();
 
     std::array<LigneBornes*, NbTailles> lignes_{};
+    std::array<QLabel*, NbTailles> marques_{};  ///< "TEA", of the sizes from 4 on
     QComboBox* modeListe_;
     QButtonGroup* stockage_ = nullptr;
     QProgressBar* jauge_;
