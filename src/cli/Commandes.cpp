@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Commandes.h"
 
+#include "CommandeAnalyses.h"
 #include "CommandeListe.h"
 #include "CommandeSystemes.h"
 
@@ -41,6 +42,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
     commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));
     commandes.push_back(std::make_unique<CommandeSystemesGenerer>(systemes));

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <tuple>
 #include <unordered_set>
 
 namespace norvane {
@@ -47,16 +48,18 @@ std::string_view Mot(std::string_view& texte) {
     return mot;
 }
 
-CleDessin Cle(const DessinStocke& dessin) {
-    return {dessin.v, dessin.k, dessin.p, dessin.t};
+/// What the stock is sorted by.
+template <typename T>
+auto Ordre(const T& cle) {
+    return std::tuple(cle.v, cle.k, cle.p, cle.t);
 }
 
 }  // namespace
 
 const DessinStocke* ChercherDessin(const CleDessin& cle) {
     const auto stock = Stock();
-    const auto lieu = std::ranges::lower_bound(stock, cle, {}, Cle);
-    return lieu != stock.end() && Cle(*lieu) == cle ? &*lieu : nullptr;
+    const auto lieu = std::ranges::lower_bound(stock, Ordre(cle), {}, Ordre<DessinStocke>);
+    return lieu != stock.end() && Ordre(*lieu) == Ordre(cle) ? &*lieu : nullptr;
 }
 
 std::vector<Ensemble> Developper(const DessinStocke& dessin) {

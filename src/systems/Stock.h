@@ -6,8 +6,6 @@
 // some block in at least t.
 #pragma once
 
-#include <compare>
-#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -20,7 +18,6 @@ struct CleDessin {
     int k = 0;
     int p = 0;
     int t = 0;
-    auto operator<=>(const CleDessin&) const = default;
 };
 
 struct DessinStocke {

@@ -8,7 +8,8 @@
 #include <chrono>
 #include <numeric>
 
-#include "atelier/Atelier.h"
+#include "atelier/TravauxListes.h"
+#include "base/Archive.h"
 #include "base/BaseIntegree.h"
 #include "base/Stockage.h"
 #include "Dossier.h"
@@ -131,4 +132,51 @@ TEST_F(TestAtelier, RecalculApresSuppression) {
     EXPECT_TRUE(fait.erreur().starts_with("Ligne 1 du")) << fait.erreur();
     EXPECT_EQ(a.combinaisons.BorneSup[2], 0);
     EXPECT_TRUE(a.selection.vide());
+}
+
+TEST_F(TestAtelier, ListesOuvertesEtEnregistreesParDesTravaux) {
+    Atelier a(dossier);
+    Liste& tampon = a.ListeTampon[1];
+    tampon = ListeDeCombinaisons(2, std::vector<Combinaison>{{{7, 20}, 3}, {{7, 33}, 4}});
+    tampon.DebutListe = tampon.FinListe = 5;
+    const auto mots = tampon.arene.mots;
+    const auto mener = [](Travail& travail, bool arreter = false) {
+        if (arreter) travail.arreter();
+        travail.demarrer();
+        travail.attendre();
+        return travail.erreur();
+    };
+    const fs::path fichier = dossier / "a.lst";
+    EXPECT_EQ(mener(*FaireSauvegardeListe(a, QuelleListe::Tampon2, fichier), true), "");
+    EXPECT_FALSE(fs::exists(fichier));
+    const PtrTravail sauvegarde = FaireSauvegardeListe(a, QuelleListe::Tampon2, fichier);
+    EXPECT_EQ(sauvegarde->description,
+              (DescriptionTravail{GenreTravail::Fichier, 2, QuelleListe::Tampon2}));
+    EXPECT_EQ(mener(*sauvegarde), "");
+    EXPECT_EQ(mener(*FaireExportListe(a, QuelleListe::Tampon2, dossier / "a.txt")), "");
+    EXPECT_EQ(lire(dossier / "a.txt"), "07 20  (03)\n07 33  (04)\n");
+    EXPECT_NE(mener(*FaireExportListe(a, QuelleListe::Tampon2, dossier / "absent/a.txt")), "");
+
+    tampon = ListeDeCombinaisons(3, std::vector<Combinaison>{{{1, 2, 3}, 9}});
+    OuvertureListe absente(a, QuelleListe::Tampon2, dossier / "absente.lst");
+    EXPECT_NE(mener(absente), "");
+    EXPECT_FALSE(absente.poser(a));
+    OuvertureListe arretee(a, QuelleListe::Tampon2, fichier);
+    EXPECT_EQ(mener(arretee, true), "");
+    EXPECT_FALSE(arretee.poser(a));
+    EXPECT_EQ(tampon.taille(), 3);
+    OuvertureListe ouverture(a, QuelleListe::Tampon2, fichier);
+    EXPECT_EQ(mener(ouverture), "");
+    EXPECT_EQ(tampon.taille(), 3);
+    EXPECT_TRUE(ouverture.poser(a));
+    EXPECT_EQ(tampon.arene.mots, mots);
+    EXPECT_FALSE(ouverture.poser(a));
+    EXPECT_EQ(tampon.arene.mots, mots);
+
+    // The length of a record is that of the prizes in force.
+    poser(fichier,
+          *FaireArchive(std::vector<MembreArchive>{{"a.tmp", "1 3 1 1 3214 0 0 0 0 0 7 20 33"}}));
+    a.configuration.reglages.GainsNominaux = {0, 5, 500, 100000};
+    OuvertureListe autresGains(a, QuelleListe::Tampon2, fichier);
+    EXPECT_EQ(mener(autresGains), "");
 }

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "base/Archive.h"
 #include "base/BaseIntegree.h"
 #include "base/Configuration.h"
 #include "base/Stockage.h"
@@ -264,6 +265,26 @@ TEST_F(Cli, AideATousLesNiveauxEtVersion) {
                 << mot;
         }
     }
+}
+
+TEST_F(Cli, FichiersDeListesEtDeSelections) {
+    const MembreArchive membre{"a.tmp",
+                               "2 3 1 100 600 1 2 3 4 5 6 7 8 9 10 7 20 33\n"
+                               "0 0 0 0 0 6 7 8 9 10 7 20 34"};
+    poser(dossier / "a.lst", *FaireArchive({&membre, 1}));
+    EXPECT_EQ(lancer("liste lire a.lst").out,
+              "2\t3\t1\t100\t600\n07 20 33\t1 2 3 4 5 6 7 8 9 10\n"
+              "07 20 34\t0 0 0 0 0 6 7 8 9 10\n");
+    poser(dossier / "NORVANE.INI", "[GAINS]\nG2=0\n");
+    refuse(std::string("liste lire a.lst"), "prend 13 valeurs, et 8 avec les gains actuels");
+    refuse(std::string("liste lire quatre.csv"), "n'est pas une archive ZIP");
+
+    std::string texte = "2 1 0 2 2";
+    for (int n = 5; n < 49; ++n) texte += " 0";
+    poser(dossier / "a.slt", texte + " 1");
+    EXPECT_EQ(lancer("selection lire a.slt").out, "absolue\t01 49\nsecondaire\t03 04\n");
+    poser(dossier / "b.slt", texte);
+    refuse(std::string("selection lire b.slt"), "s'arrête après 49");
 }
 
 TEST_F(Cli, SortieQuiEchoue) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "comb/EtatCombinaisons.h"
+#include "comb/LigneCombinaison.h"
 #include "Dossier.h"
 
 namespace norvane {
@@ -77,6 +78,15 @@ TEST(EtatCombinaisons, NonSensRefuseAvecSaLigne) {
         EXPECT_TRUE(etat.erreur().starts_with(fichier < "2" ? "Ligne 2 du" : "Ligne 10 du"))
             << etat.erreur();
     }
+}
+
+TEST(EtatCombinaisons, LienVersNullePart) {
+    const Dossier dossier;
+    for (const char* nom : {NomCombCalc, "comb2.dat"})
+        std::filesystem::create_symlink("absent", dossier / nom);
+    EXPECT_NE(LireCombCalc(dossier.chemin(), NbTirages).erreur().find("un lien"),
+              std::string::npos);
+    EXPECT_NE(LireListe(dossier / "comb2.dat", 2).erreur().find("un lien"), std::string::npos);
 }
 
 TEST(EtatCombinaisons, EcritPuisRelu) {

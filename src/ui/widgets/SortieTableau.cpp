@@ -6,18 +6,16 @@
 #include <algorithm>
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QBuffer>
 #include <QFile>
-#include <QPageLayout>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QPrinter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 
 #include "base/Fichiers.h"
 #include "common/Enregistrement.h"
+#include "widgets/Impression.h"
 
 namespace norvane::ui {
 
@@ -95,14 +93,8 @@ double mettreEnPages(QTextDocument& document, const QSizeF& page) {
     return 1.0;
 }
 
-/// The pages to print, from 1; 0 for no such bound.
-struct Pages {
-    int premiere = 0;
-    int derniere = 0;
-};
-
 /// A printer, or a PDF in the making.
-bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const Pages& voulues) {
+bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const PagesVoulues& voulues) {
     QPainter p;
     if (!p.begin(&support)) return false;
     const QRectF feuille(QPointF(0, 0),
@@ -130,35 +122,6 @@ bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const Pages& 
     return p.end();
 }
 
-/// Made in memory and written at once, so that nothing but a whole file replaces another one.
-void imprimerPdf(Contexte& contexte, const QPrinter& imprimante, const QString& html,
-                 const Pages& pages) {
-    std::size_t format = 0;
-    const QString choisi = imprimante.outputFileName();
-    const QString fichier = nomComplet(choisi, {{u"Document PDF (*.pdf)"_s, u"pdf"_s}}, 0, format);
-    // The dialog asked about the name that it was given.
-    if (fichier != choisi && !accepteRemplacement(contexte, fichier)) return;
-    QByteArray contenu;
-    QBuffer memoire(&contenu);
-    memoire.open(QIODevice::WriteOnly);
-    QPdfWriter pdf(&memoire);
-    pdf.setResolution(imprimante.resolution());
-    pdf.setPageLayout(imprimante.pageLayout());
-    pdf.setTitle(imprimante.docName());
-    pdf.setCreator(u"Norvane"_s);
-    const bool fait = imprimerHtml(pdf, html, pages);
-    memoire.close();
-    const auto ecrit =
-        fait ? EcrireFichier(QFile::encodeName(fichier).toStdString(), contenu.toStdString())
-             : Resultat<Rien>(Erreur{"Le document PDF n'a pas pu être composé : fermez d'autres "
-                                     "programmes, puis recommencez."});
-    if (ecrit) {
-        direEnregistre(contexte, u"Tableau imprimé"_s, fichier);
-    } else {
-        contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
-    }
-}
-
 }  // namespace
 
 void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
@@ -177,21 +140,13 @@ void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& ta
 
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                      const QString& titre) {
-    QPrinter imprimante(QPrinter::HighResolution);
-    imprimante.setDocName(tableau.titre.empty() ? titre : versQt(tableau.titre.front()));
-    imprimante.setPageSize(QPageSize(QPageSize::A4));
-    imprimante.setPageMargins(QMarginsF(MargePage, MargePage, MargePage, MargePage),
-                              QPageLayout::Millimeter);
-    if (!contexte.services.imprimantes->choisir(parent, imprimante, titre)) return;
-    const QString html = versQt(EnHtml(tableau));
-    const Pages pages{imprimante.fromPage(), imprimante.toPage()};
-    if (imprimante.outputFormat() == QPrinter::PdfFormat) {
-        imprimerPdf(contexte, imprimante, html, pages);
-    } else if (!imprimerHtml(imprimante, html, pages)) {
-        contexte.services.messages->MessageErreur(
-            u"L'impression n'a pas pu se faire : vérifiez l'imprimante, puis recommencez."_s,
-            u"Erreur"_s);
-    }
+    imprimer(
+        contexte, parent,
+        {titre, tableau.titre.empty() ? titre : versQt(tableau.titre.front()), u"Tableau imprimé"_s,
+         QPageLayout::Portrait, QMarginsF(MargePage, MargePage, MargePage, MargePage),
+         [html = versQt(EnHtml(tableau))](QPagedPaintDevice& papier, const PagesVoulues& pages) {
+             return imprimerHtml(papier, html, pages);
+         }});
 }
 
 }  // namespace norvane::ui

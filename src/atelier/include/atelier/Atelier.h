@@ -52,6 +52,7 @@ struct Atelier {
     Base base;
     Occurrences occurrences;
     IntervalleStats StatsNumeros, StatsChances;  ///< of the pages of the same names
+    IntervalleStats Analyses;                    ///< of the page "Analyses N"
 
     EtatCombinaisons combinaisons;      ///< bounds in force, of the mode in force
     bool series = false;                ///< the engine looks at series of consecutive numbers alone
