@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "base/Ensemble.h"
+#include "base/Tirage.h"
 #include "common/Theme.h"
 
 namespace norvane::ui {

@@ -88,7 +88,7 @@ void ManipulationListes::creerMenu(Menu& menu) {
     const QString ici = cleDe(laquelle);
     menu.menu = new QMenu(&boite);
     menu.menu->setObjectName(u"PopupMenu"_s + ici);
-    menu.compte = menu.menu->addAction({});
+    menu.compte = menu.menu->addAction(QString());
     menu.compte->setObjectName(QString::fromUtf16(menu.panneau->noms.compteMenu));
     menu.compte->setEnabled(false);
     connect(menu.menu, &QMenu::aboutToHide, this, [&menu] { liberer(menu); });
