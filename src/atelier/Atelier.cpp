@@ -45,6 +45,7 @@ Resultat<Rien> Atelier::recalculer() {
     RecalculBase(base, occurrences);
     Vider(ListeExtremes);
     Vider(ListeMemoire);
+    triEcartAvance.actif = false;
     modeListe = ModeListe::Extremes;
     TirageActif = -1;
     if (std::exchange(series, false)) grilleSelection = SelectionGardee;
@@ -65,6 +66,10 @@ Resultat<Rien> Atelier::relireEtat() {
 }
 
 Liste& Atelier::liste(QuelleListe laquelle) {
+    return const_cast<Liste&>(std::as_const(*this).liste(laquelle));
+}
+
+const Liste& Atelier::liste(QuelleListe laquelle) const {
     switch (laquelle) {
         case QuelleListe::Aucune:
         case QuelleListe::Extremes:

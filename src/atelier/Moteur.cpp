@@ -13,20 +13,6 @@
 
 namespace norvane {
 
-namespace {
-
-constexpr const char* Attendez = "Attendez la fin du traitement en cours...";
-
-ReponseClic Refuser(std::string message) {
-    return {ReponseClic::Genre::Refuse, std::move(message), nullptr};
-}
-
-ReponseClic Montre() {
-    return {ReponseClic::Genre::Affiche, {}, nullptr};
-}
-
-}  // namespace
-
 Moteur::Moteur(Atelier& atelier) : atelier_(atelier) {}
 Moteur::~Moteur() = default;
 
@@ -60,13 +46,6 @@ ReponseClic Moteur::Cliquer(int taille, int inf, int sup) {
             break;
     }
     return Refuser({});  // no size can be asked for there
-}
-
-template <typename Fil>
-ReponseClic Moteur::lancer(PtrFil<Fil> fil, void (Moteur::*finir)(Fil&, FinTraitement&)) {
-    passage_->travail = fil.get();
-    passage_->terminer = [this, finir, &f = *fil](FinTraitement& fin) { (this->*finir)(f, fin); };
-    return {ReponseClic::Genre::Lance, {}, PtrTravail(fil.release())};
 }
 
 void Moteur::montrer(Liste liste, int de, int a) {

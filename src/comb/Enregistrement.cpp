@@ -4,28 +4,21 @@
 
 namespace norvane {
 
-int Disposition::blocs() const {
+unsigned Disposition::rangs() const {
+    const unsigned premier = 1U << BonsPremierRang(taille);
     switch (mode) {
         case ModeStockage::PremierRang:
-            return 1;
+            break;
         case ModeStockage::RangsDeGain:
-            return std::popcount(RangsDeGain(taille, gains) | 1U << BonsPremierRang(taille));
+            return RangsDeGain(taille, gains) | premier;
         case ModeStockage::TousLesRangs:
-            return taille + 1;
+            return (2U << taille) - 1;
     }
-    return 1;
+    return premier;
 }
 
-int Disposition::premierRang() const {
-    switch (mode) {
-        case ModeStockage::PremierRang:
-            return 0;
-        case ModeStockage::RangsDeGain:
-            return MotsParBloc * (blocs() - 1);
-        case ModeStockage::TousLesRangs:
-            return MotsParBloc * BonsPremierRang(taille);
-    }
-    return 0;
+int Disposition::bloc(int bons) const {
+    return MotsParBloc * std::popcount(rangs() & ((1U << bons) - 1));
 }
 
 }  // namespace norvane

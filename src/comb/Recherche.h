@@ -39,18 +39,20 @@ inline bool Compte(Masque tirage, Masque combinaison, int taille) {
 /// share one state.
 class JaugePartagee {
  public:
-    explicit JaugePartagee(Puits& puits) : etat_(std::make_shared<Etat>(puits)) {}
+    explicit JaugePartagee(Puits& puits, void (Puits::*dire)(int) = &Puits::SetProgress)
+        : etat_(std::make_shared<Etat>(puits, dire)) {}
     void operator()(int valeur) const {
         const std::lock_guard garde(etat_->verrou);
         if (valeur <= etat_->derniere) return;
         etat_->derniere = valeur;
-        etat_->puits.SetProgress(valeur);
+        (etat_->puits.*etat_->dire)(valeur);
     }
 
  private:
     struct Etat {
-        explicit Etat(Puits& p) : puits(p) {}
+        Etat(Puits& p, void (Puits::*d)(int)) : puits(p), dire(d) {}
         Puits& puits;
+        void (Puits::*const dire)(int);
         std::mutex verrou;
         int derniere = -1;
     };

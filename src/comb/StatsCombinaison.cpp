@@ -5,13 +5,11 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <utility>
+#include <array>
 
 namespace norvane {
 
 namespace {
-
-constexpr const char* JamaisSorti = "Jamais sorti ";
 
 using ListesParRang = std::array<ListeOccurrences, NbBoules + 1>;
 
@@ -41,22 +39,11 @@ ListesParRang TrierParRang(const Occurrences& occ, std::span<const Mot> numeros,
 
 LigneStatsCombinaison FaireLigne(const Base& base, const ListeOccurrences& liste, int bons, int inf,
                                  int sup) {
-    const ResultatStats r = StatsIntervalle(liste, inf - 1, sup - 1);
-    const auto nbFois = static_cast<int>(liste.size());
-    const int date = liste.empty() ? 0 : base.Tirages[liste.back()].DateTirage;
-    Cellule ratio = CelluleRatio(nbFois, sup - inf + 1);
-    Cellule ecart = CelluleEntier(r.Ecart);
-    if (date != 0) ecart.cible = NumeroTirage{sup - r.Ecart};
-    return {.bons = bons,
-            .NbFois = nbFois,
-            .date = date,
-            .resultat = r,
-            .ratioGraphique = static_cast<int>(ratio.cle),
-            .cellules = {CelluleEntier(bons), CelluleEntier(nbFois), std::move(ratio),
-                         CelluleDate(date, JamaisSorti, sup - r.Ecart), std::move(ecart),
-                         CelluleMaximum(r.EcartMax, r.NbEcartMax, r.PosEcartMax, inf - 1, sup),
-                         CelluleEntier(r.Suite),
-                         CelluleMaximum(r.SuiteMax, r.NbSuiteMax, r.PosSuiteMax, inf - 1, sup)}};
+    LigneStatsCombinaison ligne{
+        FaireLigneSortis(base, CelluleEntier(bons), liste, inf, sup, PlaceMaximum::Tirage)};
+    ligne.bons = bons;
+    ligne.ratioGraphique = static_cast<int>(CelluleRatio(ligne.NbFois, sup - inf + 1).cle);
+    return ligne;
 }
 
 }  // namespace

@@ -24,40 +24,6 @@ bool RangsRemplis(const Disposition& d, std::span<const Mot> enregistrement) {
     return d.premierRang() != 0 && enregistrement[1] != RangNonCalcule;
 }
 
-/// Drops the records that are not kept; the arena closes up once and the order follows.
-void Compacter(Liste& liste, const std::vector<bool>& gardes) {
-    if (std::ranges::find(gardes, false) == gardes.end()) return;
-    auto& mots = liste.arene.mots;
-    const auto pas = static_cast<std::ptrdiff_t>(liste.arene.disposition.mots());
-    std::vector<std::uint32_t> place(gardes.size());
-    std::uint32_t n = 0;
-    for (std::size_t i = 0; i < gardes.size(); ++i) {
-        place[i] = n;
-        if (!gardes[i]) continue;
-        if (n != i) {
-            const auto debut = mots.begin() + static_cast<std::ptrdiff_t>(i) * pas;
-            std::copy(debut, debut + pas, mots.begin() + static_cast<std::ptrdiff_t>(n) * pas);
-            if (!liste.marques.empty()) liste.marques[n] = liste.marques[i];
-        }
-        ++n;
-    }
-    mots.resize(static_cast<std::size_t>(n) * static_cast<std::size_t>(pas));
-    if (!liste.marques.empty()) liste.marques.resize(n);
-    std::erase_if(liste.ordre, [&](std::uint32_t i) { return !gardes[i]; });
-    for (std::uint32_t& i : liste.ordre) i = place[i];
-    if (liste.total > 0) liste.total -= gardes.size() - n;
-    if (n == 0) return Vider(liste);
-    CompterRangs(liste);
-}
-
-/// The order written out, so that it can be permuted.
-std::vector<std::uint32_t> OrdreEcrit(const Liste& liste) {
-    if (!liste.ordre.empty()) return liste.ordre;
-    std::vector<std::uint32_t> ordre(liste.nombre());
-    std::iota(ordre.begin(), ordre.end(), 0U);
-    return ordre;
-}
-
 /// Lines in the order of the keys of their records, those with equal keys as they stood.
 template <typename Calcul>
 void TrierSelon(Liste& liste, Calcul calculer) {
@@ -67,7 +33,7 @@ void TrierSelon(Liste& liste, Calcul calculer) {
     };
     std::vector<Entree> entrees;
     entrees.reserve(liste.nombre());
-    for (const std::uint32_t i : OrdreEcrit(liste)) entrees.push_back({calculer(i), i});
+    for (const std::uint32_t i : OrdreDesLignes(liste)) entrees.push_back({calculer(i), i});
     std::ranges::stable_sort(entrees, {}, &Entree::cle);
     liste.ordre.resize(entrees.size());
     std::ranges::transform(entrees, liste.ordre.begin(), &Entree::indice);
@@ -133,7 +99,10 @@ Transfert Copier(const Liste& source, LignesChoisies lignes, Liste& cible) {
         std::iota(cible.ordre.begin() + static_cast<std::ptrdiff_t>(avant), cible.ordre.end(),
                   static_cast<std::uint32_t>(avant));
     }
-    if (faits > 0) cible.tri = {};
+    if (faits > 0) {
+        cible.tri = {};
+        cible.melangee = cible.melangee || source.melangee;
+    }
     if (cible.total > 0) cible.total += faits;
     return {faits < lignes.size() ? Transfert::Issue::Plein : Transfert::Issue::Fait, faits};
 }
@@ -148,14 +117,46 @@ void Supprimer(Liste& liste, LignesChoisies lignes) {
     if (lignes.empty()) return;
     std::vector<bool> gardes(liste.nombre(), true);
     for (const std::size_t ligne : lignes) gardes[liste.indice(ligne)] = false;
-    Compacter(liste, gardes);
+    Garder(liste, gardes);
 }
 
 void Couper(Liste& liste, std::size_t n) {
     if (n >= liste.nombre()) return;
     std::vector<bool> gardes(liste.nombre());
     for (std::size_t ligne = 0; ligne < n; ++ligne) gardes[liste.indice(ligne)] = true;
-    Compacter(liste, gardes);
+    Garder(liste, gardes);
+}
+
+void Garder(Liste& liste, const std::vector<bool>& gardes) {
+    if (std::ranges::find(gardes, false) == gardes.end()) return;
+    auto& mots = liste.arene.mots;
+    const auto pas = static_cast<std::ptrdiff_t>(liste.arene.disposition.mots());
+    std::vector<std::uint32_t> place(gardes.size());
+    std::uint32_t n = 0;
+    for (std::size_t i = 0; i < gardes.size(); ++i) {
+        place[i] = n;
+        if (!gardes[i]) continue;
+        if (n != i) {
+            const auto debut = mots.begin() + static_cast<std::ptrdiff_t>(i) * pas;
+            std::copy(debut, debut + pas, mots.begin() + static_cast<std::ptrdiff_t>(n) * pas);
+            if (!liste.marques.empty()) liste.marques[n] = liste.marques[i];
+        }
+        ++n;
+    }
+    mots.resize(static_cast<std::size_t>(n) * static_cast<std::size_t>(pas));
+    if (!liste.marques.empty()) liste.marques.resize(n);
+    std::erase_if(liste.ordre, [&](std::uint32_t i) { return !gardes[i]; });
+    for (std::uint32_t& i : liste.ordre) i = place[i];
+    if (liste.total > 0) liste.total -= gardes.size() - n;
+    if (n == 0) return Vider(liste);
+    CompterRangs(liste);
+}
+
+std::vector<std::uint32_t> OrdreDesLignes(const Liste& liste) {
+    if (!liste.ordre.empty()) return liste.ordre;
+    std::vector<std::uint32_t> ordre(liste.nombre());
+    std::iota(ordre.begin(), ordre.end(), 0U);
+    return ordre;
 }
 
 void Vider(Liste& liste) {
@@ -183,7 +184,7 @@ std::size_t RetirerDoublons(Liste& liste) {
     for (std::size_t ligne = 0; ligne + 1 < avant; ++ligne)
         if (std::ranges::equal(liste.numeros(ligne), liste.numeros(ligne + 1)))
             gardes[liste.indice(ligne)] = false;
-    Compacter(liste, gardes);
+    Garder(liste, gardes);
     return avant - liste.nombre();
 }
 

@@ -11,6 +11,17 @@
 
 namespace norvane {
 
+namespace {
+
+/// Value, count and where, "12  (02 ...)", sorted by the three.
+Cellule Maximum(int valeur, int nombre, int position, const std::string& ou) {
+    return {fmt::format("{}  ({}{})", FormaterMasque(valeur, 2), FormaterMasque(nombre, 2), ou),
+            (std::int64_t{valeur} << 32) + (std::int64_t{nombre} << 16) + position,
+            {}};
+}
+
+}  // namespace
+
 Cellule CelluleEntier(std::int64_t valeur) {
     return {fmt::to_string(valeur), valeur, {}};
 }
@@ -32,11 +43,15 @@ Cellule CelluleMaximum(int valeur, int nombre, int position, int premier, int de
                          : dernierTirage < 100  ? 2
                          : dernierTirage < 1000 ? 3
                                                 : 4;
-    Cellule cellule{fmt::format("{}  ({} {})", FormaterMasque(valeur, 2), FormaterMasque(nombre, 2),
-                                FormaterMasque(position, chiffres)),
-                    (std::int64_t{valeur} << 32) + (std::int64_t{nombre} << 16) + position,
-                    {}};
+    Cellule cellule = Maximum(valeur, nombre, position, ' ' + FormaterMasque(position, chiffres));
     if (position > premier) cellule.cible = NumeroTirage{position};
+    return cellule;
+}
+
+Cellule CelluleMaximumDate(int valeur, int nombre, int position, int date) {
+    if (date == 0) return Maximum(valeur, nombre, position, {});
+    Cellule cellule = Maximum(valeur, nombre, position, ' ' + DateCourte(date));
+    cellule.cible = NumeroTirage{position};
     return cellule;
 }
 

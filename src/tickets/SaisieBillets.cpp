@@ -4,8 +4,6 @@
 // What stands, and the entry of grids from its start to its end.
 #include "tickets/SaisieBillets.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
 namespace norvane {
@@ -21,19 +19,6 @@ Refus Plein() {
             "Vous avez atteint la capacité maximum pour la mise en mémoire de grilles...",
             "Vous ne pouvez plus ajouter de grilles, cliquez donc sur Terminer...\nOu bien "
             "supprimer des grilles et poursuivez vos opérations en mémoire."};
-}
-
-/// Why a ticket of n numbers and c chances takes no more of them.
-Refus TropDeCochees(GenreStats genre, int n, int c) {
-    std::string phrase = fmt::format("Vous ne pouvez pas cocher plus de {} numéros.", n);
-    if (genre == GenreStats::Chances) {
-        phrase = fmt::format(
-            "Vous avez coché {} numéros, vous ne pouvez pas cocher plus de {} chances.", n, c);
-    } else if (c >= 2) {
-        phrase = fmt::format(
-            "Vous avez coché {} chances, vous ne pouvez pas cocher plus de {} numéros.", c, n);
-    }
-    return {Refus::Titre::Attention, std::move(phrase), {}};
 }
 
 }  // namespace
@@ -129,15 +114,12 @@ Reponse SaisieBillets::basculer(GenreStats genre, int valeur) {
 }
 
 Reponse SaisieBillets::cocher(GenreStats genre, int valeur) {
-    Grille cochee = enMain_;
+    if (auto refus = PeutCocher(genre, enMain_.n(), enMain_.c())) return refus;
     if (genre == GenreStats::Numeros) {
-        cochee.numeros.cocher(valeur);
+        enMain_.numeros.cocher(valeur);
     } else {
-        cochee.chances.cocher(valeur);
+        enMain_.chances.cocher(valeur);
     }
-    if (TableMises(cochee.n(), cochee.c()) == MiseInjouable)
-        return TropDeCochees(genre, enMain_.n(), enMain_.c());
-    enMain_ = cochee;
     return {};
 }
 

@@ -21,6 +21,9 @@ Refus AucuneGrille() {
             "Cliquez sur le bouton Sélection afin de saisir des grilles."};
 }
 
+constexpr const char* TerminezLaSelection =
+    "Terminez le Mode Sélection dans l'onglet Résultats pour utiliser cette fonctionnalité.";
+
 constexpr std::size_t NbChiffresJoker = 7;
 
 Refus JokerIncomplet(std::size_t tapes) {
@@ -165,10 +168,7 @@ void SaisieBillets::choisirListe(bool recu) {
 
 Reponse SaisieBillets::peutCopier() const {
     if (!enSelection()) return {};
-    return Refus{Refus::Titre::Message,
-                 "Terminez le Mode Sélection dans l'onglet Résultats pour utiliser cette "
-                 "fonctionnalité.",
-                 {}};
+    return Refus{Refus::Titre::Message, TerminezLaSelection, {}};
 }
 
 Copie SaisieBillets::CopierversBulletins(std::span<const Grille> grilles) {
@@ -182,6 +182,45 @@ Copie SaisieBillets::CopierversBulletins(std::span<const Grille> grilles) {
     billets_.aSauver = billets_.aSauver || copie.copiees > 0;
     if (!stock.empty()) entrerConsultation(false);
     return copie;
+}
+
+Reponse SaisieBillets::peutAjouterAuStock() const {
+    if (enSelection())
+        return Refus{Refus::Titre::Message,
+                     "Pas d'ajout de combinaisons possible dans les bulletins en Mode Sélection...",
+                     TerminezLaSelection};
+    if (billets_.ListeChoix.size() >= NbGrillesMax)
+        return Refus{Refus::Titre::Message,
+                     "Vous avez atteint la capacité maximum pour la mise en mémoire de grilles...",
+                     "Vous devez supprimer des grilles dans l'Onglet Résultats en Mode Sélection "
+                     "pour utiliser cette fonction."};
+    return {};
+}
+
+void SaisieBillets::ajouterAuStock(const Grille& grille) {
+    if (peutAjouterAuStock()) return;
+    billets_.ListeChoix.push_back(grille);
+    billets_.aSauver = true;
+    if (enConsultation()) {
+        consulterStock(static_cast<int>(billets_.ListeChoix.size()));
+    } else {
+        choisirListe(false);
+    }
+}
+
+int SaisieBillets::placeDansStock(const Grille& grille) const {
+    const auto& stock = billets_.ListeChoix;
+    const auto ou = std::ranges::find_if(stock, [&](const Grille& autre) {
+        return autre.numeros.ensemble() == grille.numeros.ensemble() &&
+               autre.chances.ensemble() == grille.chances.ensemble();
+    });
+    return ou == stock.end() ? 0 : static_cast<int>(ou - stock.begin()) + 1;
+}
+
+void SaisieBillets::consulterStock(int numero) {
+    if (enSelection() || billets_.ListeChoix.empty()) return;
+    entrerConsultation(false);
+    AfficherGrille(std::clamp(numero, 1, nombre()));
 }
 
 Reponse SaisieBillets::peutVerifier(bool avecTirage) const {

@@ -47,6 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         std::filesystem::temp_directory_path() / ("norvane-fuzz-" + std::to_string(::getpid()));
     const std::string contenu(reinterpret_cast<const char*>(octets), taille);
     const auto poser = [](const std::string& texte) {
+        std::filesystem::remove(fichier);  // to write over it may wait for the disk
         std::ofstream(fichier, std::ios::binary) << texte;
     };
     poser(contenu);

@@ -96,6 +96,17 @@ std::vector<ColonneTableau> colonnesCombinaison() {
             chiffres(u"Suitemax"_s, u"Suite Max"_s, 70, u"0000  (00 0000)"_s)};
 }
 
+std::vector<ColonneTableau> colonnesCategories() {
+    std::vector<ColonneTableau> colonnes = colonnesCombinaison();
+    ColonneTableau& sortis = colonnes.front();
+    sortis.indice = u"Bons numéros, et la chance"_s + FinIndice;
+    sortis.alignement = Qt::AlignLeft;
+    sortis.etalon = u"5 + 00"_s;
+    for (const std::size_t maximum : {std::size_t{5}, std::size_t{7}})
+        colonnes[maximum].etalon = u"0000  (000 00/00/0000)"_s;
+    return colonnes;
+}
+
 CelluleTableau celluleRatio(const Cellule& ratio, bool barre) {
     CelluleTableau cellule{ratio, {}, -1, {}};
     if (barre) cellule.barre = static_cast<int>(ratio.cle);

@@ -52,9 +52,15 @@ void DelegueTableau::paint(QPainter* peintre, const QStyleOptionViewItem& option
         p.setPen(encre);
         p.setFont(index.data(Qt::FontRole).value<QFont>());
         const auto cadrage = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-        p.drawText(option.rect.adjusted(MargeCellule, 0, -MargeCellule, 0),
-                   static_cast<int>(cadrage) | Qt::TextSingleLine,
-                   index.data(Qt::DisplayRole).toString());
+        const QRect aire = option.rect.adjusted(MargeCellule, 0, -MargeCellule, 0);
+        QRect ecrit;
+        p.drawText(aire, static_cast<int>(cadrage) | Qt::TextSingleLine,
+                   index.data(Qt::DisplayRole).toString(), &ecrit);
+        if (!cellule.image.isNull()) {
+            QRect image = aire;
+            image.setLeft(ecrit.right() + 1);
+            cellule.image.paint(&p, image.adjusted(0, 2, 0, -2), Qt::AlignLeft | Qt::AlignVCenter);
+        }
     }
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         p.setPen(QPen(palette.color(QPalette::Highlight), 2));

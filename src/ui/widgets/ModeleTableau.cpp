@@ -132,7 +132,7 @@ QVariant ModeleTableau::data(const QModelIndex& index, int role) const {
         case Qt::StatusTipRole:
             return c.indice.isEmpty() ? QVariant() : c.indice;
         case Qt::AccessibleTextRole:
-            return QString::fromStdString(texte(index));
+            return QString::fromStdString(texte(index)) + (c.image.isNull() ? u""_s : u"chance"_s);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(colonne(index.column()).alignement | Qt::AlignVCenter);
         case Qt::FontRole:

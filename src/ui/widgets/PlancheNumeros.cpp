@@ -40,15 +40,16 @@ std::size_t rang(int place) {
 
 }  // namespace
 
-PlancheNumeros::PlancheNumeros(QWidget* parent) : QFrame(parent) {
-    setObjectName(u"Panel1"_s);
+PlancheNumeros::PlancheNumeros(QWidget* parent, const NomsPlanche& noms) : QFrame(parent) {
+    setObjectName(QString::fromUtf16(noms.planche));
     setAccessibleName(u"Planche des numéros et des chances"_s);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     for (int place = 0; place < NbBoutons; ++place) {
         const bool numero = place < NumeroMax;
         auto* b = new BoutonPlanche(numero ? GenreStats::Numeros : GenreStats::Chances,
                                     numero ? place + 1 : place - NumeroMax + 1, this);
-        b->setObjectName(u"Button%1"_s.arg(place + 1));
+        b->setObjectName(QString::fromUtf16(noms.bouton)
+                             .arg(numero ? noms.numero + place : noms.chance + place - NumeroMax));
         b->installEventFilter(this);
         connect(b, &QAbstractButton::clicked, this,
                 [this, b] { Q_EMIT appui(b->genre(), b->valeur()); });

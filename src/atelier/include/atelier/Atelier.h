@@ -18,7 +18,9 @@
 #include "comb/EtatCombinaisons.h"
 #include "comb/Selection.h"
 #include "lists/Liste.h"
+#include "lists/Tri.h"
 #include "stats/Occurrences.h"
+#include "tickets/CombinaisonsNC.h"
 #include "tickets/SaisieBillets.h"
 
 namespace norvane {
@@ -71,9 +73,11 @@ struct Atelier {
     std::array<Liste, 3> ListeTampon;
     bool GlisserVerrouille = false;  ///< lines cannot be dragged, and a click only selects them
     EtatTri TriVoulu{.TypeTriListe = TypeTri::Simple};  ///< that new main lists take; Sans: none
+    TriEcartAvance triEcartAvance;  ///< switched off by a change of the interval
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
     int TirageActif = -1;           ///< record on show on the page of results, -1 for none
 
@@ -108,6 +112,7 @@ struct Atelier {
 
     /// Any but QuelleListe::Aucune.
     Liste& liste(QuelleListe laquelle);
+    const Liste& liste(QuelleListe laquelle) const;
 
     /// Saves the base to norvane.db when it differs from what was loaded or last saved, or when
     /// there is no such file yet. Does nothing while the base in memory is a filtered one; refuses

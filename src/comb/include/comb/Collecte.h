@@ -6,20 +6,15 @@
 
 #include <vector>
 
-#include "base/Travail.h"
 #include "comb/Puits.h"
 
 namespace norvane {
 
-class Collecte : public PuitsMuet {
+class Collecte : public PuitsProgres {
  public:
     std::vector<Mot> mots;  ///< the records, allocated exactly to size where it is told beforehand
     std::vector<Combinaison> lignes;
-    Progres* progres = nullptr;  ///< told the gauge
 
-    void SetProgress(int valeur) override {
-        if (progres != nullptr) progres->poser(valeur);
-    }
     void AddLine(std::span<const Combinaison> nouvelles) override {
         lignes.insert(lignes.end(), nouvelles.begin(), nouvelles.end());
     }

@@ -72,13 +72,16 @@ struct Disposition {
     ModeStockage mode;
     FormeGains gains{};
 
-    /// 1, one block for each rank of gain and one for the first rank whether it wins or not, or one
-    /// block for each count of good numbers 0..taille.
-    int blocs() const;
+    /// Bit k: a record has a block for k good numbers. The first rank alone; the ranks of gain, and
+    /// the first rank whether it wins or not; or 0..taille. Blocks stand from few to many.
+    unsigned rangs() const;
+    int blocs() const { return std::popcount(rangs()); }
+    /// First word of the block for `bons` good numbers, which must be one of rangs().
+    int bloc(int bons) const;
     /// Words of a record.
     int mots() const { return MotsParBloc * blocs() + taille; }
     /// First word of the first-rank block: block 0, the last block, or block min(taille, 5).
-    int premierRang() const;
+    int premierRang() const { return bloc(BonsPremierRang(taille)); }
     /// First of the number words.
     int numeros() const { return MotsParBloc * blocs(); }
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <span>
 
+#include "base/Travail.h"
 #include "comb/Combinaison.h"
 #include "comb/Enregistrement.h"
 
@@ -39,6 +40,17 @@ class PuitsMuet : public Puits {
     void AddLine(std::span<const Combinaison> /*lignes*/) override {}
     void AddRecord(std::span<const Mot> /*mots*/) override {}
     void SetStatusProgress(int /*valeur*/) override {}
+};
+
+/// Hands gauge and status bar on to whoever polls a progress.
+class PuitsProgres : public PuitsMuet {
+ public:
+    Progres* progres = nullptr;  ///< null: nobody looks
+
+    void SetProgress(int valeur) override {
+        if (progres != nullptr) progres->poser(valeur);
+    }
+    void SetStatusProgress(int valeur) override { SetProgress(valeur); }
 };
 
 }  // namespace norvane

@@ -52,8 +52,9 @@ struct Liste {
     EtatTri tri;
     Division division;
     bool partielle = false;   ///< its search was stopped
+    bool melangee = false;    ///< stopped on the way to its interval: some records are of another
     std::uint64_t total = 0;  ///< combinations found where only the first were kept; else 0
-    std::optional<double> secondes{};  ///< that its search took, where it comes from one
+    std::optional<double> secondes{};  ///< that the last work on it took, where it comes from one
 
     int taille() const { return arene.disposition.taille; }
     ModeStockage mode() const { return arene.disposition.mode; }
@@ -85,9 +86,6 @@ using LignesChoisies = std::span<const std::size_t>;
 /// A list of extremes from its lines: records that hold the count alone, in their order.
 Liste ListeDeCombinaisons(int taille, std::span<const Combinaison> lignes);
 
-/// NbCombRangs from the records.
-void CompterRangs(Liste& liste);
-
 /// Whether lines of `source` may go to `cible`: an empty list takes any, another one those of its
 /// own size, mode of storage and interval.
 bool Compatibles(const Liste& source, const Liste& cible);
@@ -111,6 +109,12 @@ Transfert Deplacer(Liste& source, LignesChoisies lignes, Liste& cible);
 void Supprimer(Liste& liste, LignesChoisies lignes);
 /// Keeps the first `n` lines, as they stand.
 void Couper(Liste& liste, std::size_t n);
+/// Drops the records (not the lines) that are not kept; the other lines stay in their order.
+void Garder(Liste& liste, const std::vector<bool>& enregistrements);
+/// Counts NbCombRangs anew, from the records.
+void CompterRangs(Liste& liste);
+/// The record of each line, written out.
+std::vector<std::uint32_t> OrdreDesLignes(const Liste& liste);
 /// No record, no size, no interval.
 void Vider(Liste& liste);
 

@@ -4,21 +4,16 @@
 // A sink that puts the records of a search by bounds straight into a list.
 #pragma once
 
-#include "base/Travail.h"
 #include "comb/Puits.h"
 #include "lists/Liste.h"
 
 namespace norvane {
 
-class PuitsListe : public PuitsMuet {
+class PuitsListe : public PuitsProgres {
  public:
-    Liste liste;                 ///< its disposition: that of the search. After the worker's end
-    Liste avant;                 ///< what it replaces: freed with the first record
-    Progres* progres = nullptr;  ///< told the gauge
+    Liste liste;  ///< its disposition: that of the search. After the worker's end
+    Liste avant;  ///< what it replaces: freed with the first record
 
-    void SetProgress(int valeur) override {
-        if (progres != nullptr) progres->poser(valeur);
-    }
     void AddRecord(std::span<const Mot> mots) override {
         if (!avant.vide()) Vider(avant);
         liste.arene.mots.insert(liste.arene.mots.end(), mots.begin(), mots.end());

@@ -63,4 +63,8 @@ Cellule CelluleDate(int date, std::string_view jamais, int numero);
 /// or nowhere when that lies before the interval, which starts at record `premier` (zero-based).
 Cellule CelluleMaximum(int valeur, int nombre, int position, int premier, int dernierTirage);
 
+/// "12  (02 24/07/2024)": the same with the short date yyyymmdd of that draw, to which it leads. A
+/// `date` of 0: the position lies before the interval, "12  (02)" is all, and it leads nowhere.
+Cellule CelluleMaximumDate(int valeur, int nombre, int position, int date);
+
 }  // namespace norvane

@@ -19,6 +19,7 @@
 #include "stats/TableauStats.h"
 #include "tickets/Billets.h"
 #include "tickets/GrillesHasard.h"
+#include "tickets/Refus.h"
 #include "tickets/Verification.h"
 
 namespace norvane {
@@ -37,16 +38,6 @@ enum class EtapeJoker : std::uint8_t { Compte, Numeros, Date };
 
 /// What the end of the entry of grids leads to, were it asked now.
 enum class SuiteSaisie : std::uint8_t { ModeNormal, NumerosJoker, DateParticipation };
-
-/// Why an event was refused, as a box tells it. The state is as it was.
-struct Refus {
-    enum class Titre : std::uint8_t { Attention, Avertissement, Message };
-    Titre titre = Titre::Attention;
-    std::string phrase;
-    std::string detail;  ///< second paragraph; most have none
-};
-/// Nothing when the event went through.
-using Reponse = std::optional<Refus>;
 
 /// The ticket on show as its card tells it.
 struct CarteGrille {
@@ -190,6 +181,16 @@ class SaisieBillets {
     Reponse peutCopier() const;
     /// Appends to the stock as far as it has room, and shows it in consultation.
     Copie CopierversBulletins(std::span<const Grille> grilles);
+    /// Before a single grid goes to the stock by itself: during an entry, or with the stock full.
+    Reponse peutAjouterAuStock() const;
+    /// Puts it behind the stock, which is then the list worked on; a consultation goes on with it.
+    /// Nothing happens where peutAjouterAuStock() refuses.
+    void ajouterAuStock(const Grille& grille);
+    /// Place in the stock, one-based, of the first grid of these numbers and chances, in whatever
+    /// order and at whatever stake; 0 for none.
+    int placeDansStock(const Grille& grille) const;
+    /// The stock in consultation, on the grid nearest to `numero`; nothing during an entry.
+    void consulterStock(int numero);
     /// Before RedigerVerification.
     Reponse peutVerifier(bool avecTirage) const;
     /// The draw of the receipt's date was proposed, whatever the answer.

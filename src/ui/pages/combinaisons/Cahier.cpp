@@ -53,7 +53,7 @@ QWidget* Cahier::creerTampons(Contexte& ctx) {
 }
 
 QList<QWidget*> Cahier::ordreTabulation() const {
-    return tri_->ordreTabulation() + tampons_->ordreTabulation();
+    return selections_->ordreTabulation() + tri_->ordreTabulation() + tampons_->ordreTabulation();
 }
 
 }  // namespace norvane::ui

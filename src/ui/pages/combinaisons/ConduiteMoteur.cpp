@@ -165,7 +165,8 @@ void ConduiteMoteur::continuer(const Travail& travail, const FinTraitement& fin)
         case GenreTravail::Bornes:
             return apresListe(fin.message.empty());
         case GenreTravail::Adaptation:
-            return trier();
+            trier();
+            return contexte_.relais.aller(VersListe{});
         case GenreTravail::Tri:
             Q_EMIT reordonnee();
             break;

@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "combinaisons/Cahier.h"
+#include "combinaisons/CommandesIntervalle.h"
 #include "combinaisons/ConduiteMoteur.h"
 #include "combinaisons/DetailsListe.h"
 #include "combinaisons/LegendeLignes.h"
@@ -17,6 +18,7 @@
 #include "combinaisons/PanneauCombinaison.h"
 #include "combinaisons/PanneauDivision.h"
 #include "combinaisons/PanneauListe.h"
+#include "combinaisons/PanneauSelections.h"
 #include "combinaisons/PanneauTailles.h"
 #include "combinaisons/PanneauTampons.h"
 #include "combinaisons/PanneauTri.h"
@@ -41,7 +43,9 @@ constexpr int TailleCouranteMax = NbBoules;
 }  // namespace
 
 PageCombinaisons::PageCombinaisons(Contexte& ctx, QWidget* parent)
-    : Page(ctx, u"Varo3"_s, u"Combinaisons N"_s, parent), moteur_(ctx.atelier) {
+    : Page(ctx, u"Varo3"_s, u"Combinaisons N"_s, parent),
+      moteur_(ctx.atelier),
+      commandesIntervalle_(new CommandesIntervalle(ctx, moteur_, this)) {
     construire();
     relier();
     poserOrdreTabulation();
@@ -90,6 +94,14 @@ void PageCombinaisons::relier() {
     connect(tailles_, &PanneauTailles::stockageChoisi, this, &PageCombinaisons::RadioGroup1Click);
     connect(tailles_, &PanneauTailles::tailleCliquee, this, &PageCombinaisons::CombSearchClick);
     connect(tailles_, &PanneauTailles::bornesChoisies, this, &PageCombinaisons::colorer);
+    connect(tailles_, &PanneauTailles::intervalleDemande, commandesIntervalle_,
+            &CommandesIntervalle::BitBtnWithColor4Click);
+    connect(tailles_, &PanneauTailles::seriesDemandees, commandesIntervalle_,
+            &CommandesIntervalle::CheckBoxSeriesClick);
+    connect(&cahier_->selections(), &PanneauSelections::statistiquesDemandees, combinaison_,
+            &PanneauCombinaison::montrer);
+    connect(commandesIntervalle_, &CommandesIntervalle::adaptationDemandee, conduite_,
+            &ConduiteMoteur::adapterListe);
     connect(combinaison_, &PanneauCombinaison::positionDemandee, this,
             &PageCombinaisons::ButtonPositionClick);
     const auto montrer = [this](const Combinaison& c) { combinaison_->montrer(c.numeros); };
@@ -171,6 +183,7 @@ void PageCombinaisons::ButtonPositionClick() {
 
 bool PageCombinaisons::ouvrir(const Destination& destination) {
     if (!std::holds_alternative<VersListe>(destination)) return false;
+    cahier_->selections().fermerListe();
     if (contexte.atelier.modeListe == ModeListe::Extremes) {
         ComboBox1Change(ModeListe::Bornes);
     } else {
@@ -188,7 +201,10 @@ void PageCombinaisons::surChange(const Changement& changement) {
     }
     if (changement.intervalle) suivreIntervalle();
     if (changement.listes) suivreMode();
-    if (changement.intervalle || changement.listes) suivreBornes();
+    if (changement.intervalle || changement.listes) {
+        suivreBornes();
+        cahier_->selections().suivre();
+    }
 }
 
 void PageCombinaisons::suivreBase() {
@@ -197,6 +213,7 @@ void PageCombinaisons::suivreBase() {
     suivreIntervalle();
     suivreMode();
     suivreBornes();
+    cahier_->selections().suivre();
 }
 
 void PageCombinaisons::suivreIntervalle() {
@@ -209,6 +226,7 @@ void PageCombinaisons::suivreMode() {
     tailles_->montrerMode(a.modeListe);
     tailles_->montrerStockage(a.modeStockage);
     tailles_->montrerEcartAvance(a.triEcartAvance.actif ? a.triEcartAvance.taille : 0);
+    tailles_->montrerSeries(a.series);
     cahier_->montrerMode(a.modeListe);
     liste_->poserInvite(QString::fromUtf16(Invites[static_cast<std::size_t>(a.modeListe)]));
     const bool manipulation = a.modeListe == ModeListe::Manipulation;

@@ -14,6 +14,7 @@ class QPushButton;
 namespace norvane::ui {
 
 class Cahier;
+class CommandesIntervalle;
 class ConduiteMoteur;
 class ManipulationListes;
 class PanneauCombinaison;
@@ -58,6 +59,7 @@ class PageCombinaisons final : public Page {
     void AfficherListe();
 
     Moteur moteur_;
+    CommandesIntervalle* commandesIntervalle_;
     PanneauTailles* tailles_ = nullptr;
     PanneauListe* liste_ = nullptr;
     QPushButton* details_ = nullptr;

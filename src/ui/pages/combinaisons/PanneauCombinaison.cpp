@@ -8,11 +8,13 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "combinaisons/TableauCombinaison.h"
+#include "comb/StatsCombinaison.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "stats/TableauStats.h"
+#include "widgets/ColonnesStats.h"
 #include "widgets/Fiche.h"
+#include "widgets/TableauCombinaison.h"
 #include "widgets/VueTableau.h"
 
 namespace norvane::ui {
@@ -23,7 +25,9 @@ PanneauCombinaison::PanneauCombinaison(Contexte& ctx, const NomsCombinaison& nom
     : QWidget(parent),
       contexte_(ctx),
       libelle_(creerLibelle(noms.libelle)),
-      table_(new TableauCombinaison(QString::fromUtf16(noms.table), ctx.Echelle, this)),
+      // Room for the six rows of the larger sizes from the start.
+      table_(new TableauCombinaison(QString::fromUtf16(noms.table), colonnesCombinaison(),
+                                    NbBoules + 1, ctx.Echelle, this)),
       tirages_(legende({}, this)),
       barres_(new QCheckBox(u"Ratio graphique"_s, this)),
       boutonPosition_(bouton(QString::fromUtf16(noms.position), u"&Position"_s,
@@ -83,7 +87,7 @@ void PanneauCombinaison::rafraichir() {
     const Atelier& a = contexte_.atelier;
     const NumerosTries numeros(numeros_);
     libelle_->setText(versQt(LibelleCombinaison(numeros)));
-    table_->montrer(StatsCombinaison(a.base, a.occurrences, numeros, inf_, sup_),
+    table_->montrer(lignesTableau(StatsCombinaison(a.base, a.occurrences, numeros, inf_, sup_)),
                     barres_->isChecked());
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
@@ -62,6 +63,7 @@ PanneauTailles::PanneauTailles(QWidget* parent)
     pile->addSpacing(Unite);
     pile->addLayout(creerTailles(), 4);
     pile->addStretch(1);
+    pile->addLayout(creerIntervalle());
     pile->addWidget(creerStockage());
     pile->addWidget(jauge_);
     pile->addWidget(temps_);
@@ -131,11 +133,29 @@ QLabel* PanneauTailles::creerMarque(int taille) {
     return marque;
 }
 
+QVBoxLayout* PanneauTailles::creerIntervalle() {
+    series_ = new QCheckBox(u"Mode Séries"_s, this);
+    series_->setObjectName(u"CheckBoxSeries"_s);
+    connect(series_, &QCheckBox::clicked, this, &PanneauTailles::seriesDemandees);
+    intervalle_ = new QPushButton(u"Sélectionner un &Intervalle"_s, this);
+    intervalle_->setObjectName(u"BitBtnWithColor4"_s);
+    intervalle_->setMinimumHeight(intervalle_->fontMetrics().height() + 2 * Unite);
+    poserIndice(intervalle_, u"Choisir les tirages sur lesquels portent les combinaisons"_s);
+    connect(intervalle_, &QPushButton::clicked, this, &PanneauTailles::intervalleDemande);
+    auto* pile = new QVBoxLayout;
+    pile->setSpacing(Unite);
+    pile->addWidget(series_);
+    pile->addWidget(intervalle_);
+    return pile;
+}
+
 QGroupBox* PanneauTailles::creerStockage() {
     auto* groupe = new QGroupBox(u"Stocker en mémoire :"_s, this);
     groupe->setObjectName(u"RadioGroup1"_s);
-    auto* pile = new QVBoxLayout(groupe);
-    pile->setSpacing(Unite / 2);
+    auto* grille = new QGridLayout(groupe);
+    // As narrow as the sizes above.
+    grille->setContentsMargins(Unite, Unite, Unite, Unite);
+    grille->setSpacing(Unite / 2);
     stockage_ = new QButtonGroup(groupe);
     for (const ItemStockage& item : ItemsStockage) {
         const auto id = static_cast<int>(&item - ItemsStockage.data());
@@ -145,7 +165,7 @@ QGroupBox* PanneauTailles::creerStockage() {
                     u"Rangs gardés pour chaque combinaison de la prochaine liste selon les "
                     u"bornes"_s);
         stockage_->addButton(choix, id);
-        pile->addWidget(choix);
+        grille->addWidget(choix, id / 2, id % 2);
     }
     connect(stockage_, &QButtonGroup::idClicked, this, [this](int id) {
         Q_EMIT stockageChoisi(ItemsStockage.at(static_cast<std::size_t>(id)).mode);
@@ -173,6 +193,12 @@ void PanneauTailles::montrerStockage(ModeStockage mode) {
     stockage_->button(static_cast<int>(item - ItemsStockage.begin()))->setChecked(true);
 }
 
+void PanneauTailles::montrerSeries(bool series) {
+    series_->setChecked(series);
+    poserIndice(series_, series ? u"Retour au calcul de toutes les combinaisons"_s
+                                : u"Passer au calcul des séries"_s);
+}
+
 void PanneauTailles::montrerRecherche(int taille) {
     for (LigneBornes* bornes : lignes_) bornes->montrerArret(bornes->taille() == taille);
     modeListe_->setEnabled(taille == 0);
@@ -189,6 +215,7 @@ QList<QWidget*> PanneauTailles::ordreTabulation() const {
     for (const LigneBornes* bornes : lignes_) {
         ordre << bornes->bouton << bornes->inf.edit << bornes->sup.edit;
     }
+    ordre << series_ << intervalle_;
     for (QAbstractButton* choix : stockage_->buttons()) ordre << choix;
     return ordre;
 }

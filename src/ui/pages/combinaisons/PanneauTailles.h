@@ -12,11 +12,14 @@
 #include "atelier/Moteur.h"
 
 class QButtonGroup;
+class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QProgressBar;
+class QPushButton;
+class QVBoxLayout;
 
 namespace norvane::ui {
 
@@ -40,6 +43,7 @@ class PanneauTailles final : public QWidget {
     void suivreBornes(const BornesTailles& bornes);
     void montrerMode(ModeListe mode);
     void montrerStockage(ModeStockage mode);
+    void montrerSeries(bool series);
     /// The size whose search runs, 0 for none.
     void montrerRecherche(int taille);
     /// The size that the advanced sort by gap waits for, 0 for none.
@@ -57,6 +61,8 @@ class PanneauTailles final : public QWidget {
     void bornesChoisies();
     void modeChoisi(norvane::ModeListe mode);
     void stockageChoisi(norvane::ModeStockage mode);
+    void intervalleDemande();
+    void seriesDemandees();
 
  protected:
     void changeEvent(QEvent* evenement) override;
@@ -65,11 +71,14 @@ class PanneauTailles final : public QWidget {
     QLabel* creerMarque(int taille);
     QComboBox* creerModes();
     QGridLayout* creerTailles();
+    QVBoxLayout* creerIntervalle();
     QGroupBox* creerStockage();
 
     std::array<LigneBornes*, NbTailles> lignes_{};
     std::array<QLabel*, NbTailles> marques_{};  ///< "TEA", of the sizes from 4 on
     QComboBox* modeListe_;
+    QCheckBox* series_ = nullptr;
+    QPushButton* intervalle_ = nullptr;
     QButtonGroup* stockage_ = nullptr;
     QProgressBar* jauge_;
     QLabel* temps_;

@@ -8,7 +8,7 @@
 
 #include "base/Fichiers.h"
 #include "common/Contexte.h"
-#include "resultats/Refus.h"
+#include "common/Refus.h"
 #include "tickets/Bilan.h"
 #include "tickets/Verification.h"
 

@@ -8,7 +8,7 @@
 #include "base/Dates.h"
 #include "common/Contexte.h"
 #include "common/Enregistrement.h"
-#include "resultats/Refus.h"
+#include "common/Refus.h"
 #include "tickets/FichiersGrilles.h"
 
 namespace norvane::ui {
@@ -345,6 +345,11 @@ void CommandesBillets::CopierversBulletins(std::span<const Grille> grilles) {
     if (contexte_.refuserSiOccupe() || !accepte(saisie_.peutCopier())) return;
     const Copie copie = saisie_.CopierversBulletins(grilles);
     messages().MessageInfo(versQt(copie.phrase()), u"Message"_s);
+    annoncer();
+}
+
+void CommandesBillets::consulterStock(int numero) {
+    saisie_.consulterStock(numero);
     annoncer();
 }
 

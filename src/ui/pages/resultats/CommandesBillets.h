@@ -52,6 +52,7 @@ class CommandesBillets final : public QObject {
     void ButtonSauverGrillesClick();
     void ChargerGrillesClick();
     void CopierversBulletins(std::span<const Grille> grilles);
+    void consulterStock(int numero);
 
  Q_SIGNALS:
     /// The ticket in hand, or what is told of it; the lists are as they were.

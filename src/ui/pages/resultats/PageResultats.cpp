@@ -142,6 +142,12 @@ bool PageResultats::ouvrir(const Destination& destination) {
         if (voulu->appuyer) appuyer(*voulu->appuyer);
         return true;
     }
+    if (const auto* grille = std::get_if<VersGrille>(&destination)) {
+        quitterChoix();
+        tirage_->montrerTirage(grille->tirage);
+        billets_->consulterStock(grille->grille);
+        return true;
+    }
     if (const auto* tickets = std::get_if<VersTickets>(&destination)) {
         quitterChoix();
         billets_->CopierversBulletins(tickets->grilles);

@@ -37,11 +37,19 @@ struct VersTickets {
     friend bool operator==(const VersTickets&, const VersTickets&) = default;
 };
 
+/// The stock of grids in consultation, and the draw that a grid of it is looked at on.
+struct VersGrille {
+    int grille;  ///< one-based place in the stock
+    int tirage;  ///< one-based
+
+    friend bool operator==(const VersGrille&, const VersGrille&) = default;
+};
+
 /// The page "Combinaisons N" on the list in memory, which has changed.
 struct VersListe {
     friend bool operator==(const VersListe&, const VersListe&) = default;
 };
 
-using Destination = std::variant<VersTirage, VersHistorique, VersTickets, VersListe>;
+using Destination = std::variant<VersTirage, VersHistorique, VersTickets, VersGrille, VersListe>;
 
 }  // namespace norvane::ui

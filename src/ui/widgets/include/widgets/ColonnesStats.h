@@ -19,6 +19,9 @@ std::vector<ColonneTableau> colonnesStats(GenreStats genre);
 
 /// The eight columns of the table of a combination.
 std::vector<ColonneTableau> colonnesCombinaison();
+/// The same for a ticket of numbers and chances: its first column has room for a Chance behind the
+/// count, and the maxima tell dates.
+std::vector<ColonneTableau> colonnesCategories();
 
 /// The ratio of a row as its text, or as a bar.
 CelluleTableau celluleRatio(const Cellule& ratio, bool barre);

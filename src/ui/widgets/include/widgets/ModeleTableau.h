@@ -45,11 +45,19 @@ struct CelluleTableau : Cellule {
     QString indice;            ///< tool tip and status tip, may be empty
     int degrade = -1;          ///< index into the table's gradients, -1 for the ordinary colours
     std::optional<int> barre;  ///< drawn as a bar of this length, 0..BarreMax, in place of the text
+    QIcon image{};             ///< a Chance, drawn behind the text
 };
 using LigneTableau = std::vector<CelluleTableau>;  ///< as many cells as there are columns
 
 /// A row of plain cells.
 LigneTableau ligneTableau(std::span<const Cellule> cellules);
+/// Rows of plain cells, of whatever holds them as `cellules`.
+template <typename Lignes>
+std::vector<LigneTableau> lignesTableau(const Lignes& lignes) {
+    std::vector<LigneTableau> rangees;
+    for (const auto& ligne : lignes) rangees.push_back(ligneTableau(ligne.cellules));
+    return rangees;
+}
 
 inline constexpr int BarreMax = 10000;
 

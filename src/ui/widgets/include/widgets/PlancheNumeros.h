@@ -21,11 +21,20 @@ constexpr int placeDe(GenreStats genre, int valeur) {
     return genre == GenreStats::Numeros ? valeur - 1 : NumeroMax + valeur - 1;
 }
 
+/// Object names of one board: its own, and that of its buttons, whose numbers begin at `numero` for
+/// the number 1 and at `chance` for the Chance 1.
+struct NomsPlanche {
+    const char16_t* planche;
+    const char16_t* bouton;
+    int numero, chance;
+};
+inline constexpr NomsPlanche PlancheResultats{u"Panel1", u"Button%1", 1, 50};
+
 class PlancheNumeros final : public QFrame {
     Q_OBJECT
 
  public:
-    explicit PlancheNumeros(QWidget* parent = nullptr);
+    explicit PlancheNumeros(QWidget* parent = nullptr, const NomsPlanche& noms = PlancheResultats);
 
     /// Lights these tiles, and holds these down: only tiles that differ are touched.
     void eclairer(const Cases& allumees);

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The table of a combination's statistics: one row for each count of good numbers.
+// The table of the draws of an interval by what was found in them, of a combination or of a ticket.
 #pragma once
 
 #include <QObject>
 #include <vector>
 
-#include "comb/StatsCombinaison.h"
+#include "stats/LigneSortis.h"
+#include "widgets/ModeleTableau.h"
 
 class QModelIndex;
 
@@ -19,12 +20,14 @@ class TableauCombinaison final : public QObject {
     Q_OBJECT
 
  public:
-    TableauCombinaison(const QString& nom, double echelle, QWidget* parent);
+    /// Room for so many rows, however many there are.
+    TableauCombinaison(const QString& nom, std::vector<ColonneTableau> colonnes, int lignes,
+                       double echelle, QWidget* parent);
 
     VueTableau* const vue;
 
-    /// The ratio as a bar or as its text.
-    void montrer(const std::vector<LigneStatsCombinaison>& lignes, bool barres);
+    /// Rows of NbColonnesSortis cells; the ratio as a bar or as its text.
+    void montrer(std::vector<LigneTableau> lignes, bool barres);
 
  Q_SIGNALS:
     /// A double click on a cell that speaks of a draw (one-based).

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "combinaisons/TableauCombinaison.h"
+#include "widgets/TableauCombinaison.h"
 
 #include "common/Contexte.h"
 #include "widgets/ColonnesStats.h"
@@ -16,8 +16,9 @@ constexpr int Sortis = 0;  // columns
 constexpr std::size_t Ratio = 2;
 }  // namespace
 
-TableauCombinaison::TableauCombinaison(const QString& nom, double echelle, QWidget* parent)
-    : QObject(parent), vue(new VueTableau(colonnesCombinaison(), 1, echelle, parent)) {
+TableauCombinaison::TableauCombinaison(const QString& nom, std::vector<ColonneTableau> colonnes,
+                                       int lignes, double echelle, QWidget* parent)
+    : QObject(parent), vue(new VueTableau(std::move(colonnes), 1, echelle, parent)) {
     vue->setObjectName(nom);
     vue->setAccessibleName(u"Statistiques de la combinaison choisie"_s);
     poserIndice(vue,
@@ -25,19 +26,13 @@ TableauCombinaison::TableauCombinaison(const QString& nom, double echelle, QWidg
                 u"le tirage correspondant"_s);
     vue->modele().poserTriDepart({Sortis, false});
     vue->poserBulle([this](const QModelIndex& i) { return bulleRatio(*vue, i); });
-    // Room for the six rows of the larger sizes from the start.
-    vue->reserverLignes(NbBoules + 1);
+    vue->reserverLignes(lignes);
     connect(vue, &VueTableau::celluleActivee, this, &TableauCombinaison::activer);
 }
 
-void TableauCombinaison::montrer(const std::vector<LigneStatsCombinaison>& lignes, bool barres) {
-    std::vector<LigneTableau> rangees;
-    rangees.reserve(lignes.size());
-    for (const LigneStatsCombinaison& ligne : lignes) {
-        rangees.push_back(ligneTableau(ligne.cellules));
-        rangees.back()[Ratio] = celluleRatio(ligne.cellules[Ratio], barres);
-    }
-    vue->remplir(std::move(rangees));
+void TableauCombinaison::montrer(std::vector<LigneTableau> lignes, bool barres) {
+    for (LigneTableau& ligne : lignes) ligne[Ratio] = celluleRatio(ligne[Ratio], barres);
+    vue->remplir(std::move(lignes));
 }
 
 void TableauCombinaison::activer(const QModelIndex& index) {

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// A refusal of the state machine of tickets, told in its box.
+// A refusal on tickets, told in its box.
 #pragma once
 
 #include "common/Messages.h"
-#include "tickets/SaisieBillets.h"
+#include "tickets/Refus.h"
 
 namespace norvane::ui {
 

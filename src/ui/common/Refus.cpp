@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "resultats/Refus.h"
+#include "common/Refus.h"
 
 #include "common/Contexte.h"
 
