@@ -9,15 +9,18 @@
 #include "atelier/Moteur.h"
 #include "pages/Page.h"
 
+class QPushButton;
+
 namespace norvane::ui {
 
-class Alerte;
 class Cahier;
 class CommandesIntervalle;
+class ConduiteMoteur;
+class ManipulationListes;
 class PanneauCombinaison;
+class PanneauDivision;
 class PanneauListe;
 class PanneauTailles;
-class PanneauTri;
 
 class PageCombinaisons final : public Page {
     Q_OBJECT
@@ -30,6 +33,7 @@ class PageCombinaisons final : public Page {
     void premierAffichage() override;
     void surChange(const Changement& changement) override;
     void surDepart() override;
+    bool ouvrir(const Destination& destination) override;
 
     Moteur& moteur() { return moteur_; }
 
@@ -44,18 +48,13 @@ class PageCombinaisons final : public Page {
     void CombSearchClick(int taille);
     void ButtonPositionClick();
 
-    // Searches.
-    void lancer(const QString& texte, ReponseClic reponse);
-    void TraitementTermine(Travail& travail);
-    void direFin(int taille, const FinTraitement& fin);
-    /// The size whose search runs, 0 for none.
-    int recherche() const;
-
     // The controls follow the state.
     void suivreBase();
     void suivreIntervalle();
     void suivreMode();
     void suivreBornes();
+    void suivreListes();
+    void suivreTravail();
     void colorer();
     void AfficherListe();
 
@@ -63,10 +62,12 @@ class PageCombinaisons final : public Page {
     CommandesIntervalle* commandesIntervalle_;
     PanneauTailles* tailles_ = nullptr;
     PanneauListe* liste_ = nullptr;
-    PanneauTri* tri_ = nullptr;
+    QPushButton* details_ = nullptr;
+    PanneauDivision* division_ = nullptr;
     PanneauCombinaison* combinaison_ = nullptr;
     Cahier* cahier_ = nullptr;
-    Alerte* alerte_ = nullptr;
+    ConduiteMoteur* conduite_ = nullptr;
+    ManipulationListes* manipulation_ = nullptr;
 };
 
 }  // namespace norvane::ui
