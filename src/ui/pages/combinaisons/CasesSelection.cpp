@@ -127,7 +127,7 @@ CasesSelection::CasesSelection(QWidget* parent)
 
 QSize CasesSelection::minimumSizeHint() const {
     const int h = fontMetrics().height();
-    return {Colonnes * 2 * h, Rangees * (h + Unite)};
+    return {Colonnes * 5 * h / 3, Rangees * (h + Unite)};
 }
 
 QSize CasesSelection::sizeHint() const {

@@ -51,6 +51,8 @@ QPushButton* commande(const QString& nom, const QString& libelle, const QString&
                       QWidget* parent) {
     auto* b = new QPushButton(libelle, parent);
     b->setObjectName(nom);
+    // The style would have each as wide as a dialog's; many stand side by side here.
+    b->setMinimumWidth(b->fontMetrics().size(Qt::TextShowMnemonic, libelle).width() + 3 * Unite);
     poserIndice(b, indice);
     return b;
 }
@@ -101,7 +103,8 @@ void PanneauSelections::creerBoutons() {
         return commande(QString::fromUtf16(nom), QString::fromUtf16(libelle),
                         QString::fromUtf16(indice), this);
     };
-    selectionner_ = creer(u"ButtonSelect", u"&Sélectionner", u"");
+    // As wide as the longer of its two captions.
+    selectionner_ = creer(u"ButtonSelect", u"Valider votre sélection", u"");
     vider_ = creer(u"ButtonDecocher", u"&Vider", u"Décocher tous les numéros");
     tirage_ = creer(u"BitBtnWithColor14", u"Tirage",
                     u"Cocher les numéros du tirage actif dans l'onglet Résultats");
