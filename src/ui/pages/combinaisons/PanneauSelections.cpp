@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "combinaisons/BoutonEtroit.h"
 #include "combinaisons/CasesSelection.h"
 #include "combinaisons/CommandesSelection.h"
 #include "combinaisons/SelectionsPanel.h"
@@ -45,16 +46,6 @@ QLabel* pastille(Priorite priorite, QWidget* parent) {
     p.drawRoundedRect(image.rect(), 3, 3);
     etiquette->setPixmap(image);
     return etiquette;
-}
-
-QPushButton* commande(const QString& nom, const QString& libelle, const QString& indice,
-                      QWidget* parent) {
-    auto* b = new QPushButton(libelle, parent);
-    b->setObjectName(nom);
-    // The style would have each as wide as a dialog's; many stand side by side here.
-    b->setMinimumWidth(b->fontMetrics().size(Qt::TextShowMnemonic, libelle).width() + 3 * Unite);
-    poserIndice(b, indice);
-    return b;
 }
 
 }  // namespace
@@ -100,8 +91,8 @@ QSpinBox* PanneauSelections::creerNombre(const char16_t* nom, const QString& ind
 void PanneauSelections::creerBoutons() {
     const auto creer = [this](const char16_t* nom, const char16_t* libelle,
                               const char16_t* indice) {
-        return commande(QString::fromUtf16(nom), QString::fromUtf16(libelle),
-                        QString::fromUtf16(indice), this);
+        return boutonEtroit(QString::fromUtf16(nom), QString::fromUtf16(libelle),
+                            QString::fromUtf16(indice), this);
     };
     // As wide as the longer of its two captions.
     selectionner_ = creer(u"ButtonSelect", u"Valider votre sélection", u"");
