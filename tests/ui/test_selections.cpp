@@ -84,7 +84,8 @@ class TestSelections : public EssaisQt {
             QTest::keyClick(e.cases, Qt::Key_Space);
             QCOMPARE(e.comptes(), attendu);
         }
-        QTest::keyClicks(e.cases, u"12 "_s);  // reached by its digits
+        QApplication::setKeyboardInputInterval(60000);  // a slow machine types slowly
+        QTest::keyClicks(e.cases, u"12 "_s);            // reached by its digits
         QTest::keyClick(e.cases, Qt::Key_Down);
         QTest::keyClicks(e.cases, u"  "_s);
         QVERIFY(e.a.saisieSelection.grille[21] == Priorite::Secondaire);

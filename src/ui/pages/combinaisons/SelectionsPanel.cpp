@@ -51,7 +51,7 @@ SelectionsPanel::SelectionsPanel(Contexte& ctx, CommandesSelection& commandes, Q
     // In the lower left of the window: what a line is shown in stands on its right.
     const QSize taille(parent->width() * 45 / 100, 24 * fontMetrics().height());
     resize(taille.expandedTo(minimumSizeHint()));
-    move(parent->mapToGlobal(QPoint(2 * Unite, parent->height() - height())));
+    move(parent->mapToGlobal(QPoint(2 * Unite, parent->height() - height() - 6 * Unite)));
 
     connect(liste_, &QListWidget::currentRowChanged, this, &SelectionsPanel::montrerLigne);
     // A line that is the active one already can be asked for again.
