@@ -65,6 +65,7 @@ Resultat<Rien> ChangerIntervalle(Atelier& atelier, int debut, int fin) {
     if (auto juste = VerifierIntervalle(atelier.base, debut, fin); !juste) return juste;
     ChangerIntervalle(atelier.base, occ, debut, fin);
     Vider(atelier.ListeExtremes);
+    atelier.triEcartAvance.actif = false;
     RevaliderSelection(atelier);
     if (atelier.intervalleEntier() && !atelier.series) return atelier.relireEtat();
     atelier.combinaisons = EtatNeutre(atelier.tailleIntervalle(), atelier.series);
