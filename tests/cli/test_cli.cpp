@@ -279,12 +279,73 @@ TEST_F(Cli, FichiersDeListesEtDeSelections) {
     refuse(std::string("liste lire a.lst"), "prend 13 valeurs, et 8 avec les gains actuels");
     refuse(std::string("liste lire quatre.csv"), "n'est pas une archive ZIP");
 
+    std::filesystem::remove(dossier / "NORVANE.INI");
+    for (const Args& bornes : {Args{"3", "2", "9", "--stockage", "1"},
+                               Args{"2", "0", "9", "--absolue", "20 7"}, Args{"2", "5", "9"}}) {
+        Args args{"--base", "quatre.csv", "--de", "2", "comb", "bornes"};
+        args.insert(args.end(), bornes.begin(), bornes.end());
+        const std::string affichee = lancer(args).out;
+        args.insert(args.end(), {"--sortie", "b.lst"});
+        const Sortie ecrite = lancer(args);
+        EXPECT_EQ(ecrite.statut, StatutFait) << ecrite.err;
+        EXPECT_EQ(ecrite.out, "");
+        const std::string relue = lancer("liste lire b.lst").out;
+        EXPECT_EQ(relue.substr(relue.find('\n') + 1), affichee);
+        EXPECT_EQ(relue.substr(0, relue.find('\n')),
+                  std::to_string(std::count(affichee.begin(), affichee.end(), '\n')) + '\t' +
+                      bornes[0] + (bornes[0] == "3" ? "\t1\t2\t4" : "\t0\t2\t4"));
+    }
+    refuse(std::string("comb bornes 3 2 9 --compter --sortie b.lst"), "ne vont pas ensemble");
+    refuse(std::string("comb bornes 3 2 9 --sortie absent/b.lst"), "absent/b.lst");
+
     std::string texte = "2 1 0 2 2";
     for (int n = 5; n < 49; ++n) texte += " 0";
     poser(dossier / "a.slt", texte + " 1");
     EXPECT_EQ(lancer("selection lire a.slt").out, "absolue\t01 49\nsecondaire\t03 04\n");
     poser(dossier / "b.slt", texte);
     refuse(std::string("selection lire b.slt"), "s'arrête après 49");
+}
+
+TEST_F(Cli, MarquesDesBulletins) {
+    poser(
+        dossier / "a.grl", "7\n" + [] {
+            std::string grilles;
+            for (int g = 0; g < 6; ++g) grilles += "2.2 5 3 14 25 31 44 1 7\n";
+            return grilles + "3 5 1 2 3 4 5 1 10\n";
+        }());
+    const std::string second =
+        "bulletin\tgrille\tbloc\tvaleur\tx_mm\ty_mm\tcote_mm\n"
+        "2\t1\tnumero\t1\t7.775\t16.475\t0.650\n2\t1\tnumero\t2\t11.575\t16.475\t0.650\n"
+        "2\t1\tnumero\t3\t15.375\t16.475\t0.650\n2\t1\tnumero\t4\t19.175\t16.475\t0.650\n"
+        "2\t1\tnumero\t5\t22.975\t16.475\t0.650\n2\t1\tchance\t10\t21.075\t60.575\t0.650\n"
+        "2\t1\t2nd\t1\t22.975\t12.575\t0.650\n";
+    EXPECT_EQ(lancer("bulletins a.grl --du 2 --marque 1").out, second);
+    poser(dossier / "a.bul", "2\n-1 -1 -1 -1 -1 -1\n2 3 -1 1 -1 -1\n");
+    EXPECT_EQ(lancer("bulletins a.grl --du 2 --au 2 --marque 1").out,
+              second +
+                  "2\t0\tsemaines\t2\t10.975\t144.975\t0.650\n"
+                  "2\t0\tjoker1\t2\t20.975\t156.975\t0.650\n"
+                  "2\t0\tjoker1\t3\t30.975\t156.975\t0.650\n"
+                  "2\t0\tjour\t1\t10.975\t132.975\t0.650\n");
+    poser(dossier / "NORVANE.INI",
+          "[CONFIGURATION]\nDecalageImprimanteBordHaut=40\n"
+          "DecalageImprimanteBordGauche=1.5\n");
+    poser(dossier / "bulletin.ini", "[CASE]\ncote=0\n");
+    const Sortie decalee = lancer("bulletins a.grl --du 2");
+    EXPECT_EQ(decalee.statut, StatutFait);
+    EXPECT_NE(decalee.out.find("2\t0\tjour\t1\t12.150\t172.650\t1.300\n"), std::string::npos);
+    EXPECT_NE(decalee.err.find("La géométrie intégrée est employée"), std::string::npos);
+    EXPECT_NE(decalee.err.find("2 marques tomberaient hors du papier"), std::string::npos);
+    poser(dossier / "vide.grl", "0\n");
+    const std::pair<const char*, const char*> refus[] = {
+        {"bulletins vide.grl", "aucune grille"},
+        {"bulletins a.grl --du 3", "--du va de 1 à 2, pas 3"},
+        {"bulletins a.grl --au 0", "--au va de 1 à 2, pas 0"},
+        {"bulletins a.grl --du 2 --au 1", "Bulletins croisés"},
+        {"bulletins a.grl --marque 5", "--marque va de 1 à 4, pas 5"}};
+    for (const auto& [ligne, dit] : refus) refuse(std::string(ligne), dit);
+    poser(dossier / "a.bul", "2\n");
+    refuse(std::string("bulletins a.grl"), "a.bul");
 }
 
 TEST_F(Cli, SortieQuiEchoue) {

@@ -22,9 +22,10 @@ Resultat<Rien> VerifierIntervalle(const Base& base, int debut, int fin);
 bool IntervallePeutChanger(const Moteur& moteur, const Atelier& atelier);
 
 /// The engine works over these draws from now on: occurrences, bounds (of the file for the whole
-/// base, else to be computed), selection; the extremes go and the advanced sort by gap is off. Lists
-/// and list mode stay the caller's. Does nothing when the interval is in force. An interval of no draw is refused, and
-/// nothing changed; any other error is that of Atelier::relireEtat, and all else is done.
+/// base, else to be computed), selection; the extremes go and the advanced sort by gap is switched
+/// off. The other lists and the list mode stay: they are the caller's to see to. Does nothing when
+/// the interval is in force. An interval of no draw is refused, and nothing changed; any other
+/// error is that of Atelier::relireEtat, and all else is done.
 Resultat<Rien> ChangerIntervalle(Atelier& atelier, int debut, int fin);
 
 /// Only series from now on, without a selection: the bounds and the grid of before are set aside,
