@@ -12,6 +12,9 @@
 #include "comb/StatsCombinaison.h"
 #include "comb/VaroFonc2.h"
 #include "Commandes.h"
+#include "Enregistrements.h"
+#include "lists/FichiersListes.h"
+#include "lists/PuitsListe.h"
 #include "Options.h"
 
 namespace norvane {
@@ -68,30 +71,31 @@ class CollecteMontree : public Collecte {
     const int max_;
 };
 
+/// Hands on the progress of a search by bounds.
+template <typename Puits>
+class Montre : public Puits {
+ public:
+    template <typename... Arguments>
+    explicit Montre(std::function<void(int)> avance, Arguments&&... arguments)
+        : Puits(std::forward<Arguments>(arguments)...), avance_(std::move(avance)) {}
+    void SetProgress(int valeur) override { avance_(valeur); }
+
+ private:
+    const std::function<void(int)> avance_;
+};
+
 /// Writes the records as they come.
 class Ecriture : public PuitsMuet {
  public:
-    Ecriture(std::ostream& out, Disposition disposition, std::function<void(int)> avance)
-        : out_(out), disposition_(disposition), avance_(std::move(avance)) {}
+    Ecriture(std::ostream& out, Disposition disposition) : out_(out), disposition_(disposition) {}
 
-    void SetProgress(int valeur) override { avance_(valeur); }
     void AddRecord(std::span<const Mot> mots) override {
-        const auto pas = static_cast<std::size_t>(disposition_.mots());
-        const auto debut = static_cast<std::size_t>(disposition_.numeros());
-        texte_.clear();
-        for (; !mots.empty(); mots = mots.subspan(pas)) {
-            const auto fin = std::back_inserter(texte_);
-            fmt::format_to(fin, "{:02}\t", fmt::join(mots.subspan(debut, pas - debut), " "));
-            fmt::format_to(fin, "{}\n", fmt::join(mots.first(debut), " "));
-        }
-        out_ << texte_;
+        EcrireEnregistrements(out_, disposition_, mots);
     }
 
  private:
     std::ostream& out_;
     const Disposition disposition_;
-    const std::function<void(int)> avance_;
-    std::string texte_;
 };
 
 }  // namespace
@@ -143,6 +147,8 @@ CommandeCombBornes::CommandeCombBornes(CLI::App& comb)
     AjouterEntier(app, "--max", max_, "Au plus N combinaisons, les premières");
     app.add_flag("--compter", compter_, "Le nombre de combinaisons seulement")
         ->disable_flag_override();
+    app.add_option("--sortie", sortie_, "Fichier *.lst où écrire la liste, au lieu de l'afficher")
+        ->type_name("FICHIER");
     app.add_option("--absolue", absolue_, "Numéros de la sélection, en priorité absolue")
         ->type_name("\"N N ...\"");
     app.add_option("--secondaire", secondaire_, "Numéros de la sélection, en priorité secondaire")
@@ -162,6 +168,8 @@ Resultat<CommandeCombBornes::Demande> CommandeCombBornes::verifier() const {
     if (stockage < 0 || stockage > 2)
         return Erreur{fmt::format("--stockage {} n'existe pas : choisissez 0, 1 ou 2.", stockage)};
     if (max_ && *max_ < 1) return Erreur{fmt::format("--max {} doit être au moins 1.", *max_)};
+    if (compter_ && sortie_)
+        return Erreur{"--compter et --sortie ne vont pas ensemble : choisissez l'un des deux."};
     if (series_ && (absolue_ || secondaire_))
         return Erreur{"Pas de sélections de numéros en mode séries..."};
 
@@ -199,21 +207,37 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
     ContexteComb c = atelier.contexte(series_, demande->mode);
     c.gains = FormeGains::de(
         Configuration(contexte.repertoire / NomConfiguration).reglages.GainsNominaux);
-    const int jauge = std::max(JaugeBornes(c, demande->taille), 1);
-    Ecriture ecriture(contexte.sortie, {demande->taille, demande->mode, c.gains},
-                      [&](int valeur) { contexte.progression.montrer(valeur, jauge); });
-    const auto fil = CreerRechercheBornes(c, ecriture, demande->taille, demande->inf, demande->sup);
+    const Disposition disposition{demande->taille, demande->mode, c.gains};
+    const auto avance = [&, jauge = std::max(JaugeBornes(c, demande->taille), 1)](int valeur) {
+        contexte.progression.montrer(valeur, jauge);
+    };
+    if (sortie_) {
+        Montre<PuitsListe> puits(avance);
+        puits.liste.arene.disposition = disposition;
+        puits.liste.DebutListe = c.IntervalleInf;
+        puits.liste.FinListe = c.IntervalleSup;
+        if (const auto mene = chercher(c, *demande, puits); !mene) return Erreur{mene.erreur()};
+        return SauverListe(puits.liste, contexte.repertoire / *sortie_);
+    }
+    Montre<Ecriture> ecriture(avance, contexte.sortie, disposition);
+    const auto nombre = chercher(c, *demande, ecriture);
+    if (!nombre) return Erreur{nombre.erreur()};
+    if (compter_) fmt::print(out, "{}\n", *nombre);
+    return Rien{};
+}
+
+Resultat<std::uint64_t> CommandeCombBornes::chercher(const ContexteComb& c, const Demande& demande,
+                                                     Puits& puits) const {
+    const auto fil = CreerRechercheBornes(c, puits, demande.taille, demande.inf, demande.sup);
     if (!fil) {
-        const Arene unique = CombinaisonUnique(c, demande->inf, demande->sup);
-        compter_ ? fmt::print(out, "{}\n", unique.nombre()) : ecriture.AddRecord(unique.mots);
-        return Rien{};
+        const Arene unique = CombinaisonUnique(c, demande.inf, demande.sup);
+        if (!compter_) puits.AddRecord(unique.mots);
+        return std::uint64_t{unique.nombre()};
     }
     fil->compterSeulement = compter_;
     fil->limite = static_cast<std::uint64_t>(max_.value_or(0));
-    auto mene = Mener(*fil);
-    if (!mene) return mene;
-    if (compter_) fmt::print(out, "{}\n", fil->nombre());
-    return Rien{};
+    if (const auto mene = Mener(*fil); !mene) return Erreur{mene.erreur()};
+    return fil->nombre();
 }
 
 CommandeCombStats::CommandeCombStats(CLI::App& comb)

@@ -4,6 +4,7 @@
 
 #include "CommandeAnalyses.h"
 #include "CommandeBulletins.h"
+#include "CommandeHistorique.h"
 #include "CommandeListe.h"
 #include "CommandeSystemes.h"
 
@@ -45,6 +46,10 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
     commandes.push_back(std::make_unique<CommandeBulletins>(racine));
     commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
+    CLI::App& historique =
+        Groupe(racine, "historique", "Les tirages de l'intervalle où un numéro ou une chance sort");
+    for (const GenreStats genre : {GenreStats::Numeros, GenreStats::Chances})
+        commandes.push_back(std::make_unique<CommandeHistorique>(historique, genre));
     CLI::App& systemes = Groupe(racine, "systemes", "Systèmes réducteurs");
     commandes.push_back(std::make_unique<CommandeSystemesCatalogue>(systemes));
     commandes.push_back(std::make_unique<CommandeSystemesGenerer>(systemes));

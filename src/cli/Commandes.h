@@ -5,6 +5,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
 #include <iosfwd>
 #include <memory>
 #include <optional>
@@ -15,6 +16,9 @@
 #include "Contexte.h"
 
 namespace norvane {
+
+struct ContexteComb;
+class Puits;
 
 /// One command: it declares its words, options and help, then runs when the line names it.
 class Commande {
@@ -78,9 +82,12 @@ class CommandeCombBornes : public Commande {
  private:
     struct Demande;
     Resultat<Demande> verifier() const;
+    /// Gives the records to the sink, or only counts them; how many there are.
+    Resultat<std::uint64_t> chercher(const ContexteComb& c, const Demande& demande,
+                                     Puits& puits) const;
 
     std::optional<long> taille_, inf_, sup_, stockage_, max_;
-    std::optional<std::string> absolue_, secondaire_;
+    std::optional<std::string> absolue_, secondaire_, sortie_;
     bool series_ = false;
     bool compter_ = false;
 };

@@ -39,8 +39,9 @@ ListesParRang TrierParRang(const Occurrences& occ, std::span<const Mot> numeros,
 
 LigneStatsCombinaison FaireLigne(const Base& base, const ListeOccurrences& liste, int bons, int inf,
                                  int sup) {
-    LigneStatsCombinaison ligne{
-        FaireLigneSortis(base, CelluleEntier(bons), liste, inf, sup, PlaceMaximum::Tirage)};
+    LigneStatsCombinaison ligne{FaireLigneSortis(base,
+                                                 {std::to_string(bons), bons, RangTable{bons}},
+                                                 liste, inf, sup, PlaceMaximum::Tirage)};
     ligne.bons = bons;
     ligne.ratioGraphique = static_cast<int>(CelluleRatio(ligne.NbFois, sup - inf + 1).cle);
     return ligne;

@@ -72,9 +72,6 @@ Resultat<GrilleSelection> OuvrirSelection(const fs::path& fichier) {
         return Refus(fichier, fmt::format("{} numéros en priorité absolue sont annoncés, et {} "
                                           "cochés",
                                           annonces, absolus));
-    if (absolus == 0 && Nombre(grille, Priorite::Secondaire) > 0)
-        return Refus(fichier,
-                     "des numéros y ont la priorité secondaire et aucun la priorité absolue");
     return grille;
 }
 

@@ -11,6 +11,11 @@
 
 namespace norvane {
 
+void SelectionSysteme::retirer(int n) {
+    base_.retirer(n);
+    numeros_.retirer(n);
+}
+
 bool SelectionSysteme::avancer(int n) {
     switch (etat(n)) {
         case 0:
@@ -21,10 +26,26 @@ bool SelectionSysteme::avancer(int n) {
             base_.ajouter(n);
             return true;
         default:
-            base_.retirer(n);
-            numeros_.retirer(n);
+            retirer(n);
             return true;
     }
+}
+
+SelectionSysteme SelectionDeGrille(const GrilleSelection& grille) {
+    Ensemble numeros, base;
+    for (int n = 1; n <= NumeroMax; ++n) {
+        const Priorite priorite = grille.at(static_cast<std::size_t>(n - 1));
+        if (priorite != Priorite::Aucune) numeros.ajouter(n);
+        if (priorite == Priorite::Absolue) base.ajouter(n);
+    }
+    return {numeros, base.taille() <= BaseSystemeMax ? base : Ensemble()};
+}
+
+GrilleSelection GrilleDeSelection(const SelectionSysteme& selection) {
+    GrilleSelection grille{};
+    for (int n = 1; n <= NumeroMax; ++n)
+        grille.at(static_cast<std::size_t>(n - 1)) = static_cast<Priorite>(selection.etat(n));
+    return grille;
 }
 
 SelectionSysteme SelectionAuHasard(const SystemeDisponible& systeme, GenerateurHasard& hasard) {

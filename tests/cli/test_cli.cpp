@@ -279,6 +279,25 @@ TEST_F(Cli, FichiersDeListesEtDeSelections) {
     refuse(std::string("liste lire a.lst"), "prend 13 valeurs, et 8 avec les gains actuels");
     refuse(std::string("liste lire quatre.csv"), "n'est pas une archive ZIP");
 
+    std::filesystem::remove(dossier / "NORVANE.INI");
+    for (const Args& bornes : {Args{"3", "2", "9", "--stockage", "1"},
+                               Args{"2", "0", "9", "--absolue", "20 7"}, Args{"2", "5", "9"}}) {
+        Args args{"--base", "quatre.csv", "--de", "2", "comb", "bornes"};
+        args.insert(args.end(), bornes.begin(), bornes.end());
+        const std::string affichee = lancer(args).out;
+        args.insert(args.end(), {"--sortie", "b.lst"});
+        const Sortie ecrite = lancer(args);
+        EXPECT_EQ(ecrite.statut, StatutFait) << ecrite.err;
+        EXPECT_EQ(ecrite.out, "");
+        const std::string relue = lancer("liste lire b.lst").out;
+        EXPECT_EQ(relue.substr(relue.find('\n') + 1), affichee);
+        EXPECT_EQ(relue.substr(0, relue.find('\n')),
+                  std::to_string(std::count(affichee.begin(), affichee.end(), '\n')) + '\t' +
+                      bornes[0] + (bornes[0] == "3" ? "\t1\t2\t4" : "\t0\t2\t4"));
+    }
+    refuse(std::string("comb bornes 3 2 9 --compter --sortie b.lst"), "ne vont pas ensemble");
+    refuse(std::string("comb bornes 3 2 9 --sortie absent/b.lst"), "absent/b.lst");
+
     std::string texte = "2 1 0 2 2";
     for (int n = 5; n < 49; ++n) texte += " 0";
     poser(dossier / "a.slt", texte + " 1");

@@ -240,7 +240,6 @@ TEST(FichiersSelections, Grille) {
         {"50 " + corps, "la valeur 1 (« 50 ») n'est pas un entier de 0 à 49"},
         {"2 un" + corps.substr(1), "« un »"},
         {"3 " + corps, "3 numéros en priorité absolue sont annoncés, et 2 cochés"},
-        {"0 0" + corps.substr(1, corps.size() - 2) + "2", "la priorité secondaire et aucun"},
     };
     for (const auto& [contenu, dit] : cas) {
         poser(dossier / "b.slt", contenu);

@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
+#include "base/Fichiers.h"
 #include "BasesEssai.h"
+#include "LectureArchives.h"
 #include "OracleStats.h"
 #include "stats/ExportTableau.h"
 #include "stats/Noyau.h"
@@ -271,40 +276,136 @@ TEST_F(Tableau, IndicesDesBoutons) {
     for (const auto& indice : IndicesBoutons(occ, -1, allume)) EXPECT_EQ(indice, "");
 }
 
-const TableauExporte Exemple = {{"Statistiques sur 2 tirages", "le <3> & le 5"},
-                                {"Num", "Élément", "EM"},
-                                {true, false, true},
-                                {{"7", "août; \"dit\"", "9,85"},
-                                 {"20", "deux\nlignes"},
-                                 {"1", "12  (02 0045)", "0,25", "x<y"}}};
+const TableauExporte Exemple = {
+    {"Statistiques sur 2 tirages", "le <3> & le 5"},
+    {{"Num", true, NatureColonne::Entier},
+     {"Élément", false},
+     {"EM", true, NatureColonne::Centiemes},
+     {"Ratio", true, NatureColonne::Pourcents},
+     {"Date", true, NatureColonne::Date}},
+    {{{"7", 7}, {"août; \"dit\""}, {"9,85", 985}, {"07,35% ", 735}, {"03/10/2022", 20221003}},
+     {{"", 0}, {"deux\nlignes"}, {"0,00", 0}, {"00,00% ", 0}, {"jamais", 0}},
+     {{"12", 12}, {"12  (02 0045)"}, {"0,25", 25}, {"99,99% ", 9999}, {"19/05/1976", 19760519}}}};
 
 TEST(ExportTableau, TexteCsvEtHtml) {
     EXPECT_EQ(EnTexte(Exemple),
               "Statistiques sur 2 tirages\n"
               "le <3> & le 5\n"
               "\n"
-              "Num  Élément          EM\n"
-              "---  -------------  ----  ---\n"
-              "  7  août; \"dit\"    9,85\n"
-              " 20  deux lignes\n"
-              "  1  12  (02 0045)  0,25  x<y\n");
+              "Num  Élément          EM    Ratio        Date\n"
+              "---  -------------  ----  -------  ----------\n"
+              "  7  août; \"dit\"    9,85  07,35%   03/10/2022\n"
+              "     deux lignes    0,00  00,00%       jamais\n"
+              " 12  12  (02 0045)  0,25  99,99%   19/05/1976\n");
     EXPECT_EQ(EnCsv(Exemple),
-              "\xEF\xBB\xBFStatistiques sur 2 tirages;;;\r\n"
-              "le <3> & le 5;;;\r\n"
-              ";;;\r\n"
-              "Num;Élément;EM;\r\n"
-              "7;\"août; \"\"dit\"\"\";9,85;\r\n"
-              "20;\"deux\nlignes\";;\r\n"
-              "1;12  (02 0045);0,25;x<y\r\n");
+              "\xEF\xBB\xBFStatistiques sur 2 tirages;;;;\r\n"
+              "le <3> & le 5;;;;\r\n"
+              ";;;;\r\n"
+              "Num;Élément;EM;Ratio;Date\r\n"
+              "7;\"août; \"\"dit\"\"\";9,85;07,35% ;03/10/2022\r\n"
+              ";\"deux\nlignes\";0,00;00,00% ;jamais\r\n"
+              "12;12  (02 0045);0,25;99,99% ;19/05/1976\r\n");
     const std::string page = EnHtml(Exemple);
     for (const char* morceau :
          {"<title>Statistiques sur 2 tirages le &lt;3&gt; &amp; le 5</title>",
-          "<p>Statistiques sur 2 tirages<br>le &lt;3&gt; &amp; le 5</p>",
-          "<thead>\n<tr><th align=\"right\">Num</th><th>Élément</th><th align=\"right\">EM</th>"
-          "<th></th></tr>\n</thead>",
+          "<body>\n<center><b>Statistiques sur 2 tirages<BR><BR> </b></center>\n"
+          "<center><b>le &lt;3&gt; &amp; le 5<BR><BR> </b></center>\n<table>",
+          "<thead>\n<tr><th align=\"right\">Num</th><th>Élément</th><th align=\"right\">EM</th>",
           "<td>août; &quot;dit&quot;</td>", "<td>deux<br>lignes</td>",
-          "<td>12 &#160;(02 0045)</td>", "<td>x&lt;y</td></tr>\n</tbody>"})
+          "<td>12 &#160;(02 0045)</td>", "19/05/1976</td></tr>\n</tbody>"})
         EXPECT_NE(page.find(morceau), page.npos) << morceau << "\nnot in\n" << page;
+    EXPECT_NE(EnHtml(Exemple, TeteHtml::Paragraphe)
+                  .find("<p>Statistiques sur 2 tirages<br>le &lt;3&gt; &amp; le 5</p>\n<table>"),
+              page.npos);
+}
+
+TEST(ExportTableau, Classeur) {
+    const auto octets = EnXlsx(Exemple);
+    ASSERT_TRUE(octets);
+    EXPECT_EQ(CellulesXlsx(*octets), (std::vector<std::string>{"A1=Statistiques sur 2 tirages",
+                                                               "A2=le &lt;3&gt; &amp; le 5",
+                                                               "A4=Num",
+                                                               "B4=Élément",
+                                                               "C4=EM",
+                                                               "D4=Ratio",
+                                                               "E4=Date",
+                                                               "A5=7 0",
+                                                               "B5=août; \"dit\"",
+                                                               "C5=9.85 0.00",
+                                                               "D5=0.0735 0.00%",
+                                                               "E5=44837 dd/mm/yyyy",
+                                                               "B6=deux\nlignes",
+                                                               "C6=0 0.00",
+                                                               "D6=0 0.00%",
+                                                               "E6=jamais",
+                                                               "A7=12 0",
+                                                               "B7=12  (02 0045)",
+                                                               "C7=0.25 0.00",
+                                                               "D7=0.9999 0.00%",
+                                                               "E7=27899 dd/mm/yyyy"}));
+    const std::string feuille = Membres(*octets)["xl/worksheets/sheet1.xml"];
+    for (const char* morceau : {"topLeftCell=\"A5\"", "<autoFilter ref=\"A4:E7\"/>"})
+        EXPECT_NE(feuille.find(morceau), feuille.npos) << morceau;
+}
+
+/// No room for the library's temporary files, nor for ours: told, and the file of before stays.
+TEST(ExportTableau, ClasseurSansPlace) {
+    SurvivreAuxLimitesDeTaille();
+    rlimit avant{};
+    getrlimit(RLIMIT_FSIZE, &avant);
+    const rlimit nul{0, avant.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &nul);
+    const auto octets = Exporter(Exemple, FormatTableau::Xlsx);
+    setrlimit(RLIMIT_FSIZE, &avant);
+    ASSERT_FALSE(octets);
+    EXPECT_NE(octets.erreur().find("faites de la place"), std::string::npos);
+}
+
+TEST(ExportTableau, DocumentTexte) {
+    const auto octets = EnOpenDocument(Exemple);
+    ASSERT_TRUE(octets);
+    // What tells the kind of the file stands first, at a fixed place.
+    EXPECT_EQ(octets->substr(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text");
+    EXPECT_EQ(ParagraphesOdt(*octets), (std::vector<std::string>{"Statistiques sur 2 tirages",
+                                                                 "le &lt;3&gt; &amp; le 5",
+                                                                 "Num",
+                                                                 "Élément",
+                                                                 "EM",
+                                                                 "Ratio",
+                                                                 "Date",
+                                                                 "7",
+                                                                 "août; &quot;dit&quot;",
+                                                                 "9,85",
+                                                                 "07,35% ",
+                                                                 "03/10/2022",
+                                                                 "",
+                                                                 "deux|lignes",
+                                                                 "0,00",
+                                                                 "00,00% ",
+                                                                 "jamais",
+                                                                 "12",
+                                                                 "12 |(02 0045)",
+                                                                 "0,25",
+                                                                 "99,99% ",
+                                                                 "19/05/1976"}));
+    const std::string contenu = Membres(*octets)["content.xml"];
+    EXPECT_EQ(Trouves(contenu, "(<table:table-column )").size(), 5U);
+    EXPECT_EQ(Trouves(contenu, "(<table:table-row>)").size(), 4U);
+}
+
+/// Every part of both kinds of archives is XML to another program.
+TEST(ExportTableau, XmlBienForme) {
+    if (std::system("xmllint --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "xmllint is missing";
+    for (const FormatTableau format : {FormatTableau::OpenDocument, FormatTableau::Xlsx}) {
+        const auto membres = Membres(*Exporter(Exemple, format));
+        EXPECT_GE(membres.size(), 4U);
+        for (const auto& [nom, contenu] : membres) {
+            if (nom == "mimetype") continue;
+            FILE* lecteur = popen("xmllint --noout - 2>&1", "w");
+            std::fwrite(contenu.data(), 1, contenu.size(), lecteur);
+            EXPECT_EQ(pclose(lecteur), 0) << nom;
+        }
+    }
 }
 
 }  // namespace

@@ -86,8 +86,9 @@ class TestCoque final : public EssaisQt {
         };
         relais->aller(VersHistorique{Element{GenreStats::Chances, 3}, 20, 300});
         QCOMPARE(onglets->currentWidget()->objectName(), u"Varo6"_s);
-        QCOMPARE(onglets->currentWidget()->findChild<QLabel*>(u"Detail"_s)->text(),
-                 u"Historique demandé : chance 3, tirages 20 à 300."_s);
+        QVERIFY(f.de<QLabel>("TitreHistorique")
+                    ->text()
+                    .startsWith(u"Historique de la chance 3, tirages 20 ("_s));
         relais->aller(VersTirage{1234, {}});
         QVERIFY(onglets->currentIndex() == 0 && enfonces().isEmpty());
         QCOMPARE(numero->text(), u"1234"_s);

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "common/Enregistrement.h"
+#include "LectureArchives.h"
 #include "soutien/EssaiStats.h"
 #include "stats/ExportTableau.h"
 #include "stats/TableauStats.h"
@@ -28,23 +29,34 @@ class TestStatsSorties final : public EssaisQt {
         std::stable_sort(lignes.begin(), lignes.end(), [](const auto& a, const auto& b) {
             return a.cellules[E].cle < b.cellules[E].cle;
         });
-        TableauExporte attendu{
-            {"Statistiques sur les chances"},
-            {"Pos", "Chance", "NbS", "Ratio", "Date", "E", "EM", "Ecart max", "S", "Suite max"},
-            {true, true, true, true, false, true, true, true, true, true},
-            {}};
+        TableauExporte attendu{{"Statistiques sur les chances"},
+                               {{"Pos", true, NatureColonne::Entier},
+                                {"Chance", true, NatureColonne::Entier},
+                                {"NbS", true, NatureColonne::Entier},
+                                {"Ratio", true, NatureColonne::Pourcents},
+                                {"Date", false, NatureColonne::Date},
+                                {"E", true, NatureColonne::Entier},
+                                {"EM", true, NatureColonne::Centiemes},
+                                {"Ecart max"},
+                                {"S", true, NatureColonne::Entier},
+                                {"Suite max"}},
+                               {}};
         for (const QString& l : o.libelle().split(u'\n')) attendu.titre.push_back(l.toStdString());
         for (const auto& ligne : lignes) {
-            std::vector<std::string> textes{std::to_string(attendu.lignes.size() + 1)};
+            const auto place = static_cast<std::int64_t>(attendu.lignes.size()) + 1;
+            std::vector<CelluleExportee> cellules{{std::to_string(place), place}};
             for (std::size_t c = 1; c < NbColonnesStats; ++c)
-                textes.push_back(ligne.cellules[c].texte);
-            attendu.lignes.push_back(std::move(textes));
+                cellules.push_back({ligne.cellules[c].texte, ligne.cellules[c].cle});
+            attendu.lignes.push_back(std::move(cellules));
         }
         auto& fichiers = *o.banc.scripts.fichiers;
         fichiers.filtre = u"Format CSV (*.csv)"_s;
         fichiers.reponse = versQt(o.banc.chemin("essai").string());
         o.cliquer("BitBtnWithColor17");
         QCOMPARE(o.banc.lire("essai.csv"), EnCsv(attendu));
+        fichiers.filtre = u"Format Excel (*.xlsx)"_s;
+        o.cliquer("BitBtnWithColor17");
+        QVERIFY(CellulesXlsx(o.banc.lire("essai.xlsx")) == CellulesXlsx(*EnXlsx(attendu)));
         fichiers.filtre = u"Format Texte (*.txt)"_s;
         o.cliquer("BitBtnWithColor17");
         const std::string texte = EnTexte(attendu);
@@ -68,7 +80,7 @@ class TestStatsSorties final : public EssaisQt {
 
     void nomsCompletes() {
         const std::vector<FormatFichier> formats{{u"Texte (*.txt)"_s, u"txt"_s},
-                                                 {u"CSV (*.csv)"_s, u"csv"_s}};
+                                                 {u"CSV (*.csv)"_s, u"csv"_s, u"tsv"_s}};
         const struct {
             const char16_t* nom;
             const char16_t* complet;
@@ -78,6 +90,7 @@ class TestStatsSorties final : public EssaisQt {
                     {u"/a/mes.notes", u"/a/mes.notes.csv", 1},
                     {u"/a.txt/b", u"/a.txt/b.csv", 1},
                     {u"b.TXT", u"b.txt", 0},
+                    {u"b.Tsv", u"b.tsv", 1},
                     {u"b.txt.csv", u"b.txt.csv", 1}};
         for (const auto& [nom, complet, attendu] : noms) {
             std::size_t format = 9;

@@ -25,9 +25,11 @@ QString filtresDe(const std::vector<FormatFichier>& formats) {
 QString nomComplet(const QString& nom, const std::vector<FormatFichier>& formats,
                    std::size_t defaut, std::size_t& format) {
     for (format = 0; format < formats.size(); ++format) {
-        const QString suffixe = u'.' + formats[format].suffixe;
-        if (nom.endsWith(suffixe, Qt::CaseInsensitive)) {
-            return nom.chopped(suffixe.size()) + suffixe;
+        for (const QString& permis : {formats[format].suffixe, formats[format].autreSuffixe}) {
+            const QString suffixe = u'.' + permis;
+            if (!permis.isEmpty() && nom.endsWith(suffixe, Qt::CaseInsensitive)) {
+                return nom.chopped(suffixe.size()) + suffixe;
+            }
         }
     }
     format = defaut;

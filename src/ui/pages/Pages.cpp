@@ -5,10 +5,14 @@
 
 #include <array>
 
+#include "analyses/PageAnalyses.h"
 #include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
+#include "graphes/PageGraphes.h"
+#include "historiques/PageHistoriques.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
+#include "systemes/PageSystemes.h"
 
 namespace norvane::ui {
 
@@ -29,29 +33,14 @@ constexpr std::array<Fabrique, 10> Fabriques = {
                               u"leurs sorties par catégorie de gain et leurs filtres."_s,
                               p);
     },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo4"_s, u"Analyses N"_s,
-                              u"Cette page donnera le rapport d'analyses des tirages d'un "
-                              u"intervalle, à parcourir, à imprimer et à enregistrer."_s,
-                              p);
-    },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo5"_s, u"Graphes"_s,
-                              u"Cette page donnera les graphes des sorties, écarts et suites des "
-                              u"numéros et des chances."_s,
-                              p);
-    },
-    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriquesAVenir(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageAnalyses(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },
     [](Contexte& c, QWidget* p) -> Page* {
         return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
                               u"Cette page imprimera vos grilles sur les bulletins de jeu."_s, p);
     },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo10"_s, u"Systèmes réducteurs"_s,
-                              u"Cette page réduira une sélection de numéros à un système dont la "
-                              u"garantie est prouvée."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageSystemes(c, p); },
 };
 
 }  // namespace

@@ -33,8 +33,9 @@ QFont Bulle::policeTitre() const {
 QSize Bulle::sizeHint() const {
     const QFontMetrics gras(policeTitre());
     const QFontMetrics maigre(font());
-    return {std::max(gras.horizontalAdvance(titre_), maigre.horizontalAdvance(texte_)) + 2 * Marge,
-            gras.height() + maigre.height() + Unite / 2 + 2 * Unite + Fleche};
+    const QSize texte = maigre.size(0, texte_);  // of all its lines
+    return {std::max(gras.horizontalAdvance(titre_), texte.width()) + 2 * Marge,
+            gras.height() + texte.height() + Unite / 2 + 2 * Unite + Fleche};
 }
 
 void Bulle::montrer(const QString& titre, const QString& texte, const QRect& cible) {

@@ -30,7 +30,19 @@ ColonneTableau chiffres(const QString& entete, const QString& sens, double large
     c.largeur = largeur;
     c.alignement = Qt::AlignRight;
     c.etalon = etalon;
+    c.nature = NatureColonne::Entier;
     return c;
+}
+
+ColonneTableau valeurs(NatureColonne nature, const QString& entete, const QString& sens,
+                       double largeur, const QString& etalon) {
+    ColonneTableau c = chiffres(entete, sens, largeur, etalon);
+    c.nature = nature;
+    return c;
+}
+
+ColonneTableau ratio() {
+    return valeurs(NatureColonne::Pourcents, u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s);
 }
 
 ColonneTableau date() {
@@ -40,6 +52,7 @@ ColonneTableau date() {
     c.largeur = LargeurDate;
     c.alignement = Qt::AlignLeft;
     c.adaptable = false;
+    c.nature = NatureColonne::Date;
     return c;
 }
 
@@ -56,6 +69,7 @@ std::vector<ColonneTableau> colonnesStats(GenreStats genre) {
     pos.police = PolicePosition;
     pos.position = true;
     pos.etalon = u"49"_s;
+    pos.nature = NatureColonne::Entier;
 
     ColonneTableau num = chiffres(numeros ? u"Num"_s : u"Chance"_s,
                                   numeros ? u"Numéros"_s : u"Chances"_s, 34, u"49"_s);
@@ -64,19 +78,17 @@ std::vector<ColonneTableau> colonnesStats(GenreStats genre) {
     num.gras = true;
     if (!numeros) num.image = imageChance();
 
-    ColonneTableau ratio = chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s);
-    ColonneTableau ecartMax = chiffres(u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s);
-    ColonneTableau suiteMax = chiffres(u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s);
+    using enum NatureColonne;
     return {pos,
             num,
             chiffres(u"NbS"_s, u"Nombre de Sorties"_s, 34, u"000"_s),
-            ratio,
+            ratio(),
             date(),
             chiffres(u"E"_s, u"Écart"_s, 30, u"0000"_s),
-            chiffres(u"EM"_s, u"Écart Moyen"_s, 38, u"0000,00"_s),
-            ecartMax,
+            valeurs(Centiemes, u"EM"_s, u"Écart Moyen"_s, 38, u"0000,00"_s),
+            valeurs(Texte, u"Ecart max"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
             chiffres(u"S"_s, u"Suite"_s, 24, u"00"_s),
-            suiteMax};
+            valeurs(Texte, u"Suite max"_s, u"Suite Max"_s, 70, u"00  (000 0000)"_s)};
 }
 
 std::vector<ColonneTableau> colonnesCombinaison() {
@@ -88,12 +100,12 @@ std::vector<ColonneTableau> colonnesCombinaison() {
     quand.etalon = u"mercredi 30 septembre 2026"_s;
     return {sortis,
             chiffres(u"Nbfois"_s, u"Nombre de tirages"_s, 44, u"0000"_s),
-            chiffres(u"Ratio"_s, u"Ratio de Sorties"_s, 56, u"00,00% "_s),
+            ratio(),
             quand,
             chiffres(u"Ecart"_s, u"Écart"_s, 40, u"0000"_s),
-            chiffres(u"Ecartmax"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
+            valeurs(NatureColonne::Texte, u"Ecartmax"_s, u"Écart Max"_s, 70, u"0000  (00 0000)"_s),
             chiffres(u"Suite"_s, u"Suite"_s, 36, u"0000"_s),
-            chiffres(u"Suitemax"_s, u"Suite Max"_s, 70, u"0000  (00 0000)"_s)};
+            valeurs(NatureColonne::Texte, u"Suitemax"_s, u"Suite Max"_s, 70, u"0000  (00 0000)"_s)};
 }
 
 std::vector<ColonneTableau> colonnesCategories() {

@@ -16,10 +16,10 @@ namespace {
 constexpr int NiveauBas = 33;
 constexpr int NiveauMoyen = 66;
 
-QColor melange(const QColor& fond, const QColor& teinte, double part) {
-    const auto voie = [part](float a, float b) {
-        return static_cast<float>(a + (b - a) * static_cast<float>(part));
-    };
+constexpr float PartChoix = 0.18F;  // of the selection's colour in a ground
+
+QColor melange(const QColor& fond, const QColor& teinte, float part) {
+    const auto voie = [part](float a, float b) { return a + (b - a) * part; };
     return QColor::fromRgbF(voie(fond.redF(), teinte.redF()), voie(fond.greenF(), teinte.greenF()),
                             voie(fond.blueF(), teinte.blueF()));
 }
@@ -39,11 +39,16 @@ void DelegueTableau::paint(QPainter* peintre, const QStyleOptionViewItem& option
     QColor encre = palette.color(QPalette::Text);
     if (cellule.degrade >= 0) {
         p.fillRect(option.rect, index.data(Qt::BackgroundRole).value<QBrush>());
+        if (choisie && modele_.degrade(cellule.degrade).choixVisible) {
+            QColor voile = palette.color(QPalette::Highlight);
+            voile.setAlphaF(PartChoix);
+            p.fillRect(option.rect, voile);
+        }
         encre = index.data(Qt::ForegroundRole).value<QBrush>().color();
     } else {
         QColor fond =
             palette.color(index.row() % 2 == 0 ? QPalette::Base : QPalette::AlternateBase);
-        if (choisie) fond = melange(fond, palette.color(QPalette::Highlight), 0.18);
+        if (choisie) fond = melange(fond, palette.color(QPalette::Highlight), PartChoix);
         p.fillRect(option.rect, fond);
     }
     if (cellule.barre) {

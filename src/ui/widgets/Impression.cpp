@@ -62,6 +62,8 @@ void imprimer(Contexte& contexte, QWidget* parent, const Impression& demande) {
         contexte.services.messages->MessageErreur(
             u"L'impression n'a pas pu se faire : vérifiez l'imprimante, puis recommencez."_s,
             u"Erreur"_s);
+    } else {
+        contexte.relais.dire(demande.fait);
     }
 }
 

@@ -21,10 +21,11 @@ LigneTableau ligneTableau(std::span<const Cellule> cellules) {
 ModeleTableau::ModeleTableau(std::vector<ColonneTableau> colonnes, QObject* parent)
     : QAbstractTableModel(parent), colonnes_(std::move(colonnes)), polices_(colonnes_.size()) {}
 
-void ModeleTableau::poserDegrades(const std::vector<DegradeCellule>& degrades) {
+void ModeleTableau::poserDegrades(std::vector<DegradeCellule> degrades) {
+    degrades_ = std::move(degrades);
     fonds_.clear();
     encres_.clear();
-    for (const DegradeCellule& d : degrades) {
+    for (const DegradeCellule& d : degrades_) {
         QLinearGradient pente(0, 0, 0, 1);
         pente.setCoordinateMode(QGradient::ObjectMode);
         pente.setColorAt(0, d.haut);
@@ -43,7 +44,7 @@ void ModeleTableau::remplir(std::vector<LigneTableau> lignes) {
     lignes_ = std::move(lignes);
     ordre_.resize(lignes_.size());
     std::iota(ordre_.begin(), ordre_.end(), 0);
-    cles_ = {depart_};
+    cles_ = depart_;
     endResetModel();
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }

@@ -16,6 +16,7 @@
 #include "base/Fichiers.h"
 #include "common/Enregistrement.h"
 #include "widgets/Impression.h"
+#include "widgets/ModeleTableau.h"
 
 namespace norvane::ui {
 
@@ -122,20 +123,46 @@ bool imprimerHtml(QPagedPaintDevice& support, const QString& html, const PagesVo
     return p.end();
 }
 
+/// In the order of FormatTableau.
+std::vector<FormatFichier> formatsTableau() {
+    return {{u"Format Texte (*.txt)"_s, u"txt"_s},
+            {u"Format Html (*.htm *.html)"_s, u"html"_s, u"htm"_s},
+            {u"Format Texte OpenDocument (*.odt)"_s, u"odt"_s},
+            {u"Format Excel (*.xlsx)"_s, u"xlsx"_s},
+            {u"Format CSV (*.csv)"_s, u"csv"_s}};
+}
+
 }  // namespace
+
+TableauExporte tableauDe(const ModeleTableau& modele, std::vector<std::string> titre) {
+    TableauExporte tableau;
+    tableau.titre = std::move(titre);
+    for (const ColonneTableau& c : modele.colonnes()) {
+        tableau.colonnes.push_back(
+            {c.entete.toStdString(), c.alignement != Qt::AlignLeft, c.nature});
+    }
+    for (int l = 0; l < modele.rowCount(); ++l) {
+        auto& ligne = tableau.lignes.emplace_back();
+        for (int c = 0; c < modele.columnCount(); ++c) {
+            const QModelIndex place = modele.index(l, c);
+            const bool position = modele.colonnes()[static_cast<std::size_t>(c)].position;
+            ligne.push_back({modele.texte(place), position ? l + 1 : modele.cellule(place).cle});
+        }
+    }
+    return tableau;
+}
 
 void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                    const QString& titre, const QString& nomPropose) {
     const QString dossier = QFile::decodeName(contexte.atelier.Repertoire.string().c_str());
-    enregistrerSous(contexte, parent,
-                    {titre,
-                     dossier + u'/' + nomPropose,
-                     {{u"Format Texte (*.txt)"_s, u"txt"_s}, {u"Format CSV (*.csv)"_s, u"csv"_s}},
-                     u"Tableau enregistré"_s,
-                     [&tableau](const std::filesystem::path& fichier, std::size_t format) {
-                         return EcrireFichier(fichier,
-                                              format == 0 ? EnTexte(tableau) : EnCsv(tableau));
-                     }});
+    enregistrerSous(
+        contexte, parent,
+        {titre, dossier + u'/' + nomPropose, formatsTableau(), u"Tableau enregistré"_s,
+         [&tableau](const std::filesystem::path& fichier, std::size_t format) -> Resultat<Rien> {
+             const auto octets = Exporter(tableau, static_cast<FormatTableau>(format));
+             if (!octets) return Erreur{octets.erreur()};
+             return EcrireFichier(fichier, *octets);
+         }});
 }
 
 void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
@@ -144,7 +171,8 @@ void imprimerTableau(Contexte& contexte, QWidget* parent, const TableauExporte& 
         contexte, parent,
         {titre, tableau.titre.empty() ? titre : versQt(tableau.titre.front()), u"Tableau imprimé"_s,
          QPageLayout::Portrait, QMarginsF(MargePage, MargePage, MargePage, MargePage),
-         [html = versQt(EnHtml(tableau))](QPagedPaintDevice& papier, const PagesVoulues& pages) {
+         [html = versQt(EnHtml(tableau, TeteHtml::Paragraphe))](QPagedPaintDevice& papier,
+                                                                const PagesVoulues& pages) {
              return imprimerHtml(papier, html, pages);
          }});
 }

@@ -31,14 +31,22 @@ TableauCombinaison::TableauCombinaison(const QString& nom, std::vector<ColonneTa
 }
 
 void TableauCombinaison::montrer(std::vector<LigneTableau> lignes, bool barres) {
-    for (LigneTableau& ligne : lignes) ligne[Ratio] = celluleRatio(ligne[Ratio], barres);
+    for (LigneTableau& ligne : lignes) {
+        ligne[Sortis].indice =
+            u"Double cliquez sur ce rang pour afficher l'historique correspondant..."_s;
+        ligne[Ratio] = celluleRatio(ligne[Ratio], barres);
+    }
     vue->remplir(std::move(lignes));
 }
 
 void TableauCombinaison::activer(const QModelIndex& index) {
     const auto& cible = vue->modele().cellule(index).cible;
-    const auto* tirage = cible ? std::get_if<NumeroTirage>(&*cible) : nullptr;
-    if (tirage != nullptr) Q_EMIT tirageDemande(tirage->numero);
+    if (!cible) return;
+    if (const auto* tirage = std::get_if<NumeroTirage>(&*cible)) {
+        Q_EMIT tirageDemande(tirage->numero);
+    } else if (const auto* rang = std::get_if<RangTable>(&*cible)) {
+        Q_EMIT rangDemande(rang->indice);
+    }
 }
 
 }  // namespace norvane::ui

@@ -20,6 +20,7 @@
 #include "lists/Liste.h"
 #include "lists/Tri.h"
 #include "stats/Occurrences.h"
+#include "systems/Systeme.h"
 #include "tickets/CombinaisonsNC.h"
 #include "tickets/SaisieBillets.h"
 
@@ -80,6 +81,11 @@ struct Atelier {  // NOLINT(clang-analyzer-optin.performance.Padding): one of it
     CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
     int TirageActif = -1;           ///< record on show on the page of results, -1 for none
+
+    int typeGarantie = 0;                 ///< which of TypesGarantie
+    SystemeDisponible systemeDisponible;  ///< the line chosen of its list
+    SelectionSysteme NumerosSysteme;      ///< the numbers checked for a system
+    Systeme SystemeCourant;               ///< the system in memory
 
     Activite activite;  ///< the busy rule: what is under way
     Edition edition = Edition::Aucune;

@@ -26,8 +26,8 @@ inline constexpr int NumerosSelectionMin = 2;
 inline constexpr int NumerosSelectionMax = 35;
 
 /// Reads a *.slt. Refused with a sentence: other than 50 integers, a count of absolute numbers that
-/// is not that of the grid, a state other than 0, 1 or 2, secondary numbers without an absolute
-/// one.
+/// is not that of the grid, a state other than 0, 1 or 2. Secondary numbers may stand alone: the
+/// selection of a system does without base numbers.
 Resultat<GrilleSelection> OuvrirSelection(const std::filesystem::path& fichier);
 Resultat<Rien> SauverSelection(const GrilleSelection& grille, const std::filesystem::path& fichier);
 

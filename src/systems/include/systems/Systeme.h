@@ -11,6 +11,7 @@
 
 #include "base/Ensemble.h"
 #include "base/Resultat.h"
+#include "comb/Selection.h"
 #include "lists/Liste.h"
 #include "systems/Catalogue.h"
 #include "tickets/GrillesHasard.h"
@@ -31,6 +32,8 @@ class SelectionSysteme {
     Ensemble numeros() const { return numeros_; }
     Ensemble base() const { return base_; }
 
+    /// No longer selected.
+    void retirer(int n);
     /// The next state of 0, 2, 1, 0. False when it would be a base number too many: it then stays
     /// selected.
     bool avancer(int n);
@@ -40,6 +43,11 @@ class SelectionSysteme {
  private:
     Ensemble numeros_, base_;
 };
+
+/// The selection of a *.slt file: its secondary numbers are selected, its absolute ones base
+/// numbers too, where there are no more of them than there may be.
+SelectionSysteme SelectionDeGrille(const GrilleSelection& grille);
+GrilleSelection GrilleDeSelection(const SelectionSysteme& selection);
 
 /// As many numbers and base numbers as the system asks for, the base numbers drawn first.
 SelectionSysteme SelectionAuHasard(const SystemeDisponible& systeme, GenerateurHasard& hasard);

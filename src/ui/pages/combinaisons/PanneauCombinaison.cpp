@@ -51,6 +51,9 @@ PanneauCombinaison::PanneauCombinaison(Contexte& ctx, const NomsCombinaison& nom
     connect(table_, &TableauCombinaison::tirageDemande, this, [this](int numero) {
         contexte_.relais.aller(VersTirage{numero, {}});
     });
+    connect(table_, &TableauCombinaison::rangDemande, this, [this](int bons) {
+        contexte_.relais.aller(VersHistorique{RangCombinaison{numeros_, bons}, inf_, sup_});
+    });
     connect(barres_, &QCheckBox::toggled, this, &PanneauCombinaison::rafraichir);
     connect(boutonPosition_, &QPushButton::clicked, this, &PanneauCombinaison::positionDemandee);
 }

@@ -162,6 +162,11 @@ void PanneauListe::direNombre(const Liste* montree) {
         etats << ListePartielle;
         indices << u"Liste partielle : le calcul a été arrêté avant la fin"_s;
     }
+    if (montree != nullptr && montree->melangee) {
+        etats << u"deux intervalles"_s;
+        indices << u"L'adaptation a été arrêtée : une partie des combinaisons porte encore sur "
+                   u"l'ancien intervalle"_s;
+    }
     if (montree != nullptr && montree->nombreTotal() > lignes) {
         etats << (etats.isEmpty() ? u"liste coupée"_s : u"coupée"_s);
         indices << u"Les %1 premières sont affichées"_s.arg(lignes);

@@ -328,25 +328,11 @@ void PageStats::surActivation(const QModelIndex& index) {
 }
 
 TableauExporte PageStats::tableauExporte() const {
-    TableauExporte sortie;
-    sortie.titre.push_back("Statistiques sur " + textes_.objet.toStdString());
+    std::vector<std::string> lignes{"Statistiques sur " + textes_.objet.toStdString()};
     const QString libelle =
         versQt(LibelleIntervalle(contexte.atelier.base, bornes_.inf, bornes_.sup));
-    for (const QString& ligne : libelle.split(u'\n')) sortie.titre.push_back(ligne.toStdString());
-    const ModeleTableau& modele = table_->modele();
-    for (const ColonneTableau& c : modele.colonnes()) {
-        sortie.entetes.push_back(c.entete.toStdString());
-        sortie.aDroite.push_back(c.alignement != Qt::AlignLeft);
-    }
-    for (int l = 0; l < modele.rowCount(); ++l) {
-        std::vector<std::string> cellules;
-        cellules.reserve(NbColonnesStats);
-        for (int c = 0; c < NbColonnesStats; ++c) {
-            cellules.push_back(modele.texte(modele.index(l, c)));
-        }
-        sortie.lignes.push_back(std::move(cellules));
-    }
-    return sortie;
+    for (const QString& ligne : libelle.split(u'\n')) lignes.push_back(ligne.toStdString());
+    return tableauDe(table_->modele(), std::move(lignes));
 }
 
 void PageStats::sauver() {

@@ -45,8 +45,11 @@ struct VersGrille {
     friend bool operator==(const VersGrille&, const VersGrille&) = default;
 };
 
-/// The page "Combinaisons N" on the list in memory, which has changed.
+/// The page "Combinaisons N" on the list in memory, which has changed; `adapter`: its statistics
+/// are then computed over the interval in force.
 struct VersListe {
+    bool adapter = false;
+
     friend bool operator==(const VersListe&, const VersListe&) = default;
 };
 

@@ -17,8 +17,9 @@ namespace norvane::ui {
 
 /// A kind of file that a save dialog offers.
 struct FormatFichier {
-    QString filtre;   ///< "Fichiers Grilles (*.grl)"
-    QString suffixe;  ///< "grl", lower case
+    QString filtre;             ///< "Fichiers Grilles (*.grl)"
+    QString suffixe;            ///< "grl", lower case
+    QString autreSuffixe = {};  ///< one that names of the kind may bear as well, lower case
 };
 
 struct Enregistrement {

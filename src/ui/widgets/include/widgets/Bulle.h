@@ -16,7 +16,7 @@ class Bulle final : public QWidget {
     explicit Bulle(QWidget* parent);
 
     /// Shows the balloon above `cible` (in the parent's coordinates), or below it when there is no
-    /// room; with an empty text nothing shows.
+    /// room; with an empty text nothing shows. The text may have several lines.
     void montrer(const QString& titre, const QString& texte, const QRect& cible);
 
     QSize sizeHint() const override;

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "stats/Cellule.h"
+#include "stats/ExportTableau.h"
 
 namespace norvane::ui {
 
@@ -31,6 +32,7 @@ struct ColonneTableau {
     bool adaptable = true;  ///< may grow beyond `largeur` when `etalon` or the header asks for it
     QString etalon;         ///< the widest text that the column is made for
     QIcon image;            ///< drawn in the header instead of its text
+    NatureColonne nature = NatureColonne::Texte;  ///< of the keys, for a spreadsheet
 };
 
 /// Colours of a cell that stands out: a vertical gradient and the font on it.
@@ -38,6 +40,7 @@ struct DegradeCellule {
     QColor haut;
     QColor bas;
     QColor texte;
+    bool choixVisible = false;  ///< a ground of whole rows: the row selected is seen through it
 };
 
 /// A cell and how it is shown.
@@ -75,10 +78,13 @@ class ModeleTableau final : public QAbstractTableModel {
     explicit ModeleTableau(std::vector<ColonneTableau> colonnes, QObject* parent = nullptr);
 
     const std::vector<ColonneTableau>& colonnes() const { return colonnes_; }
-    void poserDegrades(const std::vector<DegradeCellule>& degrades);
+    void poserDegrades(std::vector<DegradeCellule> degrades);
+    const DegradeCellule& degrade(int d) const { return degrades_[static_cast<std::size_t>(d)]; }
     void poserPolices(std::vector<QFont> polices);  ///< one a column
     /// The key that rows given to remplir() already follow.
-    void poserTriDepart(CleTri cle) { depart_ = cle; }
+    void poserTriDepart(CleTri cle) { depart_ = {cle}; }
+    /// Rows given to remplir() follow no key.
+    void sansTriDepart() { depart_.clear(); }
 
     /// New content in one reset; the sort goes back to its start.
     void remplir(std::vector<LigneTableau> lignes);
@@ -90,7 +96,7 @@ class ModeleTableau final : public QAbstractTableModel {
     /// Sorts by these keys (at most two); rows that are equal by all keys keep their first order.
     void trier(std::vector<CleTri> cles);
     /// The first order again.
-    void retablirOrdre() { trier({depart_}); }
+    void retablirOrdre() { trier(depart_); }
     const std::vector<CleTri>& cles() const { return cles_; }
     /// "1▲", "2▼", or nothing.
     QString marque(int colonne) const;
@@ -110,12 +116,13 @@ class ModeleTableau final : public QAbstractTableModel {
 
     std::vector<ColonneTableau> colonnes_;
     std::vector<QFont> polices_;
+    std::vector<DegradeCellule> degrades_;
     std::vector<QBrush> fonds_;  // of the gradients
     std::vector<QBrush> encres_;
     std::vector<LigneTableau> lignes_;
     std::vector<int> ordre_;  // row on show -> index in lignes_
     std::vector<CleTri> cles_;
-    CleTri depart_{1, true};
+    std::vector<CleTri> depart_{{1, true}};
 };
 
 }  // namespace norvane::ui

@@ -5,14 +5,21 @@
 #pragma once
 
 #include <QString>
+#include <string>
+#include <vector>
 
 #include "common/Contexte.h"
 #include "stats/ExportTableau.h"
 
 namespace norvane::ui {
 
-/// Asks for a file and writes the table as text or CSV, after the file's extension or else the
-/// filter chosen: see enregistrerSous.
+class ModeleTableau;
+
+/// The table on show, in its order, a bar as its exact text.
+TableauExporte tableauDe(const ModeleTableau& modele, std::vector<std::string> titre);
+
+/// Asks for a file and writes the table in one of the formats of FormatTableau, after the file's
+/// extension or else the filter chosen: see enregistrerSous.
 void sauverTableau(Contexte& contexte, QWidget* parent, const TableauExporte& tableau,
                    const QString& titre, const QString& nomPropose);
 

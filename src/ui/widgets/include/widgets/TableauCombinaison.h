@@ -32,6 +32,8 @@ class TableauCombinaison final : public QObject {
  Q_SIGNALS:
     /// A double click on a cell that speaks of a draw (one-based).
     void tirageDemande(int numero);
+    /// One on the label of a rank: the index of its RangTable.
+    void rangDemande(int bons);
 
  private:
     void activer(const QModelIndex& index);
