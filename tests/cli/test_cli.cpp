@@ -17,6 +17,7 @@
 #include "cli/Executer.h"
 #include "Dossier.h"
 #include "OracleStats.h"
+#include "reports/Historique.h"
 #include "SeptTirages.h"
 #include "tickets/FichiersGrilles.h"
 
@@ -445,6 +446,50 @@ TEST_F(Cli, CombinaisonsRefusees) {
         {{"comb", "stats", "7"}, "compte 1 numéros : il en faut de 2 à 10"},
     };
     for (const auto& [args, dit] : cas) refuse(args, dit);
+}
+
+TEST_F(Cli, HistoriqueDansChaqueFormat) {
+    const std::string entete = "Tirage\tDate\tN1\tN2\tN3\tN4\tN5\tChance\tEcart\tSuite\tPoids\n";
+    const std::string fin =
+        "3\t20221005\t7\t20\t33\t41\t49\t3\t1\t1\t153\n"
+        "4\t20221005\t1\t7\t20\t33\t41\t0\t0\t2\t102\n";
+    const std::string quatre = "--base quatre.csv historique numero 20";
+    EXPECT_EQ(lancer(quatre).out, entete + "1\t20221003\t7\t20\t23\t31\t40\t1\t0\t1\t122\n" + fin);
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 historique numero 20 --tout").out,
+              entete + "2\t20221003\t7\t25\t33\t41\t48\t0\t0\t0\t154\n" + fin);
+    EXPECT_EQ(lancer("--base quatre.csv historique chance 3").out,
+              entete + "3\t20221005\t7\t20\t33\t41\t49\t3\t2\t1\t153\n");
+
+    const Base base = QuatreTirages();
+    Occurrences occ;
+    ConstruireOccurrences(base, occ);
+    const TableauExporte tableau = ExporterHistorique(
+        FaireHistorique(base, occ, Element{GenreStats::Numeros, 20}, 1, 4), VueHistorique::Sorties);
+    for (const auto& [nom, format] : {std::pair{"txt", FormatTableau::Texte},
+                                      {"html", FormatTableau::Html},
+                                      {"csv", FormatTableau::Csv},
+                                      {"odt", FormatTableau::OpenDocument}}) {
+        const Sortie sortie = lancer(quatre + " --sortie essai --format " + nom);
+        EXPECT_EQ(sortie.out + sortie.err, "");
+        EXPECT_EQ(lire(dossier / "essai"), *Exporter(tableau, format)) << nom;
+    }
+    EXPECT_EQ(lancer(quatre + " --format csv").out, EnCsv(tableau));
+    EXPECT_EQ(lancer(quatre + " --format xlsx --sortie essai").statut, StatutFait);
+    EXPECT_EQ(lire(dossier / "essai").substr(0, 2), "PK");
+
+    for (const char* suite : {" --format xlsx", " --format odt", " --format doc --sortie essai"})
+        EXPECT_EQ(lancer(quatre + suite).statut, StatutUsage) << suite;
+    refuse(std::string("--base quatre.csv --de 2 historique numero 31"),
+           "Numéro non sorti sur la période...");
+    refuse(std::string("--base quatre.csv historique chance 10"),
+           "Chance non sortie sur la période...");
+    refuse(std::string("historique chance 11"), "X");
+    poser(dossier / "essai", "ancien");
+    refuse(quatre + " --sortie absent/essai", "absent/essai");
+    refuse(quatre + " --sortie /dev/full", "/dev/full");
+    refuse(std::string("--base quatre.csv --de 4 historique numero 49 --sortie essai"),
+           "Numéro non sorti");
+    EXPECT_EQ(lire(dossier / "essai"), "ancien");
 }
 
 }  // namespace
