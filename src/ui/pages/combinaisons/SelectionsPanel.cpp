@@ -55,7 +55,7 @@ SelectionsPanel::SelectionsPanel(Contexte& ctx, CommandesSelection& commandes, Q
 
     connect(liste_, &QListWidget::currentRowChanged, this, &SelectionsPanel::montrerLigne);
     // A line that is the active one already can be asked for again.
-    connect(liste_, &QListWidget::itemClicked, this,
+    connect(liste_, &QListWidget::itemActivated, this,
             [this] { montrerLigne(liste_->currentRow()); });
     direMode();
     suivre();
