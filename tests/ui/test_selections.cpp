@@ -114,6 +114,20 @@ class TestSelections : public EssaisQt {
         QVERIFY(e.a.selection.vide() && !e.de("ButtonSauverSlt")->isEnabled());
     }
 
+    void dixCasesParRangee() {
+        CasesSelection cases(nullptr);
+        cases.show();
+        for (int largeur = 300; largeur <= 330; ++largeur) {
+            cases.resize(largeur, 200);
+            const auto coin = [&](int numero) {
+                return cases.visualRect(cases.model()->index(numero - 1, 0)).topLeft();
+            };
+            QCOMPARE(coin(10).y(), coin(1).y());
+            QCOMPARE(coin(41).x(), coin(1).x());
+            QCOMPARE(coin(49).y(), coin(41).y());
+        }
+    }
+
     void tirageChoixLibreHasard() {
         const EssaiSelections e(QuatreTirages());
         e.select->click();
