@@ -67,10 +67,10 @@ class PanneauTri final : public QWidget {
     EtatTri voulu_;
     std::pair<int, int> rangs_{0, 0};
     QCheckBox* trier_;
+    QButtonGroup* critere_ = nullptr;  // the two groups fill these
+    QButtonGroup* ordre_ = nullptr;
     QGroupBox* groupeCritere_;
     QGroupBox* groupeOrdre_;
-    QButtonGroup* critere_ = nullptr;
-    QButtonGroup* ordre_ = nullptr;
     QLabel* approfondi_ = nullptr;
     QCheckBox* profondeur_ = nullptr;
     QCheckBox* gains_ = nullptr;
