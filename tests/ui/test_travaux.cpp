@@ -136,8 +136,8 @@ class TestTravaux final : public EssaisQt {
         auto* travaux = f.forme->findChild<Travaux*>();
         Activite& activite = f.banc.atelier.activite;
         const auto lancer = [&](const std::shared_ptr<Meneur>& meneur) {
-            return travaux->lancer(travailMene(meneur), {u"En cours"_s, nullptr, nullptr},
-                                   f.forme.get(), [](Travail&) {});
+            return travaux->lancer(travailMene(meneur), {u"En cours"_s}, f.forme.get(),
+                                   [](Travail&) {});
         };
         auto meneur = std::make_shared<Meneur>();
         QVERIFY(lancer(meneur));

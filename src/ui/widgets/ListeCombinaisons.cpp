@@ -123,8 +123,11 @@ void DelegueCombinaisons::paint(QPainter* peintre, const QStyleOptionViewItem& o
     p.restore();
 }
 
-QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return {0, option.fontMetrics.height() + 2 * Cadre};
+QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    const QString texte = index.data(Qt::DisplayRole).toString();
+    return {option.fontMetrics.horizontalAdvance(texte) + 2 * Marge,
+            option.fontMetrics.height() + 2 * Cadre};
 }
 
 // ------------------------------------------------------------------------------------------- view

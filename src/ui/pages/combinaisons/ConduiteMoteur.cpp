@@ -189,7 +189,8 @@ void ConduiteMoteur::apresListe(bool nouvelle) {
 }
 
 void ConduiteMoteur::trier() {
-    ReponseClic reponse = moteur_.Trier(Principale, contexte_.atelier.TriVoulu);
+    const Atelier& a = contexte_.atelier;
+    ReponseClic reponse = moteur_.Trier(Principale, triPour(a.ListeMemoire, a.TriVoulu));
     if (reponse.genre == ReponseClic::Genre::Lance)
         return lancer(std::move(reponse.travail), u"Tri de la liste en cours..."_s, jaugeListe_);
     if (reponse.genre == ReponseClic::Genre::Affiche) Q_EMIT reordonnee();

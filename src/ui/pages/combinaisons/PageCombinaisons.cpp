@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 
+#include "combinaisons/ActionsListe.h"
 #include "combinaisons/Cahier.h"
 #include "combinaisons/CommandesIntervalle.h"
 #include "combinaisons/ConduiteMoteur.h"
@@ -16,7 +16,6 @@
 #include "combinaisons/LigneBornes.h"
 #include "combinaisons/ManipulationListes.h"
 #include "combinaisons/PanneauCombinaison.h"
-#include "combinaisons/PanneauDivision.h"
 #include "combinaisons/PanneauListe.h"
 #include "combinaisons/PanneauSelections.h"
 #include "combinaisons/PanneauTailles.h"
@@ -60,13 +59,7 @@ void PageCombinaisons::construire() {
     milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
     milieu->pile->addWidget(liste_, 1);
     milieu->pile->addWidget(new LegendeLignes(milieu));
-    details_ =
-        bouton(u"BitBtnWithColor1"_s, u"&Détails"_s,
-               u"Ce que contient la liste en mémoire, ou arrêt du calcul en cours"_s, milieu);
-    division_ = new PanneauDivision(contexte, milieu);
-    auto* pied = rangee({details_, division_});
-    pied->setStretch(1, 1);
-    milieu->pile->addLayout(pied);
+    milieu->pile->addWidget(actions_ = new ActionsListe(contexte, milieu));
     auto* choisie = new Fiche(this);
     combinaison_ = new PanneauCombinaison(contexte, CombinaisonChoisie, choisie);
     choisie->pile->addWidget(combinaison_);
@@ -113,11 +106,12 @@ void PageCombinaisons::relier() {
         contexte.atelier.TriVoulu = voulu;
         suivreListes();
     });
-    connect(&tri, &PanneauTri::ButtonTriClick, conduite_, &ConduiteMoteur::ButtonTriClick);
-    connect(&tri, &PanneauTri::ButtonTriProfondeurClick, conduite_,
-            &ConduiteMoteur::ButtonTriProfondeurClick);
     connect(&tri, &PanneauTri::ButtonTEAClick, conduite_, &ConduiteMoteur::ButtonTEAClick);
-    connect(details_, &QPushButton::clicked, conduite_, &ConduiteMoteur::BitBtnWithColor1Click);
+    connect(actions_, &ActionsListe::ButtonTriClick, conduite_, &ConduiteMoteur::ButtonTriClick);
+    connect(actions_, &ActionsListe::ButtonTriProfondeurClick, conduite_,
+            &ConduiteMoteur::ButtonTriProfondeurClick);
+    connect(actions_, &ActionsListe::BitBtnWithColor1Click, conduite_,
+            &ConduiteMoteur::BitBtnWithColor1Click);
     connect(conduite_, &ConduiteMoteur::lance, this, &PageCombinaisons::suivreTravail);
     connect(conduite_, &ConduiteMoteur::reordonnee, &liste_->boite(),
             &ListeCombinaisons::revenirEnTete);
@@ -125,8 +119,8 @@ void PageCombinaisons::relier() {
 
 void PageCombinaisons::poserOrdreTabulation() {
     const QList<QWidget*> ordre = tailles_->ordreTabulation() + QList<QWidget*>{&liste_->boite()} +
-                                  QList<QWidget*>{details_} + division_->ordreTabulation() +
-                                  combinaison_->ordreTabulation() + cahier_->ordreTabulation();
+                                  actions_->ordreTabulation() + combinaison_->ordreTabulation() +
+                                  cahier_->ordreTabulation();
     for (qsizetype i = 1; i < ordre.size(); ++i) setTabOrder(ordre[i - 1], ordre[i]);
 }
 
@@ -152,6 +146,7 @@ void PageCombinaisons::ComboBox1Change(ModeListe mode) {
         return;
     }
     a.modeListe = mode;
+    liste_->boite().revenirEnTete();
     if (mode == ModeListe::Extremes) {
         // The list of before is shown again by a click alone, and the bounds are those computed.
         Vider(a.ListeExtremes);
@@ -244,12 +239,13 @@ void PageCombinaisons::suivreTravail() {
 
 void PageCombinaisons::suivreListes() {
     const Atelier& a = contexte.atelier;
-    cahier_->tri().suivre({.voulu = a.TriVoulu,
-                           .liste = a.ListeMemoire,
-                           .montree = a.modeListe != ModeListe::Extremes,
-                           .rangs = conduite_->rangs()});
+    const VueTri vue{.voulu = triPour(a.ListeMemoire, a.TriVoulu),
+                     .liste = a.ListeMemoire,
+                     .montree = a.modeListe != ModeListe::Extremes,
+                     .rangs = conduite_->rangs()};
+    cahier_->tri().suivre(vue);
+    actions_->suivre(vue);
     cahier_->tampons().suivre();
-    division_->suivre();
 }
 
 void PageCombinaisons::suivreBornes() {

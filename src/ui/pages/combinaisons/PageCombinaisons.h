@@ -9,16 +9,14 @@
 #include "atelier/Moteur.h"
 #include "pages/Page.h"
 
-class QPushButton;
-
 namespace norvane::ui {
 
+class ActionsListe;
 class Cahier;
 class CommandesIntervalle;
 class ConduiteMoteur;
 class ManipulationListes;
 class PanneauCombinaison;
-class PanneauDivision;
 class PanneauListe;
 class PanneauTailles;
 
@@ -62,8 +60,7 @@ class PageCombinaisons final : public Page {
     CommandesIntervalle* commandesIntervalle_;
     PanneauTailles* tailles_ = nullptr;
     PanneauListe* liste_ = nullptr;
-    QPushButton* details_ = nullptr;
-    PanneauDivision* division_ = nullptr;
+    ActionsListe* actions_ = nullptr;
     PanneauCombinaison* combinaison_ = nullptr;
     Cahier* cahier_ = nullptr;
     ConduiteMoteur* conduite_ = nullptr;

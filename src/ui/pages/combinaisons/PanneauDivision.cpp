@@ -24,6 +24,7 @@ PanneauDivision::PanneauDivision(Contexte& ctx, QWidget* parent)
     taille_->setObjectName(u"RxSpinEditDivListMem"_s);
     taille_->setAccessibleName(u"Combinaisons d'une sous-liste"_s);
     poserIndice(taille_, u"Nombre de combinaisons d'une sous-liste"_s);
+    bouton_->setMinimumWidth(bouton_->sizeHint().width());
     auto* rang = new QHBoxLayout(this);
     rang->setContentsMargins(0, 0, 0, 0);
     rang->setSpacing(Unite);
