@@ -132,6 +132,13 @@ QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option,
 
 // ------------------------------------------------------------------------------------------- view
 
+void peindreInvite(QWidget& boite, const QString& invite) {
+    QPainter p(&boite);
+    p.setPen(teintes(boite.palette()).discret);
+    p.drawText(boite.rect().adjusted(3 * Unite, 3 * Unite, -3 * Unite, -3 * Unite),
+               int{Qt::AlignCenter} | int{Qt::TextWordWrap}, invite);
+}
+
 ListeCombinaisons::ListeCombinaisons(const QString& nom, QWidget* parent)
     : QListView(parent), modele_(new ModeleCombinaisons(this)) {
     setObjectName(nom);
@@ -203,11 +210,7 @@ void ListeCombinaisons::paintEvent(QPaintEvent* evenement) {
         p.setPen(QPen(teintes(palette()).accent, 2));
         p.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
     }
-    if (modele_->rowCount() > 0 || invite_.isEmpty()) return;
-    QPainter p(viewport());
-    p.setPen(teintes(palette()).discret);
-    p.drawText(viewport()->rect().adjusted(3 * Unite, 3 * Unite, -3 * Unite, -3 * Unite),
-               int{Qt::AlignCenter} | int{Qt::TextWordWrap}, invite_);
+    if (modele_->rowCount() == 0) peindreInvite(*viewport(), invite_);
 }
 
 // -------------------------------------------------------------------------------- drag and drop

@@ -70,6 +70,9 @@ class DelegueCombinaisons final : public QStyledItemDelegate {
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
+/// What an empty list says, in the middle of its viewport.
+void peindreInvite(QWidget& boite, const QString& invite);
+
 /// Several lines may be chosen; chosen lines can be dragged to another such list that takes them,
 /// once exchanges are allowed.
 class ListeCombinaisons final : public QListView {
