@@ -163,15 +163,19 @@ void MesurerTris(const Donnees& d) {
     for (std::size_t i = 0; i < rapports.size(); ++i)
         for (std::size_t k = 2; k <= NbBoules; ++k)
             rapports[i] += liste.arene[i][5 * k] * Gains[k - 2];
-    std::printf("\nsort                 s  stable_sort s   ratio\n");
+    std::printf("\nsort            s   core s  stable_sort core s   ratio\n");
     const auto mesurer = [&](const char* nom, const EtatTri& tri, const Comparaison& compare) {
         const std::vector<std::uint32_t> depart = OrdreDesLignes(liste);
         Liste notre = liste;
+        const double debut = Coeurs();
         const double s = UneFois([&] { Trier(notre, tri, Gains); });
+        const double coeurs = Coeurs() - debut;
         std::vector<std::uint32_t> naif = depart;
-        const double lent = UneFois([&] { std::ranges::stable_sort(naif, compare); });
+        const double avant = Coeurs();
+        std::ranges::stable_sort(naif, compare);
+        const double lent = Coeurs() - avant;
         Exiger(notre.ordre == naif && notre.tri == tri, nom);
-        std::printf("%-15s %6.2f %14.2f %7.1f\n", nom, s, lent, lent / s);
+        std::printf("%-10s %6.2f %8.2f %19.2f %7.1f\n", nom, s, coeurs, lent, lent / coeurs);
     };
     std::mt19937 hasard(1);
     for (const bool melangees : {false, true}) {

@@ -199,7 +199,10 @@ Resultat<Rien> CommandeCombBornes::executer(const Contexte& contexte, std::ostre
     }
     const auto liste = dresser(c, *demande, contexte);
     if (!liste) return Erreur{liste.erreur()};
-    if (sortie_) return SauverListe(*liste, contexte.repertoire / *sortie_);
+    if (sortie_)
+        return contexte.mener([&](const Suivi& suivi) {
+            return SauverListe(*liste, contexte.repertoire / *sortie_, suivi);
+        });
     EcrireLignes(contexte.sortie, *liste);
     return Rien{};
 }

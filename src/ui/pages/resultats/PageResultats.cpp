@@ -10,6 +10,7 @@
 #include "resultats/CommandesBillets.h"
 #include "resultats/FicheGrille.h"
 #include "resultats/PanneauAleatoire.h"
+#include "resultats/PanneauInternet.h"
 #include "resultats/PanneauJoker.h"
 #include "resultats/PanneauRapports.h"
 #include "resultats/PanneauTirage.h"
@@ -47,6 +48,7 @@ void PageResultats::construire() {
 
     auto* gauche = new QVBoxLayout;
     gauche->setSpacing(2 * Unite);
+    gauche->addWidget(internet_ = new PanneauInternet(contexte, this));
     gauche->addWidget(tirage_);
     gauche->addWidget(planche_, 1);
     auto* droite = new QVBoxLayout;
@@ -125,6 +127,7 @@ void PageResultats::premierAffichage() {
 
 void PageResultats::surChange(const Changement& changement) {
     if (changement.base) {
+        internet_->suivre();
         lever(marques_);
         tirage_->reprendre();
     } else if (changement.reglages) {

@@ -16,6 +16,7 @@ class CalculGains;
 class CommandesBillets;
 class FicheGrille;
 class PanneauAleatoire;
+class PanneauInternet;
 class PanneauJoker;
 class PanneauRapports;
 class PanneauTirage;
@@ -62,6 +63,7 @@ class PageResultats final : public Page {
     Cases marques_;              ///< what of the free choice goes up with its light
     EtatTickets etatMontre_ = EtatTickets::Normal;
 
+    PanneauInternet* internet_ = nullptr;
     PanneauTirage* tirage_ = nullptr;
     PlancheNumeros* planche_ = nullptr;
     PanneauRapports* rapports_ = nullptr;
