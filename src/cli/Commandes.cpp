@@ -4,6 +4,7 @@
 
 #include "CommandeAnalyses.h"
 #include "CommandeBulletins.h"
+#include "CommandeFiltre.h"
 #include "CommandeHistorique.h"
 #include "CommandeListe.h"
 #include "CommandeSystemes.h"
@@ -25,6 +26,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     std::vector<std::unique_ptr<Commande>> commandes;
     commandes.push_back(std::make_unique<CommandeBase>(racine));
     commandes.push_back(std::make_unique<CommandeTirages>(racine));
+    commandes.push_back(std::make_unique<CommandeFiltre>(racine));
     CLI::App& stats =
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
     commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));

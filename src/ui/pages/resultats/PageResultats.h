@@ -14,12 +14,14 @@ namespace norvane::ui {
 
 class CalculGains;
 class CommandesBillets;
+class CommandesEdition;
 class FicheGrille;
 class PanneauAleatoire;
 class PanneauJoker;
 class PanneauRapports;
 class PanneauTirage;
 class PlancheNumeros;
+class RangeeBase;
 class RangeeCommandes;
 
 class PageResultats final : public Page {
@@ -38,6 +40,7 @@ class PageResultats final : public Page {
     void relierFiche();
     void relierCommandes();
     void relierJoker();
+    void relierEdition();
 
     // What the board serves besides the tickets.
     void presser(GenreStats genre, int valeur);
@@ -49,12 +52,15 @@ class PageResultats final : public Page {
 
     // What is on show, as the state makes it.
     EtatPage etat() const;
+    EtatPage etatTickets() const;
     Situation situation() const;
     Cases eclairees() const;
     Cases tenues() const;
     void montrerTirage();
     void montrer();
+    void montrerSaisie();
     void montrerFiche();
+    void montrerTexteEdition();
     void montrerGrille();
 
     SaisieBillets& saisie_;
@@ -71,6 +77,8 @@ class PageResultats final : public Page {
     RangeeCommandes* rangee_ = nullptr;
     CommandesBillets* billets_ = nullptr;
     CalculGains* gains_ = nullptr;
+    RangeeBase* rangeeBase_ = nullptr;
+    CommandesEdition* edition_ = nullptr;
     std::unique_ptr<EtatsCommandes> commandes_;
 };
 
