@@ -85,10 +85,12 @@ SaisieTirage Nouvelle(const Base& base, const PlaceTirage& place) {
     saisie.numero = NumeroPropose(base, saisie);
     saisie.sansJoker = place.date < DateNouveauLoto;
     // Both records of a date carry the same Joker+.
-    for (int voisin : {saisie.place - 1, saisie.place}) {
+    for (const int voisin : {saisie.place - 1, saisie.place}) {
         if (voisin < 0 || voisin >= base.NbTirages) continue;
         const Tirage& t = base.Tirages[static_cast<std::size_t>(voisin)];
-        if (t.DateTirage == saisie.date) saisie.joker = TexteJoker(t.Joker);
+        if (t.DateTirage != saisie.date) continue;
+        saisie.joker = TexteJoker(t.Joker);
+        saisie.sansJoker = saisie.sansJoker || t.Joker == JokerAbsent;
     }
     return saisie;
 }

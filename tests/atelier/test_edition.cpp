@@ -126,14 +126,15 @@ TEST(EditionParLesDates, PropositionsEtChance) {
     const auto numero = [&](int i) {
         return LireNumeroAnnee(base.Tirages[static_cast<std::size_t>(i)].AnneeNumero).numero;
     };
-    const std::string joker = std::to_string(base.Tirages[static_cast<std::size_t>(n - 1)].Joker);
     const int mai = TirageParDate(base.Tirages, 20230529, n).indice;  // both draws follow
+    const std::string joker = std::to_string(base.Tirages[static_cast<std::size_t>(mai)].Joker);
     const int noel = TirageParDate(base.Tirages, 20221231, n).indice;
     const Cas cas[] = {
         {{-1, n - 1, 20240727, 1}, numero(n - 1) + 1, true, ""},
         {{-1, n - 1, 20240727, 2}, numero(n - 1), false, ""},
         {{-1, n - 1, 20250101, 1}, 1, true, ""},
-        {{-1, n - 2, 20240724, 2}, numero(n - 2), false, joker.c_str()},
+        {{-1, mai, 20230529, 2}, numero(mai), false, joker.c_str()},
+        {{-1, n - 2, 20240724, 2}, numero(n - 2), false, nullptr},
         {{-1, mai + 1, 20230530, 1}, numero(mai + 1) + 1, true, ""},
         {{-1, noel + 1, 20230101, 1}, numero(noel + 2), true, ""},
         {{-1, -1, 20080101, 1}, numero(0), true, nullptr},
@@ -177,7 +178,7 @@ TEST(EditionParLesDates, SecondTirageSansChance) {
         std::pair{a.base.Tirages[place], a.base.Tirages[place].AnneeNumero};
     EXPECT_EQ(numeros.Chance, 0);
     EXPECT_TRUE(std::ranges::equal(numeros.Numeros, std::array{1, 5, 8, 9, 49}));
-    EXPECT_EQ(annee / 1000, 2024);
+    EXPECT_EQ(std::to_string(annee).substr(0, 4), "2024");
     for (std::size_t rang = 4; rang < 9; ++rang) EXPECT_EQ(a.base.Rapports[place][rang], Rapport{});
     EXPECT_EQ(a.edition, Edition::AjoutLibre);
     // It is on the disk, and the bounds are to be computed again.
@@ -236,7 +237,7 @@ TEST_F(EditionDeLaBase, FiltreApplique) {
     for (const auto& [nom, contenu] : Entiers) poser(dossier.chemin() / nom, contenu);
     poser(dossier / "comb4.~da", "égaré");
     Atelier a = atelier();
-    EXPECT_FALSE(NomPresent(dossier / "comb4.~da"));
+    EXPECT_TRUE(std::filesystem::remove(dossier / "comb4.dat"));
     for (const auto& [nom, contenu] : Entiers) poser(dossier.chemin() / nom, contenu);
     const Base entiere = a.base;
     FiltreBase filtre(a);
@@ -279,7 +280,7 @@ TEST_F(EditionDeLaBase, FiltreApplique) {
 // ---- A program that dies -----------------------------------------------------------------------
 
 /// How many kills each test stands.
-constexpr int Morts = 250;
+constexpr int Morts = 200;
 
 TEST_F(EditionDeLaBase, TueEnFiltrant) {
     for (const auto& [nom, contenu] : Entiers) poser(dossier.chemin() / nom, contenu);
@@ -318,7 +319,7 @@ TEST_F(EditionDeLaBase, TueEnModifiant) {
         Atelier a = atelier();
         ASSERT_TRUE(EcrireFichier(dossier / NomCombCalc, BornesDe(a.base)));
         EditionBase edition(a);
-        tuer(alea, 60000, [&](int) {
+        tuer(alea, 30000, [&](int) {
             const int n = a.base.NbTirages;
             const auto geste = alea() % 3;
             if (geste == 0 && n > 50) {

@@ -137,7 +137,7 @@ TEST(Filtre, Fichiers) {
                    {"2" + texte.substr(1), "la valeur 1 (« 2 »)"},
                    {texte.substr(0, texte.size() - 1) + "oui", "la valeur 55 (« oui »)"},
                    {"1" + texte.substr(1), "2 choix de tirages"},
-                   {std::string(5000, '0'), "5000"}};
+                   {std::string(5000, '0'), "4096"}};
     for (const auto& [contenu, dit] : refuses) {
         poser(fichier, contenu);
         const auto lu = OuvrirFiltre(fichier);

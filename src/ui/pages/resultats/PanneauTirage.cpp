@@ -4,7 +4,6 @@
 #include "resultats/PanneauTirage.h"
 
 #include <algorithm>
-#include <iterator>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,7 +30,9 @@ const QString MasqueJoker = u"0.0.0.0.0.0.0;_"_s;
 
 QString chiffresDe(const QString& texte) {
     QString chiffres;
-    std::ranges::copy_if(texte, std::back_inserter(chiffres), &QChar::isDigit);
+    for (const QChar c : texte) {
+        if (c.isDigit()) chiffres += c;
+    }
     return chiffres;
 }
 
