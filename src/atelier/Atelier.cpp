@@ -25,8 +25,17 @@ bool MemeContenu(const Base& a, const Base& b) {
            std::equal(a.Rapports.begin(), a.Rapports.begin() + a.NbTirages, b.Rapports.begin());
 }
 
-/// Stands while a base that changed is being saved, and holds the print of the one before: the
-/// bounds of the engine fall with it, and a program that died in between leaves neither or both.
+/// The draws of before stand at the start of those of after, as they were: what the engine computed
+/// can be brought forward.
+bool SuiteSeule(const Base& avant, const Base& apres) {
+    return avant.NbTirages <= apres.NbTirages &&
+           std::ranges::equal(avant.enUsage(),
+                              apres.enUsage().first(static_cast<std::size_t>(avant.NbTirages)));
+}
+
+/// Stands while a base whose draws changed is being saved, and holds the print of the one before:
+/// the bounds of the engine fall with it, and a program that died in between leaves neither or
+/// both.
 constexpr const char* NomNoteSauvegarde = "base.etat";
 constexpr std::uint64_t OctetsNoteMax = 64;
 
@@ -137,14 +146,14 @@ const Liste& Atelier::liste(QuelleListe laquelle) const {
 
 Resultat<Rien> Atelier::sauverBase() {
     if (FiltreActif) return Rien{};  // a sub-series; the whole base is on the disk
-    const bool changee = !MemeContenu(base, baseSauvee_);
-    if (surDisque_ && !changee) return Rien{};
+    if (surDisque_ && MemeContenu(base, baseSauvee_)) return Rien{};
+    const bool autres = !SuiteSeule(baseSauvee_, base);
     if (stockageIllisible_) {
         return Erreur{
             "Le fichier norvane.db n'a pas pu être lu au démarrage et ne sera pas remplacé : "
             "déplacez-le, puis recommencez."};
     }
-    if (changee) {
+    if (autres) {
         auto note = EcrireFichier(Repertoire / NomNoteSauvegarde, Empreinte(baseSauvee_));
         if (!note) return note;
     }
@@ -152,8 +161,8 @@ Resultat<Rien> Atelier::sauverBase() {
     if (resultat) {
         baseSauvee_ = base;
         surDisque_ = true;
-        // Its bounds are those of other draws. Where they stay, the next start takes them away.
-        if (changee) resultat = EcrireCombCalcNeutre(Repertoire);
+        // Where its bounds stay, the next start takes them away.
+        if (autres) resultat = EcrireCombCalcNeutre(Repertoire);
         if (!resultat) return resultat;
     }
     EffacerNote(Repertoire);

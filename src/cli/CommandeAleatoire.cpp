@@ -24,11 +24,8 @@ CommandeAleatoire::CommandeAleatoire(CLI::App& racine)
 }
 
 Resultat<Rien> CommandeAleatoire::executer(const Contexte& /*contexte*/, std::ostream& out) {
-    const auto type = LireTypeGrille(type_);
-    if (!type)
-        return Erreur{fmt::format("« {} » n'est pas une grille vendue : les types vont de {} à {}.",
-                                  type_, LibelleType(TypesVendus.front()),
-                                  LibelleType(TypesVendus.back()))};
+    const auto type = LireType(type_);
+    if (!type) return Erreur{type.erreur()};
     const auto nombre = EntierDans(nombre_, "NOMBRE", 0, NbGrillesMax);
     if (!nombre) return Erreur{nombre.erreur()};
     constexpr long graineMax = std::numeric_limits<std::uint32_t>::max();

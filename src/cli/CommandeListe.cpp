@@ -6,6 +6,7 @@
 #include <fmt/ostream.h>
 
 #include <ostream>
+#include <utility>
 
 #include "Enregistrements.h"
 #include "lists/FichiersListes.h"
@@ -20,12 +21,19 @@ CommandeListeLire::CommandeListeLire(CLI::App& liste)
 
 Resultat<Rien> CommandeListeLire::executer(const Contexte& contexte, std::ostream& /*out*/) {
     const auto gains = FormeGains::de(contexte.lireReglages().GainsNominaux);
-    const auto liste = OuvrirListe(contexte.repertoire / fichier_, gains);
-    if (!liste) return Erreur{liste.erreur()};
+    Liste liste;
+    auto mene = contexte.mener([&](const Suivi& suivi) -> Resultat<Rien> {
+        auto lue = OuvrirListe(contexte.repertoire / fichier_, gains, suivi);
+        if (!lue) return Erreur{lue.erreur()};
+        liste = *std::move(lue);
+        return Rien{};
+    });
+    if (!mene) return mene;
+    contexte.progression.effacer();
     // A list of millions of lines is not held back: nothing can be refused any more.
-    fmt::print(contexte.sortie, "{}\t{}\t{}\t{}\t{}\n", liste->nombre(), liste->taille(),
-               static_cast<int>(liste->mode()), liste->DebutListe, liste->FinListe);
-    EcrireEnregistrements(contexte.sortie, liste->arene.disposition, liste->arene.mots);
+    fmt::print(contexte.sortie, "{}\t{}\t{}\t{}\t{}\n", liste.nombre(), liste.taille(),
+               static_cast<int>(liste.mode()), liste.DebutListe, liste.FinListe);
+    EcrireEnregistrements(contexte.sortie, liste.arene.disposition, liste.arene.mots);
     return Rien{};
 }
 

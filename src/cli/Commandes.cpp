@@ -4,9 +4,12 @@
 
 #include "CommandeAnalyses.h"
 #include "CommandeBulletins.h"
+#include "CommandeCombBornes.h"
 #include "CommandeFiltre.h"
 #include "CommandeHistorique.h"
+#include "CommandeImporter.h"
 #include "CommandeListe.h"
+#include "CommandeNC.h"
 #include "CommandeSystemes.h"
 
 namespace norvane {
@@ -27,6 +30,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeBase>(racine));
     commandes.push_back(std::make_unique<CommandeTirages>(racine));
     commandes.push_back(std::make_unique<CommandeFiltre>(racine));
+    commandes.push_back(std::make_unique<CommandeImporter>(racine));
     CLI::App& stats =
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");
     commandes.push_back(std::make_unique<CommandeStatsNumeros>(stats));
@@ -46,6 +50,12 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     commandes.push_back(std::make_unique<CommandeVerifier>(racine));
     commandes.push_back(std::make_unique<CommandeBilan>(racine));
     commandes.push_back(std::make_unique<CommandeAleatoire>(racine));
+    CLI::App& nc = Groupe(racine, "nc", "Grilles de numéros et de chances sur l'intervalle");
+    commandes.push_back(std::make_unique<CommandeNcTable>(nc));
+    commandes.push_back(std::make_unique<CommandeNcListe>(nc));
+    for (const CommandeNcFiltre::Filtre& filtre : CommandeNcFiltre::filtres())
+        commandes.push_back(std::make_unique<CommandeNcFiltre>(nc, filtre));
+    commandes.push_back(std::make_unique<CommandeNcJamais>(nc));
     commandes.push_back(std::make_unique<CommandeBulletins>(racine));
     commandes.push_back(std::make_unique<CommandeAnalyses>(racine));
     CLI::App& historique =

@@ -5,7 +5,6 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
-#include <cstdint>
 #include <iosfwd>
 #include <memory>
 #include <optional>
@@ -16,9 +15,6 @@
 #include "Contexte.h"
 
 namespace norvane {
-
-struct ContexteComb;
-class Puits;
 
 /// One command: it declares its words, options and help, then runs when the line names it.
 class Commande {
@@ -72,24 +68,6 @@ class CommandeCombExtremes : public Commande {
  private:
     std::optional<long> taille_;
     bool series_ = false;
-};
-
-class CommandeCombBornes : public Commande {
- public:
-    explicit CommandeCombBornes(CLI::App& comb);
-    Resultat<Rien> executer(const Contexte& contexte, std::ostream& out) override;
-
- private:
-    struct Demande;
-    Resultat<Demande> verifier() const;
-    /// Gives the records to the sink, or only counts them; how many there are.
-    Resultat<std::uint64_t> chercher(const ContexteComb& c, const Demande& demande,
-                                     Puits& puits) const;
-
-    std::optional<long> taille_, inf_, sup_, stockage_, max_;
-    std::optional<std::string> absolue_, secondaire_, sortie_;
-    bool series_ = false;
-    bool compter_ = false;
 };
 
 class CommandeCombStats : public Commande {

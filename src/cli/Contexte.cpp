@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include <chrono>
+#include <semaphore>
 #include <utility>
 
 #include "base/BaseIntegree.h"
@@ -74,6 +76,19 @@ Reglages Contexte::lireReglages() const {
         EcrirePhrase(err, phrase);
     }
     return configuration.reglages;
+}
+
+Resultat<Rien> Contexte::mener(std::function<Resultat<Rien>(const Suivi&)> corps) const {
+    constexpr std::chrono::milliseconds rythme(50);
+    std::binary_semaphore fini(0);
+    const PtrTravail travail = FaireTravail({}, std::move(corps));
+    travail->surFin = [&fini] { fini.release(); };
+    travail->demarrer();
+    while (!fini.try_acquire_for(rythme))
+        progression.montrer(travail->progres.fait(), travail->progres.total());
+    travail->attendre();
+    if (!travail->erreur().empty()) return Erreur{travail->erreur()};
+    return Rien{};
 }
 
 }  // namespace norvane

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -12,6 +13,7 @@
 #include "base/Base.h"
 #include "base/Configuration.h"
 #include "base/Resultat.h"
+#include "base/Travail.h"
 #include "Progression.h"
 
 namespace norvane {
@@ -45,6 +47,9 @@ struct Contexte {
     /// The settings of NORVANE.INI in the directory. What makes no sense there takes its default
     /// and is told on `err`, in one line.
     Reglages lireReglages() const;
+
+    /// Runs long work to its end and shows how far it is.
+    Resultat<Rien> mener(std::function<Resultat<Rien>(const Suivi&)> corps) const;
 };
 
 }  // namespace norvane

@@ -50,26 +50,58 @@ Resultat<int> EntierDans(const std::optional<long>& valeur, std::string_view nom
     return static_cast<int>(*valeur);
 }
 
-Resultat<std::vector<int>> LireNumeros(std::string_view texte, int min, int max) {
-    std::vector<int> numeros;
+namespace {
+
+/// What is read, as its refusals call it.
+struct Mots {
+    const char* le;  ///< with its article
+    const char* un;
+    const char* pluriel;
+    const char* donne;
+    int max;
+};
+constexpr Mots MotsNumeros{"Le numéro", "un numéro", "numéros", "donné", NumeroMax};
+constexpr Mots MotsChances{"La chance", "une chance", "chances", "donnée", ChanceMax};
+
+Resultat<std::vector<int>> LireValeurs(std::string_view texte, int min, int max,
+                                       const Mots& objet) {
+    std::vector<int> valeurs;
     std::istringstream mots{std::string(texte)};
     for (std::string mot; mots >> mot;) {
         int n = 0;
         const char* fin = mot.data() + mot.size();
         const auto [lu, erreur] = std::from_chars(mot.data(), fin, n);
-        if (erreur != std::errc{} || lu != fin || n < 1 || n > NumeroMax)
-            return Erreur{fmt::format("« {} » n'est pas un numéro de 1 à {} dans « {} ».", mot,
-                                      NumeroMax, texte)};
-        if (std::ranges::count(numeros, n) > 0)
-            return Erreur{fmt::format("Le numéro {} est donné deux fois dans « {} ».", n, texte)};
-        numeros.push_back(n);
+        if (erreur != std::errc{} || lu != fin || n < 1 || n > objet.max)
+            return Erreur{fmt::format("« {} » n'est pas {} de 1 à {} dans « {} ».", mot, objet.un,
+                                      objet.max, texte)};
+        if (std::ranges::count(valeurs, n) > 0)
+            return Erreur{fmt::format("{} {} est {} deux fois dans « {} ».", objet.le, n,
+                                      objet.donne, texte)};
+        valeurs.push_back(n);
     }
-    const int nombre = static_cast<int>(numeros.size());
+    const int nombre = static_cast<int>(valeurs.size());
     if (nombre < min || nombre > max)
-        return Erreur{fmt::format("« {} » compte {} numéros : il en faut de {} à {}.", texte,
-                                  nombre, min, max)};
-    std::ranges::sort(numeros);
-    return numeros;
+        return Erreur{fmt::format("« {} » compte {} {} : il en faut de {} à {}.", texte, nombre,
+                                  objet.pluriel, min, max)};
+    std::ranges::sort(valeurs);
+    return valeurs;
+}
+
+}  // namespace
+
+Resultat<std::vector<int>> LireNumeros(std::string_view texte, int min, int max) {
+    return LireValeurs(texte, min, max, MotsNumeros);
+}
+
+Resultat<std::vector<int>> LireChances(std::string_view texte, int min, int max) {
+    return LireValeurs(texte, min, max, MotsChances);
+}
+
+Resultat<TypeGrille> LireType(std::string_view libelle) {
+    if (const auto type = LireTypeGrille(libelle)) return *type;
+    return Erreur{fmt::format("« {} » n'est pas une grille vendue : les types vont de {} à {}.",
+                              libelle, LibelleType(TypesVendus.front()),
+                              LibelleType(TypesVendus.back()))};
 }
 
 }  // namespace norvane

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/Resultat.h"
+#include "tickets/Grille.h"
 
 namespace norvane {
 
@@ -26,5 +27,10 @@ Resultat<int> EntierDans(const std::optional<long>& valeur, std::string_view nom
 /// "7 23 45": distinct numbers 1..49 between blanks, in any order; ascending in the answer. Between
 /// `min` and `max` of them.
 Resultat<std::vector<int>> LireNumeros(std::string_view texte, int min, int max);
+/// The same for chances, 1..10.
+Resultat<std::vector<int>> LireChances(std::string_view texte, int min, int max);
+
+/// "05 + 02C", a type of tickets that is sold.
+Resultat<TypeGrille> LireType(std::string_view libelle);
 
 }  // namespace norvane

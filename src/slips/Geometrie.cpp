@@ -37,8 +37,9 @@ const GeometrieBulletin GeometrieIntegree{
     .jours = {{10, 132}, {15, 0}}};
 
 Place GeometrieGrille::numero(int n) const {
-    return {numeros.x + (n - 1) % Colonnes * pasNumeros.x,
-            numeros.y + (n - 1) / Colonnes * pasNumeros.y};
+    const int colonne = (n - 1) % Colonnes;
+    const int ligne = (n - 1) / Colonnes;
+    return {numeros.x + colonne * pasNumeros.x, numeros.y + ligne * pasNumeros.y};
 }
 
 Place GeometrieGrille::chance(int c) const {

@@ -65,22 +65,22 @@ void SupprSorties(std::vector<LigneNC>& liste, const SortiesNC& sorties) {
     std::erase_if(liste, [&](const LigneNC& ligne) { return sorties.sortie(ligne); });
 }
 
-std::vector<LigneNC> JamaisSorties(const SortiesNC& sorties, std::size_t nombre,
-                                   const std::function<Ensemble(std::size_t)>& combinaison,
-                                   const Suivi& suivi) {
-    std::vector<LigneNC> liste;
+Trouvees JamaisSorties(const SortiesNC& sorties, std::size_t nombre,
+                       const std::function<Ensemble(std::size_t)>& combinaison,
+                       const Suivi& suivi) {
+    Trouvees trouvees;
     Ensemble toutes;
     for (int c = 1; c <= ChanceMax; ++c) toutes.ajouter(c);
     for (std::size_t i = 0; i < nombre; ++i) {
         if (i % Pas == 0) {
-            if (suivi.arrete()) return liste;
+            if ((trouvees.arretee = suivi.arrete())) return trouvees;
             suivi.poser(static_cast<int>(i * 100 / nombre));
         }
         const Ensemble numeros = combinaison(i);
-        if (!sorties.gagnante(numeros)) liste.push_back({numeros, toutes});
+        if (!sorties.gagnante(numeros)) trouvees.lignes.push_back({numeros, toutes});
     }
     suivi.poser(100);
-    return liste;
+    return trouvees;
 }
 
 }  // namespace norvane

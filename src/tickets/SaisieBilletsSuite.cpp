@@ -171,6 +171,15 @@ Reponse SaisieBillets::peutCopier() const {
     return Refus{Refus::Titre::Message, TerminezLaSelection, {}};
 }
 
+void SaisieBillets::changerMises(const std::function<void(std::span<Grille>)>& changer) {
+    if (enSelection()) return;
+    changer(liste());
+    if (ListesEgales(liste(), source())) return;
+    CopierListe(source(), liste());
+    (modeRecu_ ? recuSansFichier_ : billets_.aSauver) = true;
+    if (enConsultation()) AfficherGrille(grille_);
+}
+
 Copie SaisieBillets::CopierversBulletins(std::span<const Grille> grilles) {
     if (enSelection()) return {};
     auto& stock = billets_.ListeChoix;

@@ -16,7 +16,10 @@
 #include "BasesEssai.h"
 #include "cli/Executer.h"
 #include "Dossier.h"
+#include "lists/FichiersListes.h"
 #include "OracleStats.h"
+#include "reports/Analyses.h"
+#include "reports/DocumentExport.h"
 #include "reports/Historique.h"
 #include "SeptTirages.h"
 #include "tickets/FichiersGrilles.h"
@@ -371,6 +374,21 @@ TEST_F(Cli, MarquesDesBulletins) {
     refuse(std::string("bulletins a.grl"), "a.bul");
 }
 
+TEST_F(Cli, Analyses) {
+    const Document rapport = RedigerAnalyses(QuatreTirages().enUsage(), 1, 3);
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses").out, EnTexte(rapport));
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --format html").out,
+              EnHtml(rapport, JeuStyles::RVStyle2, PlaceImages::DansLaPage));
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --sortie a.txt").out, "");
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 analyses --format html --sortie a.html").out, "");
+    const auto fichiers = Contenu(dossier);
+    EXPECT_EQ(fichiers.at("a.txt"), EnTexte(rapport));
+    EXPECT_EQ(fichiers.at("a.html"), EnHtml(rapport, JeuStyles::RVStyle2, PlaceImages::Fichiers));
+    EXPECT_TRUE(fichiers.contains("varoimg2.svg"));
+    refuse(std::string("analyses --format pdf"), "« pdf »");
+    refuse(std::string("--base quatre.csv analyses --sortie absent/a.txt"), "absent/a.txt");
+}
+
 TEST_F(Cli, SortieQuiEchoue) {
     const std::pair<const char*, const char*> cas[] = {
         {"base", "Les résultats n'ont pas pu être écrits sur la sortie standard.\n"},
@@ -429,6 +447,21 @@ TEST_F(Cli, SortiesEntieresDesCommandesDeCombinaisons) {
         {{"comb", "bornes", "2", "1", "9", "--absolue", "20 23 25"}, "20 23\t1 3 3 0 1\n"},
         {{"--de", "2", "--a", "3", "comb", "bornes", "3", "2", "2"}, "07 33 41\t2 0 0 2 2\n"},
         {{"comb", "bornes", "2", "5", "9"}, ""},
+        {{"comb", "bornes", "3", "3", "3", "--stockage", "1", "--rangs"},
+         "07 33 41\t0 4 4 0 0 3 0 1 3 3\n"},
+        {{"--de", "2", "--a", "3", "comb", "bornes", "2", "2", "2", "--stockage", "2", "--rangs",
+          "--max", "2"},
+         "07 33\t0 2 2 0 0 0 2 2 0 0 2 0 0 2 2\n07 41\t0 2 2 0 0 0 2 2 0 0 2 0 0 2 2\n"},
+        {{"comb", "bornes", "2", "2", "9", "--tri", "EcartMax", "--decroissant", "--max", "2"},
+         "20 33\t2 0 2 2 2\n20 41\t2 0 2 2 2\n"},
+        {{"comb", "bornes", "3", "2", "9", "--stockage=2", "--rangs", "--tri", "NbFois",
+          "--profondeur", "1", "--decroissant", "--max", "1"},
+         "07 33 41\t0 4 4 0 0 1 3 3 0 1 0 4 4 0 0 3 0 1 3 3\n"},
+        {{"comb", "bornes", "3", "2", "9", "--stockage=2", "--rangs", "--gain", "--max", "1"},
+         "20 33 41\t0 4 4 0 0 1 3 3 0 1 1 2 2 0 1 2 0 2 2 2\n"},
+        {{"comb", "bornes", "2", "3", "9", "--tri", "Ecart", "--gain", "--sortie", "l.lst"}, ""},
+        {{"liste", "lire", "l.lst"},
+         "4\t2\t0\t1\t4\n07 20\t3 0 1 2 2\n07 33\t3 0 1 3 3\n07 41\t3 0 1 3 3\n33 41\t3 0 1 3 3\n"},
         {{"comb", "stats", "41 7"},
          "k\tNbFois\tDate\tEcart\tEcartMax\tNbEcartMax\tPosEcartMax\tSuite\tSuiteMax\t"
          "NbSuiteMax\tPosSuiteMax\n"
@@ -457,6 +490,11 @@ TEST_F(Cli, CombinaisonsRefusees) {
         {{"comb", "bornes", "2", "0", "65535"}, "SUP 65535 est hors"},
         {{"comb", "bornes", "2", "0", "1", "--stockage", "3"}, "--stockage 3 n'existe pas"},
         {{"comb", "bornes", "2", "0", "1", "--max", "0"}, "--max 0"},
+        {{"comb", "bornes", "2", "0", "1", "--tri", "ecart"},
+         "--tri ecart n'existe pas : choisissez NbFois, Ecart, EcartMax, Suite, SuiteMax."},
+        {{"comb", "bornes", "2", "0", "1", "--profondeur", "3"},
+         "--profondeur 3 n'est pas un rang"},
+        {{"comb", "bornes", "2", "0", "1", "--profondeur", "1", "--gain"}, "s'excluent"},
         {{"comb", "bornes", "10", "0", "99"},
          "La liste compterait environ 8\u00A0220\u00A0000\u00A0000 combi"},
         {{"comb", "bornes", "3", "0", "9", "--secondaire", "4"}, "case cochée verte"},
@@ -468,6 +506,49 @@ TEST_F(Cli, CombinaisonsRefusees) {
         {{"comb", "stats", "7"}, "compte 1 numéros : il en faut de 2 à 10"},
     };
     for (const auto& [args, dit] : cas) refuse(args, dit);
+}
+
+TEST_F(Cli, NumerosEtChances) {
+    const Args table{"--base",    "quatre.csv",    "nc",        "table",
+                     "--numeros", "48 7 20 33 41", "--chances", "3 1"};
+    EXPECT_EQ(lancer(table).out,
+              "categorie\tNbFois\tDate\tEcart\tEcartMax\tNbEcartMax\tSuite\tSuiteMax\tNbSuiteMax\n"
+              "0\t0\t-\t4\t4\t1\t0\t0\t1\n1\t0\t-\t4\t4\t1\t0\t0\t1\n"
+              "2\t1\t20221005\t1\t2\t1\t0\t1\t1\n3\t2\t20221005\t0\t1\t2\t1\t1\t2\n"
+              "4\t0\t-\t4\t4\t1\t0\t0\t1\n5\t0\t-\t4\t4\t1\t0\t0\t1\n"
+              "6\t1\t20221003\t3\t3\t1\t0\t1\t1\n7\t0\t-\t4\t4\t1\t0\t0\t1\n"
+              "8\t0\t-\t4\t4\t1\t0\t0\t1\n9\t0\t-\t4\t4\t1\t0\t0\t1\n"
+              "10\t0\t-\t4\t4\t1\t0\t0\t1\n11\t0\t-\t4\t4\t1\t0\t0\t1\n");
+    const auto liste = lancer(Args{"nc", "liste", "05 + 09C", "--numeros", "44 3 14 25 31"});
+    EXPECT_EQ(Lignes(liste.out, 0, 1),
+              "N: 03 14 25 31 44   C: 01 02 03 04 05 06 07 08 09 \n"
+              "N: 03 14 25 31 44   C: 01 02 03 04 05 06 07 08 10 \n");
+    EXPECT_EQ(std::count(liste.out.begin(), liste.out.end(), '\n'), 10);
+
+    // 7 with 20 came out, 1 with 31 did not; the Chance 1 came out, 2 did not.
+    const std::string deux = "N: 01 02 03 04 31   C: 02 \n", un = "N: 01 02 03 04 31   C: 01 \n";
+    poser(dossier / "l.dat", "N: 02 03 04 07 20   C: 02 \n" + un + deux);
+    EXPECT_EQ(lancer("--base quatre.csv nc filtre0 l.dat").out, un + deux);
+    EXPECT_EQ(lancer("--base quatre.csv nc sorties l.dat").out, deux);
+    EXPECT_EQ(lancer("--base quatre.csv --de 2 --a 3 nc sorties l.dat").out, un + deux);
+    const auto ecrire = [&](int taille, const std::vector<Combinaison>& lignes) {
+        Liste combinaisons = ListeDeCombinaisons(taille, lignes);
+        combinaisons.DebutListe = combinaisons.FinListe = 1;
+        ASSERT_TRUE(SauverListe(combinaisons, dossier / "c.lst"));
+    };
+    ecrire(5, {{{7, 20, 2, 3, 4}, 0}, {{1, 2, 3, 4, 31}, 0}});
+    EXPECT_EQ(lancer("--base quatre.csv nc jamais c.lst").out,
+              "N: 01 02 03 04 31   C: 01 02 03 04 05 06 07 08 09 10 \n");
+    ecrire(4, {{{1, 2, 3, 4}, 0}});
+    refuse(std::string("nc jamais c.lst"), "tient des combinaisons de 4 numéros");
+    poser(dossier / "l.dat", un + "N: 01 02 03 04 50   C: 01 \n");
+    refuse(std::string("nc filtre0 l.dat"), "ligne 2, le numéro 50 n'existe pas");
+    refuse(Args{"nc", "table", "--numeros", "1 2 3 4 5 6 7", "--chances", "1 2 3 4 5 6 7 8 9"},
+           "Une grille 07 + 09C n'est pas vendue");
+    refuse(Args{"nc", "table", "--numeros", "1 2 3 4 5", "--chances", "11"},
+           "« 11 » n'est pas une chance de 1 à 10");
+    refuse(Args{"nc", "liste", "06 + 01C", "--numeros", "1 2 3 4 5"},
+           "Une grille 06 + 01C prend 6 numéros");
 }
 
 TEST_F(Cli, HistoriqueDansChaqueFormat) {

@@ -80,6 +80,13 @@ struct Essai {
             {'C', [&] { return dire(saisie.consulter()); }},
             {'l', [&] { return saisie.choisirListe(n == 1), ""; }},
             {'b', [&] { return copier(n); }},
+            {'A',
+             [&] {
+                 const auto refus = saisie.peutAjouterAuStock();
+                 saisie.ajouterAuStock(Ticket(n));
+                 return dire(refus);
+             }},
+            {'P', [&] { return saisie.consulterStock(n), ""; }},
             {'w', [&] { return echec(saisie.sauver(dossier / "a.grl")); }},
             {'g', [&] { return echec(saisie.ouvrirGrilles(dossier / "a.grl")); }},
             {'r', [&] { return echec(saisie.ouvrirRecu(FichierRecu(dossier.chemin(), n))); }}};

@@ -10,6 +10,8 @@ constexpr const char* Incomplete = "La grille en cours n'est pas complète...";
 constexpr const char* Aucune = "Aucune grille sélectionnée...";
 constexpr const char* EnSelection =
     "Terminez le Mode Sélection dans l'onglet Résultats pour utiliser cette fonctionnalité.";
+constexpr const char* AjoutEnSelection =
+    "Pas d'ajout de combinaisons possible dans les bulletins en Mode Sélection...";
 
 struct Cas {
     const char* evenements;
@@ -119,6 +121,17 @@ TEST(SaisieBillets, ConsultationCopieEtFichiers) {
         {"b0", "0 combinaisons copiées...", "Normal 0/0 _ [] recu[] choix[]"},
         {"E0 t3 f w b0", "0 combinaisons copiées...", "Consultation 1/1 t3 [t3] recu[] choix[t3]"},
         {"E1 t3 f b1", EnSelection, "JokerCompte 1/1 _ [t3] recu[t3] choix[]"},
+        // One grid by itself: the stock is then what is worked on.
+        {"A3 A4", "", "Normal 2/2 _ [t3 t4] recu[] choix[t3 t4]*"},
+        {"E1 t4 Q A3", "", "Normal 1/1 _ [t3] recu[t4] choix[t3]*"},
+        {"E0 t3 f w C A5", "", "Consultation 2/2 t5 [t3 t5] recu[] choix[t3 t5]*"},
+        {"E1 t4 a t5 Q C A3", "", "Consultation 1/1 t3 [t3] recu[t4 t5] choix[t3]*"},
+        {"E0 A4", AjoutEnSelection, "Grilles 1/1 _ [_] recu[] choix[]"},
+        {"E1 t4 f A3", AjoutEnSelection, "JokerCompte 1/1 _ [t4] recu[t4] choix[]"},
+        {"A3 A4 E1 t5 Q P2", "", "Consultation 2/2 t4 [t3 t4] recu[t5] choix[t3 t4]*"},
+        {"A3 P9 P0", "", "Consultation 1/1 t3 [t3] recu[] choix[t3]*"},
+        {"P1", "", "Normal 0/0 _ [] recu[] choix[]"},
+        {"A3 E1 P1", "", "Recu 1/1 _ [_] recu[] choix[t3]*"},
         // Files: saved during an entry, the entry; a load takes the mark and the place of the
         // stock.
         {"E0 t3 a t4 f w E0 t5 f g", "", "Consultation 1/2 t3 [t3 t4] recu[] choix[t3 t4]"},
@@ -168,6 +181,7 @@ TEST(SaisieBillets, CeQuiSeDemandeAvant) {
         {"E0 t3 f", "-grc"}, {"C", "bg-c"},  {"f", "bgrc"},      {"E0", "bg--"},
         {"f E1 t4", "----"}, {"f", "----"},  {"f l0", "bgrc"},   {"l1", "--rc"},
         {"l0 C", "bgrc"},    {"l1", "--rc"}, {"f E0 f", "-grc"}, {"C S", "bgr-"},
+        {"f l1", "--rc"},    {"A3", "bgrc"},
     };
     Essai b;
     for (const auto& [evenements, offert] : listes) {
@@ -177,6 +191,19 @@ TEST(SaisieBillets, CeQuiSeDemandeAvant) {
         for (std::size_t i = 0; i < 4; ++i)
             EXPECT_EQ(vrais[i], offert[i] != '-') << evenements << ' ' << i;
     }
+}
+
+TEST(SaisieBillets, PlaceDansLeStockEtStockPlein) {
+    Essai e;
+    e.jouer("A3 A4 A5 A4");
+    EXPECT_EQ(e.saisie.placeDansStock(FaireGrille({4, 5, 6, 7, 8}, {5}, true)), 2);
+    EXPECT_EQ(e.saisie.placeDansStock(FaireGrille({4, 5, 6, 7, 8}, {5, 6}, false)), 0);
+    EXPECT_EQ(e.saisie.placeDansStock(FaireGrille({4, 5, 6, 7, 9}, {5}, false)), 0);
+    e.billets.ListeChoix.resize(9998, Ticket(3));
+    EXPECT_EQ(e.jouer("A6 A7"),
+              "Vous avez atteint la capacité maximum pour la mise en mémoire de grilles...");
+    EXPECT_EQ(e.saisie.placeDansStock(Ticket(6)), 9999);
+    EXPECT_EQ(e.billets.ListeChoix.size(), 9999U);
 }
 
 // Every pair of counts: what is sold, or may become so.

@@ -10,6 +10,7 @@
 #include "combinaisons/PageCombinaisons.h"
 #include "graphes/PageGraphes.h"
 #include "historiques/PageHistoriques.h"
+#include "nc/PageNC.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
 #include "systemes/PageSystemes.h"
@@ -27,12 +28,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
     [](Contexte& c, QWidget* p) -> Page* { return new PageStats(c, GenreStats::Numeros, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageStats(c, GenreStats::Chances, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageCombinaisons(c, p); },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo9"_s, u"Combinaisons N + C"_s,
-                              u"Cette page donnera les combinaisons de numéros et de chances, "
-                              u"leurs sorties par catégorie de gain et leurs filtres."_s,
-                              p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageNC(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageAnalyses(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },

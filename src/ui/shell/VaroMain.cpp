@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QLabel>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -20,6 +21,7 @@
 #include "common/Mode.h"
 #include "common/Theme.h"
 #include "dialogs/AboutBox.h"
+#include "dialogs/MiseAJourTirages.h"
 #include "pages/Pages.h"
 #include "shell/Aide.h"
 #include "stats/TableauStats.h"
@@ -45,6 +47,8 @@ TVaroMainForm::TVaroMainForm(Atelier& atelier, Services& services, Instance* ins
 
     aide_ = new Aide(contexte_, this);
     aPropos_ = new TAboutBox(contexte_, this);
+    miseAJour_ = new MiseAJourTirages(contexte_, this);
+    setAcceptDrops(true);
     creerPages();
     creerMenus();
     creerEtat();
@@ -98,6 +102,7 @@ void TVaroMainForm::creerEtat() {
     progression_->setMaximumHeight(barre->fontMetrics().height());
     progression_->setTextVisible(false);
     progression_->hide();
+    miseAJour_->poserJauge(progression_);
     intervalle_ = new QLabel(barre);
     intervalle_->setObjectName(u"PanneauIntervalle"_s);
     intervalle_->setContentsMargins(Unite, 0, Unite, 0);
@@ -208,6 +213,21 @@ void TVaroMainForm::direAvertissements() {
 void TVaroMainForm::fermerSansQuestion() {
     fermeture_.sansQuestion = true;
     close();
+}
+
+void TVaroMainForm::dragEnterEvent(QDragEnterEvent* evenement) {
+    const QList<QUrl> urls = evenement->mimeData()->urls();
+    if (urls.size() == 1 && urls[0].isLocalFile() &&
+        MiseAJourTirages::accepte(urls[0].toLocalFile()))
+        evenement->acceptProposedAction();
+}
+
+void TVaroMainForm::dropEvent(QDropEvent* evenement) {
+    evenement->acceptProposedAction();
+    // Whoever let it go is not kept waiting by a message.
+    QTimer::singleShot(0, miseAJour_, [this, fichier = evenement->mimeData()->urls()[0]] {
+        miseAJour_->importer(fichier.toLocalFile());
+    });
 }
 
 void TVaroMainForm::closeEvent(QCloseEvent* evenement) {

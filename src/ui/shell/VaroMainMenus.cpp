@@ -11,6 +11,7 @@
 
 #include "common/Theme.h"
 #include "dialogs/AboutBox.h"
+#include "dialogs/MiseAJourTirages.h"
 #include "shell/Aide.h"
 #include "shell/VaroMain.h"
 #include "widgets/EtiquetteMode.h"
@@ -35,6 +36,11 @@ constexpr std::array<ChoixApparence, 3> Apparences = {{
 
 void TVaroMainForm::creerMenus() {
     auto* fichier = menuBar()->addMenu(u"&Fichier"_s);
+    auto* archive = fichier->addAction(u"&Importer une archive de tirages..."_s, miseAJour_,
+                                       &MiseAJourTirages::choisirFichier);
+    archive->setObjectName(u"ActionImporter"_s);
+    archive->setStatusTip(u"Ajouter à la base les tirages d'une archive officielle (zip ou csv)"_s);
+    fichier->addSeparator();
     auto* quitter = fichier->addAction(u"&Quitter"_s, this, &TVaroMainForm::ExitClick);
     quitter->setObjectName(u"Exit"_s);
     quitter->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

@@ -101,6 +101,13 @@ QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option, const QM
 
 // ------------------------------------------------------------------------------------------- view
 
+void peindreInvite(QWidget& boite, const QString& invite) {
+    QPainter p(&boite);
+    p.setPen(teintes(boite.palette()).discret);
+    p.drawText(boite.rect().adjusted(3 * Unite, 3 * Unite, -3 * Unite, -3 * Unite),
+               int{Qt::AlignCenter} | int{Qt::TextWordWrap}, invite);
+}
+
 ListeCombinaisons::ListeCombinaisons(const QString& nom, QWidget* parent)
     : QListView(parent), modele_(new ModeleCombinaisons(this)) {
     setObjectName(nom);
@@ -125,11 +132,7 @@ void ListeCombinaisons::poserInvite(const QString& invite) {
 
 void ListeCombinaisons::paintEvent(QPaintEvent* evenement) {
     QListView::paintEvent(evenement);
-    if (modele_->rowCount() > 0 || invite_.isEmpty()) return;
-    QPainter p(viewport());
-    p.setPen(teintes(palette()).discret);
-    p.drawText(viewport()->rect().adjusted(3 * Unite, 3 * Unite, -3 * Unite, -3 * Unite),
-               int{Qt::AlignCenter} | int{Qt::TextWordWrap}, invite_);
+    if (modele_->rowCount() == 0) peindreInvite(*viewport(), invite_);
 }
 
 void ListeCombinaisons::currentChanged(const QModelIndex& actuel, const QModelIndex& ancien) {

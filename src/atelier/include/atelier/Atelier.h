@@ -19,6 +19,7 @@
 #include "comb/Selection.h"
 #include "lists/Liste.h"
 #include "lists/Tri.h"
+#include "slips/EtatBulletins.h"
 #include "stats/Occurrences.h"
 #include "systems/Systeme.h"
 #include "tickets/CombinaisonsNC.h"
@@ -76,6 +77,7 @@ struct Atelier {
 
     Billets billets;                ///< tickets, and what is unsaved of them
     SaisieBillets saisie{billets};  ///< their entry and consultation
+    EtatBulletins bulletins;        ///< the play slips that the working list fills
     CombinaisonsNC nc;              ///< what is looked at as tickets of numbers and chances
     Cases choixLibre;               ///< the free choice of numbers and chances
     int TirageActif = -1;           ///< record on show on the page of results, -1 for none

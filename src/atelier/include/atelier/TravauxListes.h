@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The files of the four lists as long work: jobs to be started by whoever shows them. Their kind is
-// GenreTravail::Fichier, their list the one that is read or written; their progress runs 0..100.
+// GenreTravail::Fichier, their list the one that is read or written.
 #pragma once
 
 #include <filesystem>

@@ -25,7 +25,8 @@ inline constexpr const char* ExtensionListe = "lst";
 /// one plain member, one that unpacks beyond the memory at hand, words for numbers, a size, a mode
 /// or an interval out of range, more or fewer words than its records take (the count lies, the file
 /// is cut short, or the prizes were others when it was made), numbers that are not 1..49 ascending,
-/// a stop. Nothing is allocated on the word of a count alone. Progress runs 0..100.
+/// a stop. Nothing is allocated on the word of a count alone. Progress runs 0..200: the file
+/// unpacked, then read.
 Resultat<Liste> OuvrirListe(const std::filesystem::path& fichier, FormeGains gains,
                             const Suivi& suivi = {});
 

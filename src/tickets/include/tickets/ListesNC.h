@@ -31,8 +31,8 @@ void AfficherListeNE(std::vector<LigneNC>& liste, Ensemble numeros, TypeGrille t
 /// The same behind what it holds.
 void AfficherListeNEAppend(std::vector<LigneNC>& liste, Ensemble numeros, TypeGrille type);
 
-/// What came out over draws inf..sup (one-based, 1 <= inf <= sup <= NbTirages), as far as the
-/// filters ask: which numbers met in a draw, and which chances came out.
+/// What came out over draws inf..sup (one-based; none when sup is below inf), as far as the filters
+/// ask: which numbers met in a draw, and which chances came out.
 class SortiesNC {
  public:
     SortiesNC(const Base& base, int inf, int sup);
@@ -57,12 +57,18 @@ void FiltrerGagnantes(std::vector<LigneNC>& liste, const SortiesNC& sorties);
 /// Keeps the lines that never made a category 0 to 9.
 void SupprSorties(std::vector<LigneNC>& liste, const SortiesNC& sorties);
 
+/// What a search found before its end, or before it was stopped.
+struct Trouvees {
+    std::vector<LigneNC> lignes;
+    bool arretee = false;
+};
+
 /// "00!": of `nombre` combinations of five numbers, those that with all chances never made a
 /// category 0 to 7, in their order. `combinaison` gives the one of an index, 0 to nombre - 1, and
 /// is called once each, rising. A stop leaves those found so far. Progress runs 0..100.
-std::vector<LigneNC> JamaisSorties(const SortiesNC& sorties, std::size_t nombre,
-                                   const std::function<Ensemble(std::size_t)>& combinaison,
-                                   const Suivi& suivi = {});
+Trouvees JamaisSorties(const SortiesNC& sorties, std::size_t nombre,
+                       const std::function<Ensemble(std::size_t)>& combinaison,
+                       const Suivi& suivi = {});
 
 /// The lines of a list file, one a line.
 std::string TexteListeNC(std::span<const LigneNC> liste);

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -179,6 +180,9 @@ class SaisieBillets {
     void choisirListe(bool recu);
     /// Before a copy is prepared.
     Reponse peutCopier() const;
+    /// Changes stakes in the working list, and nothing else: what it copies and the ticket on show
+    /// follow. Nothing happens where peutCopier() refuses.
+    void changerMises(const std::function<void(std::span<Grille>)>& changer);
     /// Appends to the stock as far as it has room, and shows it in consultation.
     Copie CopierversBulletins(std::span<const Grille> grilles);
     /// Before a single grid goes to the stock by itself: during an entry, or with the stock full.

@@ -52,9 +52,7 @@ void VueRapport::montrer(std::shared_ptr<const Document> document, const MiseEnF
     const QPointer<QTextDocument> ancien = QTextBrowser::document();
     auto* texte = new QTextDocument(this);
     composer(*texte, *document_, forme);
-    QPalette couleurs = palette();
-    couleurs.setColor(QPalette::Base, QColor::fromRgb(FondDe(forme.jeu)));
-    setPalette(couleurs);
+    couleur_ = QColor::fromRgb(FondDe(forme.jeu));
     setDocument(texte);
     delete ancien.data();
     retrouver(place);
@@ -120,12 +118,13 @@ void VueRapport::poserFond(const QPixmap& fond) {
 }
 
 void VueRapport::paintEvent(QPaintEvent* evenement) {
-    if (!fond_.isNull()) {
+    {
         QPainter p(viewport());
         p.setClipRegion(evenement->region());
+        p.fillRect(evenement->rect(), couleur_);
         // It scrolls with the text: what stays on the screen is moved there, not painted anew.
-        p.drawTiledPixmap(viewport()->rect(), fond_,
-                          QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value()));
+        const QPoint debut(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        if (!fond_.isNull()) p.drawTiledPixmap(viewport()->rect(), fond_, debut);
     }
     QTextBrowser::paintEvent(evenement);
 }
@@ -133,8 +132,10 @@ void VueRapport::paintEvent(QPaintEvent* evenement) {
 void VueRapport::contextMenuEvent(QContextMenuEvent* evenement) {
     QTextCursor curseur = cursorForPosition(evenement->pos());
     curseur.select(QTextCursor::WordUnderCursor);
-    const QString mot = curseur.selectedText().trimmed();
-    mot_->setText(mot.isEmpty() ? u"&Mot cliqué"_s : QString(mot).replace(u'&', u"&&"_s));
+    const QString mot = curseur.selectedText();
+    // The lines of a box are no word.
+    const bool lisible = std::ranges::any_of(mot, [](QChar c) { return c.isLetterOrNumber(); });
+    mot_->setText(lisible ? QString(mot).replace(u'&', u"&&"_s) : u"&Mot cliqué"_s);
     copier_->setEnabled(textCursor().hasSelection());
     menu_->popup(evenement->globalPos());
 }

@@ -52,6 +52,7 @@ class VueRapport final : public QTextBrowser {
     void creerMenu();
 
     std::shared_ptr<const Document> document_;
+    QColor couleur_ = Qt::white;  // of the ground
     QPixmap fond_;
     QMenu* menu_;
     QAction* mot_;

@@ -49,6 +49,7 @@ QByteArray svg(const SceneGraphe& scene, const StyleGraphe& style, const QSize& 
     memoire.open(QIODevice::WriteOnly);
     QSvgGenerator dessin;
     dessin.setOutputDevice(&memoire);
+    dessin.setResolution(96);
     dessin.setSize(taille);
     dessin.setViewBox(QRect(QPoint(), taille));
     dessin.setTitle(scene.titre);

@@ -163,6 +163,8 @@ constexpr auto Regles = std::to_array<RegleCommande>({
      u"Abandonner la saisie en cours"},
     {"MajBaseManuelle", EtatNormal, nullptr, Visible, Actif, MiseAJour, IndiceMiseAJour},
     {"MajBaseManuelle", Tous, nullptr, Visible, Inactif, MiseAJour, IndiceMiseAJour},
+    {"Majweb", EtatModification, nullptr, Cache, Actif},
+    {"Majweb", Tous, nullptr, Visible, Actif},
     {"Button75", EtatModification, nullptr, Cache, Actif},
     {"Button75", Libres, &Situation::filtre, Visible, Actif, BaseTotale, IndiceBaseTotale},
     {"Button75", Libres, nullptr, Visible, Actif, Filtrer, IndiceFiltrer, SansTouche},

@@ -4,6 +4,7 @@
 #include "resultats/PageResultats.h"
 
 #include <QHBoxLayout>
+#include <QPushButton>
 
 #include "common/Theme.h"
 #include "resultats/CalculGains.h"
@@ -11,12 +12,13 @@
 #include "resultats/CommandesEdition.h"
 #include "resultats/FicheGrille.h"
 #include "resultats/PanneauAleatoire.h"
+#include "resultats/PanneauInternet.h"
 #include "resultats/PanneauJoker.h"
 #include "resultats/PanneauRapports.h"
 #include "resultats/PanneauTirage.h"
-#include "resultats/RangeeBase.h"
 #include "resultats/RangeeCommandes.h"
 #include "resultats/TextesBillets.h"
+#include "widgets/Fiche.h"
 #include "widgets/PlancheNumeros.h"
 
 namespace norvane::ui {
@@ -48,10 +50,12 @@ void PageResultats::construire() {
     rapports_->ajouter(joker_);
     fiche_ = new FicheGrille(this);
     rangee_ = new RangeeCommandes(this);
-    rangeeBase_ = new RangeeBase(this);
+    filtre_ = bouton(u"Button75"_s, u"&Filtrer la base des tirages"_s,
+                     u"Filtrer la base des tirages"_s, this);
 
     auto* gauche = new QVBoxLayout;
     gauche->setSpacing(2 * Unite);
+    gauche->addLayout(rangee({internet_ = new PanneauInternet(contexte, this), filtre_}));
     gauche->addWidget(tirage_);
     gauche->addWidget(planche_, 1);
     auto* droite = new QVBoxLayout;
@@ -67,7 +71,6 @@ void PageResultats::construire() {
     page->setSpacing(2 * Unite);
     page->addLayout(haut, 1);
     page->addWidget(rangee_);
-    page->addWidget(rangeeBase_);
 }
 
 void PageResultats::relierTirage() {
@@ -136,7 +139,7 @@ void PageResultats::relierEdition() {
             &CommandesEdition::MajBaseManuelleClick);
     connect(rangee_, &RangeeCommandes::AjoutLibreClick, this,
             [this] { edition_->AjoutLibreClick(tirage_->choix().place()); });
-    connect(rangeeBase_, &RangeeBase::Button75Click, edition_, &CommandesEdition::Button75Click);
+    connect(filtre_, &QPushButton::clicked, edition_, &CommandesEdition::Button75Click);
     connect(rapports_, &PanneauRapports::VideRapportsClick, edition_,
             &CommandesEdition::VideRapportsClick);
     connect(rapports_, &PanneauRapports::celluleSaisie, edition_, &CommandesEdition::poserRapport);
@@ -152,6 +155,7 @@ void PageResultats::premierAffichage() {
 
 void PageResultats::surChange(const Changement& changement) {
     if (changement.base) {
+        internet_->suivre();
         lever(marques_);
         tirage_->reprendre();
     } else if (changement.reglages) {

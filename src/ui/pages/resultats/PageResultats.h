@@ -10,6 +10,8 @@
 #include "pages/Page.h"
 #include "resultats/EtatsCommandes.h"
 
+class QPushButton;
+
 namespace norvane::ui {
 
 class CalculGains;
@@ -17,11 +19,11 @@ class CommandesBillets;
 class CommandesEdition;
 class FicheGrille;
 class PanneauAleatoire;
+class PanneauInternet;
 class PanneauJoker;
 class PanneauRapports;
 class PanneauTirage;
 class PlancheNumeros;
-class RangeeBase;
 class RangeeCommandes;
 
 class PageResultats final : public Page {
@@ -68,6 +70,7 @@ class PageResultats final : public Page {
     Cases marques_;              ///< what of the free choice goes up with its light
     EtatTickets etatMontre_ = EtatTickets::Normal;
 
+    PanneauInternet* internet_ = nullptr;
     PanneauTirage* tirage_ = nullptr;
     PlancheNumeros* planche_ = nullptr;
     PanneauRapports* rapports_ = nullptr;
@@ -77,7 +80,7 @@ class PageResultats final : public Page {
     RangeeCommandes* rangee_ = nullptr;
     CommandesBillets* billets_ = nullptr;
     CalculGains* gains_ = nullptr;
-    RangeeBase* rangeeBase_ = nullptr;
+    QPushButton* filtre_ = nullptr;
     CommandesEdition* edition_ = nullptr;
     std::unique_ptr<EtatsCommandes> commandes_;
 };

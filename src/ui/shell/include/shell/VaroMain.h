@@ -22,6 +22,7 @@ namespace norvane::ui {
 class Aide;
 class EtiquetteMode;
 class Page;
+class MiseAJourTirages;
 class TAboutBox;
 
 class TVaroMainForm final : public QMainWindow {
@@ -50,6 +51,9 @@ class TVaroMainForm final : public QMainWindow {
  protected:
     void showEvent(QShowEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
+    /// An official archive may be dropped anywhere on the window.
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
     bool event(QEvent* evenement) override;
 
  private:
@@ -80,6 +84,7 @@ class TVaroMainForm final : public QMainWindow {
     int pagePrecedente_ = 0;
     EtiquetteMode* mode_ = nullptr;
     Aide* aide_ = nullptr;
+    MiseAJourTirages* miseAJour_ = nullptr;
     TAboutBox* aPropos_ = nullptr;
     QLabel* texteEtat_ = nullptr;
     QLabel* intervalle_ = nullptr;

@@ -67,6 +67,9 @@ class DelegueCombinaisons final : public QStyledItemDelegate {
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
+/// What an empty list says, in the middle of its viewport.
+void peindreInvite(QWidget& boite, const QString& invite);
+
 class ListeCombinaisons final : public QListView {
     Q_OBJECT
 
