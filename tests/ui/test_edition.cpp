@@ -26,7 +26,7 @@ void taper(TableRapports* table, int rang, int colonne, const QString& texte) {
     editeur->selectAll();
     QTest::keyClicks(editeur, texte);
     QTest::keyClick(editeur, Qt::Key_Return);
-    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 /// Does something in the filter's dialog, which it closes, while Button75 has it open.

@@ -37,7 +37,9 @@ class DelegueMarge final : public QStyledItemDelegate {
     /// The number without its separators and its currency.
     void setEditorData(QWidget* editeur, const QModelIndex& place) const override {
         const QString nombre = place.data().toString().section(u' ', 0, 0).remove(QChar::Nbsp);
-        qobject_cast<QLineEdit*>(editeur)->setText(nombre);
+        auto* champ = qobject_cast<QLineEdit*>(editeur);
+        champ->setAlignment(Qt::AlignRight);
+        champ->setText(nombre);
     }
     void setModelData(QWidget* editeur, QAbstractItemModel*,
                       const QModelIndex& place) const override {

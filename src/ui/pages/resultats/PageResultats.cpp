@@ -50,8 +50,12 @@ void PageResultats::construire() {
     rapports_->ajouter(joker_);
     fiche_ = new FicheGrille(this);
     rangee_ = new RangeeCommandes(this);
-    filtre_ = bouton(u"Button75"_s, u"&Filtrer la base des tirages"_s,
-                     u"Filtrer la base des tirages"_s, this);
+    // Made for the longer of its captions: neither it nor its going moves what stands beside.
+    filtre_ = bouton(u"Button75"_s, u"Retour à la base totale des tirages"_s, {}, this);
+    filtre_->setMinimumHeight(0);
+    QSizePolicy garde = filtre_->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    filtre_->setSizePolicy(garde);
 
     auto* gauche = new QVBoxLayout;
     gauche->setSpacing(2 * Unite);

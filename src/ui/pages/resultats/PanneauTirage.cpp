@@ -212,6 +212,7 @@ void PanneauTirage::saisir(const SaisieTirage* saisie) {
     if (avant == saisie_.has_value()) return;  // what is typed in the field stays as it is
     joker_->setInputMask(avant ? QString() : MasqueJoker);
     joker_->setText(avant ? texteJoker() : versQt(saisie_->joker));
+    joker_->setCursorPosition(0);
 }
 
 void PanneauTirage::viserJoker() {
