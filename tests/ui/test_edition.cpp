@@ -21,11 +21,14 @@ namespace {
 void taper(TableRapports* table, int rang, int colonne, const QString& texte) {
     table->setCurrentCell(rang, colonne);
     table->editItem(table->item(rang, colonne));
-    auto* editeur = table->findChild<QLineEdit*>();
+    const QModelIndex cellule = table->model()->index(rang, colonne);
+    auto* editeur = qobject_cast<QLineEdit*>(table->indexWidget(cellule));
     QVERIFY(editeur != nullptr);
     editeur->selectAll();
+    QTest::keyClick(editeur, Qt::Key_Delete);
     QTest::keyClicks(editeur, texte);
     QTest::keyClick(editeur, Qt::Key_Return);
+    QCoreApplication::processEvents();  // the editor gives its text when all keys are done
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -104,7 +107,12 @@ class TestEdition final : public EssaisQt {
         QCOMPARE(table->item(2, 2)->text(), u"5\u00A0678,50 €"_s);
         table->editItem(table->item(2, 2));
         QCOMPARE(table->findChild<QLineEdit*>()->text(), u"5678,50"_s);
+        QTest::keyClick(table->findChild<QLineEdit*>(), Qt::Key_Escape);
         taper(table, 2, TableRapports::Gagnants, u""_s);
+        e.cliquer({u"AjoutLibre"});
+        QCOMPARE(e.demandes(),
+                 QStringList{u"Tous les champs du tableau des rapports ne sont pas remplis."_s});
+        taper(table, 2, TableRapports::Gagnants, u"1234"_s);
         auto* joker = e.de<QLineEdit>(u"MaskEdit1"_s);
         QVERIFY(!joker->isReadOnly());
         joker->clear();

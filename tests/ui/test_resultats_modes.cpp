@@ -138,7 +138,7 @@ class TestResultatsModes final : public EssaisQt {
             u"|&Vérifier gains|C&onsultation|&Choix libre|Tirage au sort de grilles"_s;
         const QString selection = u"Mode Sélection|"_s;
         const QString retour = selection + u"Retour au mode Normal"_s;
-        cas("normal", Normal, {}, u"+++++ +.. .-++... ++...++-+-+ ..+"_s,
+        cas("normal", Normal, {}, u"+++++ +.. .-++... ++...++-+++ ..+"_s,
             u"Mode Normal|&Vérifier gains|C&onsultation|&Choix libre|Rapports du 2nd Tirage"_s);
         cas("choix", Normal, u"ReInit"_s, u"----+ +.. .-..... +.+..------ ..-"_s,
             u"Mode Normal|&Vérifier gains|C&onsultation|&OK!|Rapports du 2nd Tirage"_s);
@@ -239,7 +239,7 @@ class TestResultatsModes final : public EssaisQt {
         QCOMPARE(tour.join(u' '),
                  u"DateTimePicker ComboBox3 EditTirGlob MaskEdit1 Button40 AdvStringGrid8 "
                  u"RadioButtonSimple ReInit CommunsButton VerifGains ChargerGrilles SelectGrilles "
-                 u"Consultation MajBaseManuelle Button75"_s);
+                 u"Consultation MajBaseManuelle Majweb Button75"_s);
         e.cliquer({u"ReInit"});
         e.de(u"Button40"_s)->setFocus();
         aller(Qt::Key_Return);

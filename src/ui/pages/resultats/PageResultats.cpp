@@ -41,6 +41,13 @@ PageResultats::PageResultats(Contexte& ctx, QWidget* parent)
 }
 
 void PageResultats::construire() {
+    internet_ = new PanneauInternet(contexte, this);
+    // Made for the longer of its captions: neither it nor its going moves what stands beside.
+    filtre_ = bouton(u"Button75"_s, u"Retour à la base totale des tirages"_s, {}, this);
+    filtre_->setMinimumHeight(0);
+    QSizePolicy garde = filtre_->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    filtre_->setSizePolicy(garde);
     tirage_ = new PanneauTirage(contexte, this);
     planche_ = new PlancheNumeros(this);
     rapports_ = new PanneauRapports(contexte, this);
@@ -50,16 +57,10 @@ void PageResultats::construire() {
     rapports_->ajouter(joker_);
     fiche_ = new FicheGrille(this);
     rangee_ = new RangeeCommandes(this);
-    // Made for the longer of its captions: neither it nor its going moves what stands beside.
-    filtre_ = bouton(u"Button75"_s, u"Retour à la base totale des tirages"_s, {}, this);
-    filtre_->setMinimumHeight(0);
-    QSizePolicy garde = filtre_->sizePolicy();
-    garde.setRetainSizeWhenHidden(true);
-    filtre_->setSizePolicy(garde);
 
     auto* gauche = new QVBoxLayout;
     gauche->setSpacing(2 * Unite);
-    gauche->addLayout(rangee({internet_ = new PanneauInternet(contexte, this), filtre_}));
+    gauche->addLayout(rangee({internet_, filtre_}));
     gauche->addWidget(tirage_);
     gauche->addWidget(planche_, 1);
     auto* droite = new QVBoxLayout;

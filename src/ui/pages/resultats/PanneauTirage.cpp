@@ -217,7 +217,8 @@ void PanneauTirage::saisir(const SaisieTirage* saisie) {
 
 void PanneauTirage::viserJoker() {
     joker_->setFocus();
-    joker_->setCursorPosition(0);
+    joker_->setCursorPosition(
+        static_cast<int>(std::max<qsizetype>(joker_->displayText().indexOf(u'_'), 0)));
 }
 
 void PanneauTirage::montrerCellules() {
