@@ -131,7 +131,9 @@ class TestEdition final : public EssaisQt {
         QCOMPARE(e.mode(), Mode::AjoutLibre);
         QVERIFY(joker->isReadOnly());
         const Tirage& t = e.record(n - 2);
-        QCOMPARE(ecartAvec(e, n - 2), QString());
+        QCOMPARE(e.numero()->text(), QString::number(n - 1));
+        QCOMPARE(e.texte(u"LabelTirageFixeNum"_s), u"89"_s);
+        QCOMPARE(e.allumes(), boutonsDe(t));
         QVERIFY(std::ranges::equal(t.Numeros, std::array{1, 2, 3, 4, 40}) && t.Chance == 10);
         QCOMPARE(t.Joker, 1234567);
         QCOMPARE(e.base().Rapports[static_cast<std::size_t>(n - 2)][2], (Rapport{1234, 5678.5}));
