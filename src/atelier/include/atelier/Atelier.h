@@ -50,7 +50,7 @@ struct EtatMoteur {
     EtatCombinaisons combinaisons;
 };
 
-struct Atelier {
+struct Atelier {  // NOLINT(clang-analyzer-optin.performance.Padding): one of it, for readers
     std::filesystem::path Repertoire;  ///< the program's directory; every file is relative to it
     Configuration configuration;
     Base base;
@@ -73,6 +73,8 @@ struct Atelier {
     Liste ListeExtremes;
     Liste ListeMemoire;
     std::array<Liste, 3> ListeTampon;
+    bool GlisserVerrouille = false;  ///< lines cannot be dragged, and a click only selects them
+    EtatTri TriVoulu{.TypeTriListe = TypeTri::Simple};  ///< that new main lists take; Sans: none
     TriEcartAvance triEcartAvance;  ///< switched off by a change of the interval
 
     Billets billets;                ///< tickets, and what is unsaved of them
