@@ -70,10 +70,34 @@ QRectF surPapier(const CaseBulletin& c) {
             c.cote * UnitesParMm};
 }
 
+/// What a row of option boxes is headed with; nothing inside a grid.
+QString titreRangee(BlocBulletin bloc) {
+    switch (bloc) {
+        case BlocBulletin::Semaines:
+            return u"SEMAINES"_s;
+        case BlocBulletin::Joker1:
+            return u"JOKER+ 1"_s;
+        case BlocBulletin::Joker2:
+            return u"JOKER+ 2"_s;
+        case BlocBulletin::Jour:
+            return u"JOURS"_s;
+        default:
+            return {};
+    }
+}
+
 void peindreCases(QPainter& p, const GeometrieBulletin& geometrie) {
     p.setBrush(Qt::NoBrush);
     reglerTexte(p, geometrie.grille.cote * UnitesParMm * PartTexte);
-    for (const CaseBulletin& c : geometrie.cases()) peindreCase(p, c.bloc, c.valeur, surPapier(c));
+    QString titre;
+    for (const CaseBulletin& c : geometrie.cases()) {
+        const QRectF cadre = surPapier(c);
+        peindreCase(p, c.bloc, c.valeur, cadre);
+        if (titreRangee(c.bloc) == titre) continue;
+        titre = titreRangee(c.bloc);
+        p.drawText(cadre.translated(0, -cadre.height()).adjusted(0, 0, 200, -3),
+                   Qt::AlignLeft | Qt::AlignBottom, titre);
+    }
 }
 
 void peindreMarques(QPainter& p, std::span<const CaseBulletin> marques) {
@@ -95,10 +119,11 @@ void peindreRegle(QPainter& p, double longueur, bool horizontale) {
         const double place = mm * UnitesParMm;
         p.drawLine(horizontale ? QLineF(place, 0, place, trait) : QLineF(0, place, trait, place));
         if (mm % 10 != 0 || mm == 0) continue;
+        // Beside the ruler on the left stand boxes: its figures go between the marks.
         const QRectF texte =
-            horizontale ? QRectF(place - 40, 33, 80, 22) : QRectF(2, place + 1, 40, 22);
-        p.drawText(texte, horizontale ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignLeft,
-                   QString::number(mm));
+            horizontale ? QRectF(place - 40, 33, 80, 22) : QRectF(16, place - 18, 32, 17);
+        reglerTexte(p, horizontale ? 20 : 14);
+        p.drawText(texte, Qt::AlignCenter, QString::number(mm));
     }
 }
 
@@ -106,6 +131,7 @@ void peindreRegle(QPainter& p, double longueur, bool horizontale) {
 void peindreControle(QPainter& p, const MiseEnPlace& mise) {
     constexpr double longueur = 50 * UnitesParMm;
     const double y = (mise.geometrie.papier.y - 14) * UnitesParMm;
+    reglerTexte(p, 2 * UnitesParMm);
     const QRectF ligne(10 * UnitesParMm, y, longueur, 4 * UnitesParMm);
     p.drawLine(ligne.topLeft(), ligne.topRight());
     for (const double x : {ligne.left(), ligne.right()}) p.drawLine(QLineF(x, y - 10, x, y + 10));
@@ -183,7 +209,6 @@ bool peindreCalibrage(QPagedPaintDevice& papier, const MiseEnPlace& mise, const 
     QPainter p;
     if (!p.begin(&papier)) return false;
     ouvrirPage(p, papier, fonte);
-    reglerTexte(p, 2 * UnitesParMm);
     p.setPen(QPen(QColor(EncreRegle), 1));
     const Place coin = mise.geometrie.papier;
     p.drawRect(QRectF(0, 0, coin.x * UnitesParMm, coin.y * UnitesParMm));
