@@ -198,8 +198,8 @@ bool PageNC::rechercheEnCours() const {
 }
 
 bool PageNC::lancer(PtrTravail travail, const QString& texte, std::function<void(Travail&)> fin) {
-    const bool lance = contexte.travaux.lancer(
-        std::move(travail), {texte, &liste_->jauge(), nullptr}, this, std::move(fin));
+    const bool lance = contexte.travaux.lancer(std::move(travail), {texte, &liste_->jauge()}, this,
+                                               std::move(fin));
     if (!lance) contexte.services.messages->MessageErreur(contexte.travaux.erreur(), u"Erreur"_s);
     return lance;
 }
