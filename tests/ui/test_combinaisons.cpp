@@ -77,9 +77,13 @@ class TestCombinaisons : public EssaisQt {
         e.mode()->setCurrentIndex(1);
         QVERIFY(e.lignes() == 0 && !e.comb(2)->isEnabled() && e.comb(3)->isEnabled());
         e.edit(3)->setText(u"5"_s);
-        std::vector<std::string> attendues;
+        std::vector<std::pair<int, std::string>> comptees;
         for (const auto& [numeros, c] : compter(base, 3, NombresSortis))
-            if (c >= 5) attendues.push_back(LigneCombinaison(numeros, c));
+            if (c >= 5) comptees.emplace_back(c, LigneCombinaison(numeros, c));
+        // Sorted as it comes: the most frequent first, equal ones by their numbers.
+        std::ranges::stable_sort(comptees, std::greater{}, &std::pair<int, std::string>::first);
+        std::vector<std::string> attendues;
+        for (const auto& [c, ligne] : comptees) attendues.push_back(ligne);
         const QString compte = u"%1 à 3 numéros"_s.arg(attendues.size());
         const auto conforme = [&] {
             for (std::size_t i = 0; i < attendues.size(); ++i)
@@ -99,10 +103,11 @@ class TestCombinaisons : public EssaisQt {
             QVERIFY(e.a.ListeMemoire.DebutListe == 1 && e.a.ListeMemoire.FinListe == 300);
             QCOMPARE(e.texte("LabelStockage"), items[item].second);
             QCOMPARE(e.texte("Label25"), u"Tri simple des combinaisons selon le premier rang"_s);
+            QCOMPARE(e.a.ListeMemoire.tri.TypeTriListe, TypeTri::Simple);
             QCOMPARE(e.lu(3), u"5"_s);  // the bounds stay the user's
         }
         // The view goes through the order; whoever changes a list tells so.
-        std::ranges::reverse(attendues);
+        std::ranges::sort(attendues, std::greater{});
         TrierLexico(e.a.ListeMemoire, false);
         e.relais.annoncer({.listes = true});
         QVERIFY(conforme());

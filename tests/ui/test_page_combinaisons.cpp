@@ -107,16 +107,19 @@ class TestPageCombinaisons : public EssaisQt {
             QCOMPARE(cellule(l, 0), QString::number(5 - l));
             QCOMPARE(cellule(l, 1), QString::number(compte(5 - l, 1, n)));
         }
-        // Double clicks lead to a draw and press nothing.
+        // Double clicks lead to the history of the rank, or to a draw and press nothing.
         const QSignalSpy demandes(&e.relais, &Relais::demande);
         const ResultatStats r =
             StatsCombinaison(e.a.base, e.a.occurrences, NumerosTries(numeros), 1, n)[0].resultat;
         for (const int c : {0, 1, 2, 6, 3, 4, 5, 7})
             Q_EMIT grille->celluleActivee(modele.index(0, c));
-        QCOMPARE(demandes.size(), 4);
+        QCOMPARE(demandes.size(), 5);
+        QVERIFY(demandes[0][0].value<Destination>() ==
+                Destination(VersHistorique{RangCombinaison{numeros, 5}, 1, n}));
         const int tirages[] = {n - r.Ecart, n - r.Ecart, r.PosEcartMax, r.PosSuiteMax};
         for (int i = 0; i < 4; ++i)
-            QVERIFY(demandes[i][0].value<Destination>() == Destination(VersTirage{tirages[i], {}}));
+            QVERIFY(demandes[i + 1][0].value<Destination>() ==
+                    Destination(VersTirage{tirages[i], {}}));
         // Its place in the list in memory.
         e.de("ButtonPosition")->click();
         QCOMPARE(e.dernier(), u"Cette combinaison n'est pas en mémoire..."_s);

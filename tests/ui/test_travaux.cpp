@@ -11,7 +11,6 @@
 #include <QTest>
 #include <thread>
 
-#include "base/Textes.h"
 #include "soutien/Banc.h"
 
 using namespace norvane::ui::essais;
@@ -49,7 +48,6 @@ struct Etabli {
     Activite activite;
     std::unique_ptr<Travaux> travaux = std::make_unique<Travaux>(activite);
     QProgressBar jauge;
-    QLabel temps{u"avant"_s};
     QObject receveur;
     std::shared_ptr<Meneur> meneur = std::make_shared<Meneur>();
     QSignalSpy textes{travaux.get(), &Travaux::texteEtat};
@@ -58,7 +56,7 @@ struct Etabli {
     QString erreur;
 
     bool lancer(QObject* pour) {
-        return travaux->lancer(travailMene(meneur), {u"En cours"_s, &jauge, &temps}, pour,
+        return travaux->lancer(travailMene(meneur), {u"En cours"_s, &jauge}, pour,
                                [this](Travail& travail) {
                                    ++fins;
                                    erreur = versQt(travail.erreur());
@@ -80,7 +78,6 @@ class TestTravaux final : public EssaisQt {
         QCOMPARE(e.travaux->enCours()->description, Description);
         QCOMPARE(e.textes.takeFirst().at(0).toString(), u"En cours"_s);
         QVERIFY(e.jauge.minimum() == 0 && e.jauge.maximum() == 40 && e.jauge.value() == 0);
-        QVERIFY(e.temps.text().isEmpty());
         for (const int position : {10, 30}) {
             e.meneur->position = position;
             QTRY_COMPARE(e.jauge.value(), position);
@@ -92,9 +89,6 @@ class TestTravaux final : public EssaisQt {
         QVERIFY(!e.occupe() && !e.activite.enCours && e.travaux->enCours() == nullptr);
         QCOMPARE(e.textes.takeFirst().at(0).toString(), QString());
         QVERIFY(e.jauge.value() < 0);  // empty
-        QCOMPARE(e.temps.text(),
-                 u"Temps de calcul : "_s + versQt(FormaterDecimal(e.travaux->duree(), 1)));
-        QVERIFY(e.travaux->duree() > 0);
         QVERIFY(e.erreur.isEmpty() && e.repos.size() == 1);
         QTest::qWait(50);  // longer than a step of the gauge
         QVERIFY(e.fins == 1 && e.jauge.value() < 0 && e.textes.isEmpty());
@@ -142,8 +136,8 @@ class TestTravaux final : public EssaisQt {
         auto* travaux = f.forme->findChild<Travaux*>();
         Activite& activite = f.banc.atelier.activite;
         const auto lancer = [&](const std::shared_ptr<Meneur>& meneur) {
-            return travaux->lancer(travailMene(meneur), {u"En cours"_s, nullptr, nullptr},
-                                   f.forme.get(), [](Travail&) {});
+            return travaux->lancer(travailMene(meneur), {u"En cours"_s}, f.forme.get(),
+                                   [](Travail&) {});
         };
         auto meneur = std::make_shared<Meneur>();
         QVERIFY(lancer(meneur));

@@ -44,34 +44,44 @@ bool accepteRemplacement(Contexte& contexte, const QString& fichier) {
                u"Faut-il le remplacer ?"_s, BoutonPropose::Non) == CodeBouton1;
 }
 
+std::filesystem::path cheminDe(const QString& fichier) {
+    return QFile::encodeName(fichier).toStdString();
+}
+
 void direEnregistre(Contexte& contexte, const QString& fait, const QString& fichier) {
     contexte.relais.dire(
         u"%1 dans « %2 »."_s.arg(fait, QDir::toNativeSeparators(QDir::cleanPath(fichier))));
 }
 
-bool enregistrerSous(Contexte& contexte, QWidget* parent, const Enregistrement& demande) {
-    QString propose = demande.propose;
+std::optional<FichierChoisi> demanderFichier(Contexte& contexte, QWidget* parent,
+                                             const QString& titre, QString propose,
+                                             const std::vector<FormatFichier>& formats) {
     for (;;) {
         QString filtre;
-        const QString choisi = contexte.services.fichiers->enregistrer(
-            parent, demande.titre, propose, filtresDe(demande.formats), filtre);
-        if (choisi.isEmpty()) return false;
-        const auto voulu = std::ranges::find(demande.formats, filtre, &FormatFichier::filtre);
-        const std::size_t defaut = voulu == demande.formats.end()
-                                       ? 0
-                                       : static_cast<std::size_t>(voulu - demande.formats.begin());
-        std::size_t format = 0;
-        const QString fichier = nomComplet(choisi, demande.formats, defaut, format);
-        propose = fichier;
-        if (!accepteRemplacement(contexte, fichier)) continue;
-        const auto ecrit = demande.ecrire(QFile::encodeName(fichier).toStdString(), format);
-        if (!ecrit) {
-            contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
-            return false;
-        }
-        direEnregistre(contexte, demande.fait, fichier);
-        return true;
+        const QString choisi = contexte.services.fichiers->enregistrer(parent, titre, propose,
+                                                                       filtresDe(formats), filtre);
+        if (choisi.isEmpty()) return std::nullopt;
+        const auto voulu = std::ranges::find(formats, filtre, &FormatFichier::filtre);
+        const std::size_t defaut =
+            voulu == formats.end() ? 0 : static_cast<std::size_t>(voulu - formats.begin());
+        FichierChoisi fichier;
+        fichier.nom = nomComplet(choisi, formats, defaut, fichier.format);
+        if (accepteRemplacement(contexte, fichier.nom)) return fichier;
+        propose = fichier.nom;
     }
+}
+
+bool enregistrerSous(Contexte& contexte, QWidget* parent, const Enregistrement& demande) {
+    const auto fichier =
+        demanderFichier(contexte, parent, demande.titre, demande.propose, demande.formats);
+    if (!fichier) return false;
+    const auto ecrit = demande.ecrire(cheminDe(fichier->nom), fichier->format);
+    if (!ecrit) {
+        contexte.services.messages->MessageErreur(versQt(ecrit.erreur()), u"Erreur"_s);
+        return false;
+    }
+    direEnregistre(contexte, demande.fait, fichier->nom);
+    return true;
 }
 
 }  // namespace norvane::ui

@@ -4,12 +4,9 @@
 #include "common/Travaux.h"
 
 #include <algorithm>
-#include <QLabel>
 #include <QProgressBar>
 #include <stdexcept>
 #include <system_error>
-
-#include "base/Textes.h"
 
 namespace norvane::ui {
 
@@ -34,7 +31,6 @@ bool Travaux::lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
     travail->surFin = [this] {
         QMetaObject::invokeMethod(this, &Travaux::finir, Qt::QueuedConnection);
     };
-    debut_ = std::chrono::steady_clock::now();
     try {
         travail->demarrer();
     } catch (const std::system_error& e) {
@@ -47,11 +43,9 @@ bool Travaux::lancer(PtrTravail&& travail, const VueTravail& vue, QObject* pour,
     travail_ = std::move(travail);
     vue_ = vue;
     jauge_ = vue.jauge;
-    temps_ = vue.temps;
     pour_ = pour;
     fin_ = std::move(fin);
     suivre();
-    if (temps_) temps_->clear();
     rythme_.start();
     Q_EMIT texteEtat(vue.texte);
     return true;
@@ -73,15 +67,10 @@ void Travaux::finir() {
     if (!travail_) return;
     travail_->attendre();
     rythme_.stop();
-    duree_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - debut_).count();
     const PtrTravail travail = std::move(travail_);
     const auto fin = std::move(fin_);
     occupation_.liberer();
     if (jauge_) jauge_->reset();
-    if (temps_) {
-        temps_->setText(u"Temps de calcul : "_s +
-                        QString::fromStdString(FormaterDecimal(duree_, 1)));
-    }
     Q_EMIT texteEtat({});
     if (pour_ && fin) fin(*travail);
     if (!activite_.occupe()) Q_EMIT repos();

@@ -4,6 +4,10 @@
 #include "widgets/ListeCombinaisons.h"
 
 #include <algorithm>
+#include <numeric>
+#include <QDrag>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -17,6 +21,25 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int Marge = 2 * Unite;  // left and right of the text of a line
 constexpr int Cadre = 3;          // pen of the selected line, in pixels
+
+/// What a drag carries: the name of the list that its lines are chosen in.
+const QString TypeLignes = u"application/x-norvane-lignes"_s;
+
+/// What goes along with the pointer.
+QPixmap etiquetteLignes(const QWidget& liste, std::size_t nombre) {
+    const QString texte = nombre == 1 ? u"1 combinaison"_s : u"%1 combinaisons"_s.arg(nombre);
+    const QFontMetrics mesures = liste.fontMetrics();
+    const qreal echelle = liste.devicePixelRatioF();
+    const QSize taille(mesures.horizontalAdvance(texte) + 2 * Marge, mesures.height() + 2 * Cadre);
+    QPixmap image(taille * echelle);
+    image.setDevicePixelRatio(echelle);
+    image.fill(QColor(CouleurLigneChoisie));
+    QPainter p(&image);
+    p.setFont(liste.font());
+    p.setPen(Qt::black);
+    p.drawText(QRect({}, taille), int{Qt::AlignCenter}, texte);
+    return image;
+}
 }  // namespace
 
 // ------------------------------------------------------------------------------------------ model
@@ -52,6 +75,11 @@ QVariant ModeleCombinaisons::data(const QModelIndex& index, int role) const {
     if (!ligne) return {};
     if (role == RoleBorne) return static_cast<int>(borne(*ligne));
     return QString::fromStdString(LigneCombinaison(*ligne));
+}
+
+Qt::ItemFlags ModeleCombinaisons::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags drapeaux = QAbstractListModel::flags(index);
+    return index.isValid() ? drapeaux | Qt::ItemIsDragEnabled : drapeaux;
 }
 
 BorneLigne ModeleCombinaisons::borne(const Combinaison& combinaison) const {
@@ -95,8 +123,11 @@ void DelegueCombinaisons::paint(QPainter* peintre, const QStyleOptionViewItem& o
     p.restore();
 }
 
-QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return {0, option.fontMetrics.height() + 2 * Cadre};
+QSize DelegueCombinaisons::sizeHint(const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    const QString texte = index.data(Qt::DisplayRole).toString();
+    return {option.fontMetrics.horizontalAdvance(texte) + 2 * Marge,
+            option.fontMetrics.height() + 2 * Cadre};
 }
 
 // ------------------------------------------------------------------------------------------- view
@@ -115,9 +146,51 @@ ListeCombinaisons::ListeCombinaisons(const QString& nom, QWidget* parent)
     setItemDelegate(new DelegueCombinaisons(this));
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setVerticalScrollMode(ScrollPerItem);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ListeCombinaisons::montrer(const Liste* liste) {
+    const int avant = modele_->rowCount();
+    const Liste* ancienne = modele_->liste();
+    const QItemSelection choix = selectionModel()->selection();
+    QList<std::pair<int, int>> plages;
+    for (const QItemSelectionRange& plage : choix) plages << std::pair(plage.top(), plage.bottom());
+    const int actuelle = currentIndex().row();
+    const int place = verticalScrollBar()->value();
+    modele_->montrer(liste);
+    if (liste == nullptr || liste != ancienne) return scrollToTop();
+    verticalScrollBar()->setValue(place);
+    if (modele_->rowCount() != avant) return;
+    const QSignalBlocker silence(this);
+    QItemSelection repris;
+    for (const auto& [haut, bas] : plages) repris.select(modele_->index(haut), modele_->index(bas));
+    if (actuelle >= 0)
+        selectionModel()->setCurrentIndex(modele_->index(actuelle), QItemSelectionModel::NoUpdate);
+    selectionModel()->select(repris, QItemSelectionModel::ClearAndSelect);
+}
+
+void ListeCombinaisons::revenirEnTete() {
+    selectionModel()->clear();
+    scrollToTop();
+}
+
+std::vector<std::size_t> ListeCombinaisons::lignesChoisies() const {
+    std::vector<std::size_t> lignes;
+    for (const QItemSelectionRange& plage : selectionModel()->selection()) {
+        const std::size_t avant = lignes.size();
+        lignes.resize(avant + static_cast<std::size_t>(plage.height()));
+        std::iota(lignes.begin() + static_cast<std::ptrdiff_t>(avant), lignes.end(),
+                  static_cast<std::size_t>(plage.top()));
+    }
+    // Ranges may come in any order and, in passing, overlap.
+    std::ranges::sort(lignes);
+    lignes.erase(std::unique(lignes.begin(), lignes.end()), lignes.end());
+    return lignes;
+}
+
+void ListeCombinaisons::permettreDepart(bool permis) {
+    setDragEnabled(permis);
 }
 
 int ListeCombinaisons::largeurLigne() const {
@@ -132,7 +205,55 @@ void ListeCombinaisons::poserInvite(const QString& invite) {
 
 void ListeCombinaisons::paintEvent(QPaintEvent* evenement) {
     QListView::paintEvent(evenement);
+    if (survolee_) {
+        QPainter p(viewport());
+        p.setPen(QPen(teintes(palette()).accent, 2));
+        p.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
     if (modele_->rowCount() == 0) peindreInvite(*viewport(), invite_);
+}
+
+// -------------------------------------------------------------------------------- drag and drop
+
+void ListeCombinaisons::startDrag(Qt::DropActions) {
+    auto* donnees = new QMimeData;
+    donnees->setData(TypeLignes, objectName().toUtf8());
+    auto* glisser = new QDrag(this);
+    glisser->setMimeData(donnees);
+    glisser->setPixmap(etiquetteLignes(*this, lignesChoisies().size()));
+    glisser->exec(Qt::CopyAction);
+}
+
+QString ListeCombinaisons::source(const QDropEvent& evenement) const {
+    const QString nom = QString::fromUtf8(evenement.mimeData()->data(TypeLignes));
+    return nom == objectName() ? QString() : nom;
+}
+
+void ListeCombinaisons::montrerSurvol(bool survol) {
+    survolee_ = survol;
+    viewport()->update();
+}
+
+void ListeCombinaisons::dragEnterEvent(QDragEnterEvent* evenement) {
+    const bool prises = !source(*evenement).isEmpty();
+    evenement->setAccepted(prises);
+    montrerSurvol(prises);
+}
+
+void ListeCombinaisons::dragMoveEvent(QDragMoveEvent* evenement) {
+    evenement->setAccepted(!source(*evenement).isEmpty());
+}
+
+void ListeCombinaisons::dragLeaveEvent(QDragLeaveEvent*) {
+    montrerSurvol(false);
+}
+
+void ListeCombinaisons::dropEvent(QDropEvent* evenement) {
+    montrerSurvol(false);
+    const QString nom = source(*evenement);
+    evenement->setDropAction(Qt::CopyAction);
+    evenement->setAccepted(!nom.isEmpty());
+    if (!nom.isEmpty()) Q_EMIT lignesDeposees(nom);
 }
 
 void ListeCombinaisons::currentChanged(const QModelIndex& actuel, const QModelIndex& ancien) {

@@ -73,6 +73,8 @@ struct Atelier {
     Liste ListeExtremes;
     Liste ListeMemoire;
     std::array<Liste, 3> ListeTampon;
+    bool GlisserVerrouille = false;  ///< lines cannot be dragged, and a click only selects them
+    EtatTri TriVoulu{.TypeTriListe = TypeTri::Simple};  ///< that new main lists take; Sans: none
     TriEcartAvance triEcartAvance;  ///< switched off by a change of the interval
 
     Billets billets;                ///< tickets, and what is unsaved of them

@@ -4,9 +4,9 @@
 #include "combinaisons/Cahier.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 
 #include "combinaisons/PanneauSelections.h"
+#include "combinaisons/PanneauTampons.h"
 #include "combinaisons/PanneauTri.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
@@ -25,7 +25,7 @@ enum PageCahier { PageChoix, PageTampons };
 Cahier::Cahier(Contexte& ctx, QWidget* parent) : QStackedWidget(parent) {
     setObjectName(u"Cahier"_s);
     insertWidget(PageChoix, creerChoix(ctx));
-    insertWidget(PageTampons, creerTampons());
+    insertWidget(PageTampons, creerTampons(ctx));
 }
 
 void Cahier::montrerMode(ModeListe mode) {
@@ -46,17 +46,14 @@ QWidget* Cahier::creerChoix(Contexte& ctx) {
     return page;
 }
 
-QWidget* Cahier::creerTampons() {
+QWidget* Cahier::creerTampons(Contexte& ctx) {
     auto* fiche = new Fiche(this);
-    auto* promesse = new QLabel(
-        u"Les listes tampons I, II et III prendront place ici : copie, déplacement et réunion de "
-        u"combinaisons avec la liste en mémoire."_s,
-        fiche);
-    promesse->setObjectName(u"PromesseListes"_s);
-    promesse->setWordWrap(true);
-    fiche->pile->addWidget(promesse);
-    fiche->pile->addStretch(1);
+    fiche->pile->addWidget(tampons_ = new PanneauTampons(ctx, fiche));
     return fiche;
+}
+
+QList<QWidget*> Cahier::ordreTabulation() const {
+    return selections_->ordreTabulation() + tri_->ordreTabulation() + tampons_->ordreTabulation();
 }
 
 }  // namespace norvane::ui

@@ -11,6 +11,7 @@
 namespace norvane::ui {
 
 class PanneauSelections;
+class PanneauTampons;
 class PanneauTri;
 struct Contexte;
 
@@ -24,13 +25,17 @@ class Cahier final : public QStackedWidget {
 
     PanneauSelections& selections() { return *selections_; }
     PanneauTri& tri() { return *tri_; }
+    PanneauTampons& tampons() { return *tampons_; }
+
+    QList<QWidget*> ordreTabulation() const;
 
  private:
     QWidget* creerChoix(Contexte& ctx);
-    QWidget* creerTampons();
+    QWidget* creerTampons(Contexte& ctx);
 
     PanneauSelections* selections_ = nullptr;
     PanneauTri* tri_ = nullptr;
+    PanneauTampons* tampons_ = nullptr;
 };
 
 }  // namespace norvane::ui

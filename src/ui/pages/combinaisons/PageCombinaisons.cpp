@@ -3,20 +3,25 @@
 
 #include "combinaisons/PageCombinaisons.h"
 
+#include <algorithm>
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "base/Textes.h"
+#include "combinaisons/ActionsListe.h"
 #include "combinaisons/Cahier.h"
 #include "combinaisons/CommandesIntervalle.h"
+#include "combinaisons/ConduiteMoteur.h"
+#include "combinaisons/DetailsListe.h"
+#include "combinaisons/LegendeLignes.h"
 #include "combinaisons/LigneBornes.h"
+#include "combinaisons/ManipulationListes.h"
 #include "combinaisons/PanneauCombinaison.h"
 #include "combinaisons/PanneauListe.h"
 #include "combinaisons/PanneauSelections.h"
 #include "combinaisons/PanneauTailles.h"
+#include "combinaisons/PanneauTampons.h"
 #include "combinaisons/PanneauTri.h"
 #include "common/Theme.h"
-#include "widgets/Alerte.h"
 #include "widgets/Fiche.h"
 #include "widgets/ListeCombinaisons.h"
 
@@ -33,11 +38,6 @@ constexpr std::array<const char16_t*, 3> Invites = {
 
 /// Sizes whose bounds, once computed, make the mode of the bounds the first one shown.
 constexpr int TailleCouranteMax = NbBoules;
-
-QString texteTemps(const std::optional<double>& secondes) {
-    return secondes ? u"Temps de calcul : %1 s"_s.arg(versQt(FormaterDecimal(*secondes, 1)))
-                    : QString();
-}
 
 }  // namespace
 
@@ -58,6 +58,8 @@ void PageCombinaisons::construire() {
     liste_ = new PanneauListe(ListePrincipale, contexte.atelier.ListeMemoire, milieu);
     milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
     milieu->pile->addWidget(liste_, 1);
+    milieu->pile->addWidget(new LegendeLignes(milieu));
+    milieu->pile->addWidget(actions_ = new ActionsListe(contexte, milieu));
     auto* choisie = new Fiche(this);
     combinaison_ = new PanneauCombinaison(contexte, CombinaisonChoisie, choisie);
     choisie->pile->addWidget(combinaison_);
@@ -66,13 +68,18 @@ void PageCombinaisons::construire() {
     droite->setSpacing(2 * Unite);
     droite->addWidget(choisie);
     droite->addWidget(cahier_ = new Cahier(contexte, this), 1);
-    tri_ = &cahier_->tri();
     auto* page = new QHBoxLayout(this);
     page->setContentsMargins(2 * Unite, 2 * Unite, 2 * Unite, 2 * Unite);
     page->setSpacing(2 * Unite);
     page->addWidget(gauche);
     page->addWidget(milieu);
     page->addLayout(droite, 1);
+
+    conduite_ = new ConduiteMoteur(contexte, moteur_, this, tailles_->jauge(), liste_->jauge());
+    manipulation_ = new ManipulationListes(contexte, this);
+    manipulation_->prendre(*liste_);
+    for (std::size_t i = 0; i < PanneauTampons::NbTampons; ++i)
+        manipulation_->prendre(cahier_->tampons().liste(i));
 }
 
 void PageCombinaisons::relier() {
@@ -86,16 +93,34 @@ void PageCombinaisons::relier() {
             &CommandesIntervalle::CheckBoxSeriesClick);
     connect(&cahier_->selections(), &PanneauSelections::statistiquesDemandees, combinaison_,
             &PanneauCombinaison::montrer);
-    connect(liste_, &PanneauListe::combinaisonChoisie, this,
-            [this](const Combinaison& c) { combinaison_->montrer(c.numeros); });
+    connect(commandesIntervalle_, &CommandesIntervalle::adaptationDemandee, conduite_,
+            &ConduiteMoteur::adapterListe);
     connect(combinaison_, &PanneauCombinaison::positionDemandee, this,
             &PageCombinaisons::ButtonPositionClick);
+    const auto montrer = [this](const Combinaison& c) { combinaison_->montrer(c.numeros); };
+    connect(liste_, &PanneauListe::combinaisonChoisie, this, montrer);
+    for (std::size_t i = 0; i < PanneauTampons::NbTampons; ++i)
+        connect(&cahier_->tampons().liste(i), &PanneauListe::combinaisonChoisie, this, montrer);
+    const PanneauTri& tri = cahier_->tri();
+    connect(&tri, &PanneauTri::triVoulu, this, [this](const EtatTri& voulu) {
+        contexte.atelier.TriVoulu = voulu;
+        suivreListes();
+    });
+    connect(&tri, &PanneauTri::ButtonTEAClick, conduite_, &ConduiteMoteur::ButtonTEAClick);
+    connect(actions_, &ActionsListe::ButtonTriClick, conduite_, &ConduiteMoteur::ButtonTriClick);
+    connect(actions_, &ActionsListe::ButtonTriProfondeurClick, conduite_,
+            &ConduiteMoteur::ButtonTriProfondeurClick);
+    connect(actions_, &ActionsListe::BitBtnWithColor1Click, conduite_,
+            &ConduiteMoteur::BitBtnWithColor1Click);
+    connect(conduite_, &ConduiteMoteur::lance, this, &PageCombinaisons::suivreTravail);
+    connect(conduite_, &ConduiteMoteur::reordonnee, &liste_->boite(),
+            &ListeCombinaisons::revenirEnTete);
 }
 
 void PageCombinaisons::poserOrdreTabulation() {
     const QList<QWidget*> ordre = tailles_->ordreTabulation() + QList<QWidget*>{&liste_->boite()} +
-                                  combinaison_->ordreTabulation() +
-                                  cahier_->selections().ordreTabulation();
+                                  actions_->ordreTabulation() + combinaison_->ordreTabulation() +
+                                  cahier_->ordreTabulation();
     for (qsizetype i = 1; i < ordre.size(); ++i) setTabOrder(ordre[i - 1], ordre[i]);
 }
 
@@ -121,10 +146,10 @@ void PageCombinaisons::ComboBox1Change(ModeListe mode) {
         return;
     }
     a.modeListe = mode;
+    liste_->boite().revenirEnTete();
     if (mode == ModeListe::Extremes) {
         // The list of before is shown again by a click alone, and the bounds are those computed.
         Vider(a.ListeExtremes);
-        tri_->vider();
         tailles_->poserBornes(moteur_.RafraichirBornes());
     }
     contexte.relais.annoncer({.listes = true});
@@ -135,74 +160,10 @@ void PageCombinaisons::RadioGroup1Click(ModeStockage mode) {
     tailles_->montrerStockage(contexte.atelier.modeStockage);
 }
 
-// --------------------------------------------------------------------------------------- searches
-
-int PageCombinaisons::recherche() const {
-    const auto& enCours = contexte.atelier.activite.enCours;
-    const bool cherche = enCours && (enCours->genre == GenreTravail::Extremes ||
-                                     enCours->genre == GenreTravail::Bornes);
-    return cherche ? enCours->taille : 0;
-}
-
 void PageCombinaisons::CombSearchClick(int taille) {
-    if (recherche() == taille) {
-        contexte.travaux.arreter();
-        return;
-    }
     LigneBornes& bornes = tailles_->ligne(taille);
     if (!contexte.atelier.activite.occupe()) bornes.valider();
-    ReponseClic reponse = moteur_.Cliquer(taille, bornes.inf.valeur, bornes.sup.valeur);
-    switch (reponse.genre) {
-        case ReponseClic::Genre::Lance:
-            lancer(u"Calcul des combinaisons de %1 numéros en cours..."_s.arg(taille),
-                   std::move(reponse));
-            return;
-        case ReponseClic::Genre::Affiche:
-            contexte.relais.annoncer({.listes = true});
-            break;
-        case ReponseClic::Genre::Refuse:
-            break;
-    }
-    if (!reponse.message.empty()) {
-        contexte.services.messages->MessageInfo(versQt(reponse.message), u"Message"_s);
-    }
-}
-
-void PageCombinaisons::lancer(const QString& texte, ReponseClic reponse) {
-    const VueTravail vue{texte, &tailles_->jauge()};
-    if (contexte.travaux.lancer(std::move(reponse.travail), vue, this,
-                                [this](Travail& travail) { TraitementTermine(travail); })) {
-        tailles_->montrerRecherche(recherche());
-        AfficherListe();
-        return;
-    }
-    moteur_.TraitementTermine(*reponse.travail);
-    contexte.services.messages->MessageInfo(contexte.travaux.erreur(), u"Message"_s);
-}
-
-void PageCombinaisons::TraitementTermine(Travail& travail) {
-    const FinTraitement fin = moteur_.TraitementTermine(travail);
-    tailles_->montrerRecherche(recherche());
-    if (travail.description.genre == GenreTravail::Bornes) tri_->montrerTriSimple();
-    contexte.relais.annoncer({.listes = true});
-    // A window that waits for the end of the work closes now, without a word on it.
-    if (!contexte.atelier.activite.QuitterEnAttente) direFin(travail.description.taille, fin);
-}
-
-void PageCombinaisons::direFin(int taille, const FinTraitement& fin) {
-    if (!fin.message.empty()) {
-        contexte.services.messages->MessageAvertissement(versQt(fin.message), u"Message"_s);
-        return;
-    }
-    if (alerte_ == nullptr) alerte_ = new Alerte(window());
-    alerte_->montrer(fin.arrete ? u"Traitement arrêté"_s : u"Traitement terminé"_s,
-                     u"Combinaisons de %1 numéros\n"_s.arg(taille) + texteTemps(fin.secondes));
-    if (fin.debordement) {
-        contexte.services.messages->MessageInfo(
-            u"Passez au Mode \"Combinaisons selon les bornes\" afin de stocker en mémoire et "
-            u"compter le nombre de combinaisons ayant atteint la limite supérieure..."_s,
-            u"La liste a atteint sa capacité maximum..."_s);
-    }
+    conduite_->CombSearchClick(taille, bornes.inf.valeur, bornes.sup.valeur);
 }
 
 void PageCombinaisons::ButtonPositionClick() {
@@ -213,6 +174,17 @@ void PageCombinaisons::ButtonPositionClick() {
         place ? u"Position dans la liste en mémoire :\n\nIndice :    %1   !! \n\n"_s.arg(*place + 1)
               : u"Cette combinaison n'est pas en mémoire..."_s,
         u"Message"_s);
+}
+
+bool PageCombinaisons::ouvrir(const Destination& destination) {
+    if (!std::holds_alternative<VersListe>(destination)) return false;
+    cahier_->selections().fermerListe();
+    if (contexte.atelier.modeListe == ModeListe::Extremes) {
+        ComboBox1Change(ModeListe::Bornes);
+    } else {
+        contexte.relais.annoncer({.listes = true});
+    }
+    return true;
 }
 
 // -------------------------------------------------------------------------- the controls follow
@@ -231,7 +203,6 @@ void PageCombinaisons::surChange(const Changement& changement) {
 }
 
 void PageCombinaisons::suivreBase() {
-    tri_->vider();
     tailles_->poserBornes(moteur_.RafraichirBornes());
     combinaison_->montrer({});
     suivreIntervalle();
@@ -249,15 +220,37 @@ void PageCombinaisons::suivreMode() {
     const Atelier& a = contexte.atelier;
     tailles_->montrerMode(a.modeListe);
     tailles_->montrerStockage(a.modeStockage);
+    tailles_->montrerEcartAvance(a.triEcartAvance.actif ? a.triEcartAvance.taille : 0);
     tailles_->montrerSeries(a.series);
     cahier_->montrerMode(a.modeListe);
     liste_->poserInvite(QString::fromUtf16(Invites[static_cast<std::size_t>(a.modeListe)]));
+    const bool manipulation = a.modeListe == ModeListe::Manipulation;
+    liste_->verrouiller(manipulation && a.GlisserVerrouille);
+    liste_->boite().permettreDepart(manipulation && !a.GlisserVerrouille);
+    suivreTravail();
+}
+
+/// What the work in hand changes of the page.
+void PageCombinaisons::suivreTravail() {
+    tailles_->montrerRecherche(conduite_->recherche());
     AfficherListe();
+    suivreListes();
+}
+
+void PageCombinaisons::suivreListes() {
+    const Atelier& a = contexte.atelier;
+    const VueTri vue{.voulu = triPour(a.ListeMemoire, a.TriVoulu),
+                     .liste = a.ListeMemoire,
+                     .montree = a.modeListe != ModeListe::Extremes,
+                     .rangs = conduite_->rangs()};
+    cahier_->tri().suivre(vue);
+    actions_->suivre(vue);
+    cahier_->tampons().suivre();
 }
 
 void PageCombinaisons::suivreBornes() {
     // While a search runs, the bounds of its size are not those of a list yet.
-    if (recherche() == 0) tailles_->suivreBornes(moteur_.RafraichirBornes());
+    if (conduite_->recherche() == 0) tailles_->suivreBornes(moteur_.RafraichirBornes());
     colorer();
 }
 
@@ -280,7 +273,7 @@ void PageCombinaisons::AfficherListe() {
     const bool extremes = a.modeListe == ModeListe::Extremes;
     const Liste* montree = extremes ? &a.ListeExtremes : &a.ListeMemoire;
     // A search for extremes starts from an empty list.
-    if (extremes && recherche() != 0) montree = nullptr;
+    if (extremes && conduite_->recherche() != 0) montree = nullptr;
     liste_->afficher(montree);
     tailles_->temps().setText(montree == nullptr ? QString() : texteTemps(montree->secondes));
 }

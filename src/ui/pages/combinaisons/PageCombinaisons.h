@@ -11,13 +11,14 @@
 
 namespace norvane::ui {
 
-class Alerte;
+class ActionsListe;
 class Cahier;
 class CommandesIntervalle;
+class ConduiteMoteur;
+class ManipulationListes;
 class PanneauCombinaison;
 class PanneauListe;
 class PanneauTailles;
-class PanneauTri;
 
 class PageCombinaisons final : public Page {
     Q_OBJECT
@@ -30,6 +31,7 @@ class PageCombinaisons final : public Page {
     void premierAffichage() override;
     void surChange(const Changement& changement) override;
     void surDepart() override;
+    bool ouvrir(const Destination& destination) override;
 
     Moteur& moteur() { return moteur_; }
 
@@ -44,18 +46,13 @@ class PageCombinaisons final : public Page {
     void CombSearchClick(int taille);
     void ButtonPositionClick();
 
-    // Searches.
-    void lancer(const QString& texte, ReponseClic reponse);
-    void TraitementTermine(Travail& travail);
-    void direFin(int taille, const FinTraitement& fin);
-    /// The size whose search runs, 0 for none.
-    int recherche() const;
-
     // The controls follow the state.
     void suivreBase();
     void suivreIntervalle();
     void suivreMode();
     void suivreBornes();
+    void suivreListes();
+    void suivreTravail();
     void colorer();
     void AfficherListe();
 
@@ -63,10 +60,11 @@ class PageCombinaisons final : public Page {
     CommandesIntervalle* commandesIntervalle_;
     PanneauTailles* tailles_ = nullptr;
     PanneauListe* liste_ = nullptr;
-    PanneauTri* tri_ = nullptr;
+    ActionsListe* actions_ = nullptr;
     PanneauCombinaison* combinaison_ = nullptr;
     Cahier* cahier_ = nullptr;
-    Alerte* alerte_ = nullptr;
+    ConduiteMoteur* conduite_ = nullptr;
+    ManipulationListes* manipulation_ = nullptr;
 };
 
 }  // namespace norvane::ui

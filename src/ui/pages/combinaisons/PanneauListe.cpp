@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 
+#include "combinaisons/DetailsListe.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "widgets/Fiche.h"
@@ -19,18 +21,7 @@ namespace {
 
 constexpr double FacteurListe = 1.08;
 
-QString libelleStockage(ModeStockage mode) {
-    switch (mode) {
-        case ModeStockage::PremierRang:
-            return u"Premier rang stocké"_s;
-        case ModeStockage::RangsDeGain:
-            return u"Rangs de gain stockés"_s;
-        case ModeStockage::TousLesRangs:
-            return u"Tous les rangs stockés"_s;
-    }
-    return {};
-}
-
+const QString ListeVide = u"liste vide..."_s;
 const QString ListePartielle = u"liste partielle"_s;
 
 /// What stands between parentheses in the lines of a size.
@@ -41,71 +32,140 @@ QString sensCompte(int taille) {
                                 u"dans la combinaison"_s;
 }
 
+}  // namespace
+
+PanneauListe::PanneauListe(const NomsListe& n, const Liste& liste, QWidget* parent)
+    : QWidget(parent),
+      noms(n),
+      liste_(liste),
+      titre_(creerValeur(n.titre,
+                         n.nom == nullptr ? u"Combinaisons en mémoire"_s : u"Liste et taille"_s)),
+      nombre_(creerValeur(n.nombre, u"Combinaisons en liste"_s)),
+      etat_(creerLegende(n.etat)),
+      rang_(creerLegende(n.rang)),
+      boite_(new ListeCombinaisons(QString::fromUtf16(n.boite), this)),
+      jauge_(new QProgressBar(this)) {
+    creerBoite();
+    auto* pile = new QVBoxLayout(this);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(Unite);
+    if (n.nom == nullptr) {
+        disposerPrincipale(pile);
+    } else {
+        disposerTampon(pile);
+    }
+    connect(boite_, &ListeCombinaisons::ligneChoisie, this, &PanneauListe::choisir);
+}
+
 /// A value whose line stays free while it is empty.
-QLabel* creerValeur(const char16_t* nom, const QString& sens, QWidget* parent) {
-    auto* etiquette = valeur(QString::fromUtf16(nom), sens, parent);
+QLabel* PanneauListe::creerValeur(const char16_t* nom, const QString& sens) {
+    auto* etiquette = valeur(QString::fromUtf16(nom), sens, this);
     etiquette->setMinimumHeight(etiquette->fontMetrics().height());
     return etiquette;
 }
 
-}  // namespace
+QLabel* PanneauListe::creerLegende(const char16_t* nom) {
+    auto* etiquette = legende({}, this);
+    etiquette->setObjectName(QString::fromUtf16(nom));
+    etiquette->setMinimumHeight(etiquette->fontMetrics().height());
+    return etiquette;
+}
 
-PanneauListe::PanneauListe(const NomsListe& noms, const Liste& liste, QWidget* parent)
-    : QWidget(parent),
-      liste_(liste),
-      titre_(creerValeur(noms.titre, QString::fromUtf16(noms.sensTitre), this)),
-      nombre_(creerValeur(noms.nombre, u"Combinaisons en liste"_s, this)),
-      etat_(legende({}, this)),
-      indice_(creerValeur(noms.indice, u"Indice de la ligne choisie"_s, this)),
-      rang_(legende({}, this)),
-      boite_(new ListeCombinaisons(QString::fromUtf16(noms.boite), this)) {
-    indice_->setAlignment(Qt::AlignRight);
-    boite_->setAccessibleName(QString::fromUtf16(noms.sensBoite));
+void PanneauListe::creerBoite() {
+    boite_->setAccessibleName(noms.nom == nullptr ? u"Liste des combinaisons"_s
+                                                  : QString::fromUtf16(noms.nom));
+    boite_->setContextMenuPolicy(Qt::CustomContextMenu);
+    jauge_->setObjectName(QString::fromUtf16(noms.jauge));
+    jauge_->setAccessibleName(u"Avancement du travail sur la liste"_s);
+    jauge_->setRange(0, 1);
+    jauge_->setValue(0);
+    jauge_->setTextVisible(false);
+    jauge_->setFixedHeight(Unite);
+}
+
+void PanneauListe::disposerPrincipale(QBoxLayout* pile) {
     QFont fonte = boite_->font();
     fonte.setPixelSize(qRound(boite_->fontInfo().pixelSize() * FacteurListe));
     boite_->setFont(fonte);
-    rang_->setObjectName(QString::fromUtf16(noms.rang));
-    rang_->setWordWrap(true);
-    etat_->setObjectName(QString::fromUtf16(noms.etat));
-    rang_->setMinimumHeight(rang_->fontMetrics().height());
-
+    indice_ = creerValeur(noms.indice, u"Indice de la ligne choisie"_s);
+    indice_->setAlignment(Qt::AlignRight);
     auto* tete = new QHBoxLayout;
     tete->addLayout(colonne(u"Combinaisons en liste"_s, rangee({nombre_, etat_}), this));
     tete->addStretch(1);
     auto* indice = colonne(u"Indice"_s, rangee({indice_}), this);
     indice->itemAt(0)->setAlignment(Qt::AlignRight);
     tete->addLayout(indice);
-    auto* pile = new QVBoxLayout(this);
-    pile->setContentsMargins(0, 0, 0, 0);
-    pile->setSpacing(Unite);
     pile->addLayout(tete);
     pile->addWidget(boite_, 1);
-    pile->addLayout(colonne(QString::fromUtf16(noms.sensTitre), rangee({titre_}), this));
+    pile->addWidget(jauge_);
+    auto* memoire = rangee({titre_});
+    memoire->addStretch(1);
+    memoire->addWidget(rang_, 0, Qt::AlignBottom);
+    pile->addLayout(colonne(u"Combinaisons en mémoire"_s, memoire, this));
+}
+
+void PanneauListe::disposerTampon(QBoxLayout* pile) {
+    intervalle_ = creerLegende(noms.intervalle);
+    pile->setSpacing(Unite / 2);
+    pile->addWidget(titre_);
+    auto* nombre = rangee({nombre_, etat_});
+    nombre->addStretch(1);
+    pile->addLayout(nombre);
+    pile->addWidget(boite_, 1);
+    pile->addWidget(jauge_);
     pile->addWidget(rang_);
-    connect(boite_, &ListeCombinaisons::ligneChoisie, this, &PanneauListe::choisir);
+    pile->addWidget(intervalle_);
+    // Three of them stand side by side: none may claim the width of a long text.
+    for (QLabel* etiquette : {titre_, rang_, intervalle_})
+        etiquette->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void PanneauListe::afficher(const Liste* montree) {
-    indice_->clear();
-    const QString partielle = liste_.partielle ? u", "_s + ListePartielle : QString();
-    titre_->setText(liste_.vide() ? QString()
-                                  : u"%1 à %2 numéros"_s.arg(liste_.nombre()).arg(liste_.taille()) +
-                                        partielle);
-    rang_->setText(liste_.vide() ? QString() : libelleStockage(liste_.mode()));
-    boite_->modele().montrer(montree);
-    boite_->scrollToTop();
+    direType();
+    boite_->montrer(montree);
     poserIndice(boite_, montree == nullptr ? QString() : sensCompte(montree->taille()));
     direNombre(montree);
+    if (indice_ == nullptr) return;
+    const int ligne = boite_->currentIndex().row();
+    indice_->setText(ligne < 0 ? QString() : QString::number(ligne + 1));
+}
+
+void PanneauListe::direType() {
+    const QString vide = noms.nom == nullptr ? QString() : ListeVide;
+    rang_->setText(liste_.vide() ? vide : libelleStockage(liste_.mode()));
+    if (noms.nom == nullptr) {
+        const QString partielle = liste_.partielle ? u", "_s + ListePartielle : QString();
+        titre_->setText(liste_.vide()
+                            ? QString()
+                            : u"%1 à %2 numéros"_s.arg(liste_.nombre()).arg(liste_.taille()) +
+                                  partielle);
+        return;
+    }
+    const QString nom = QString::fromUtf16(noms.nom);
+    titre_->setText(liste_.vide() ? nom : u"%1 (%2 numéros)"_s.arg(nom).arg(liste_.taille()));
+    intervalle_->setText(
+        liste_.vide() ? vide
+                      : u"%1 Tirages : [%2 - %3]"_s.arg(liste_.FinListe - liste_.DebutListe + 1)
+                            .arg(liste_.DebutListe)
+                            .arg(liste_.FinListe));
+    for (QLabel* etiquette : {titre_, rang_, intervalle_})
+        poserIndice(etiquette, etiquette->text());
 }
 
 void PanneauListe::direNombre(const Liste* montree) {
     const auto lignes = static_cast<std::uint64_t>(boite_->modele().rowCount());
     const std::uint64_t nombre = montree == nullptr ? 0 : std::max(montree->total, lignes);
-    nombre_->setText(nombre == 0 ? QString() : QString::number(nombre));
+    nombre_->setText(nombre > 0 ? QString::number(nombre)
+                                : (noms.nom == nullptr ? QString() : ListeVide));
     QStringList etats, indices;
     if (montree != nullptr && montree->partielle) {
         etats << ListePartielle;
         indices << u"Liste partielle : le calcul a été arrêté avant la fin"_s;
+    }
+    if (montree != nullptr && montree->melangee) {
+        etats << u"deux intervalles"_s;
+        indices << u"L'adaptation a été arrêtée : une partie des combinaisons porte encore sur "
+                   u"l'ancien intervalle"_s;
     }
     if (montree != nullptr && montree->nombreTotal() > lignes) {
         etats << (etats.isEmpty() ? u"liste coupée"_s : u"coupée"_s);
@@ -125,7 +185,8 @@ void PanneauListe::poserInvite(const QString& invite) {
 }
 
 void PanneauListe::choisir(int ligne) {
-    indice_->setText(QString::number(ligne + 1));
+    if (indice_ != nullptr) indice_->setText(QString::number(ligne + 1));
+    if (verrouille_) return;
     if (const auto choisie = boite_->modele().combinaison(ligne)) {
         Q_EMIT combinaisonChoisie(*choisie);
     }

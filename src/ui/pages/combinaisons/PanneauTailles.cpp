@@ -36,6 +36,10 @@ constexpr std::array<ItemStockage, 3> ItemsStockage = {
      {ModeStockage::TousLesRangs, u"Tous les rangs"},
      {ModeStockage::RangsDeGain, u"Les rangs de gain"}}};
 
+// The marks of the advanced sort by gap: RxLabel13 for size 4 and so on.
+constexpr int TailleMarqueMin = 4;
+constexpr int PremiereMarque = 13;
+
 }  // namespace
 
 PanneauTailles::PanneauTailles(QWidget* parent)
@@ -99,6 +103,8 @@ QGridLayout* PanneauTailles::creerTailles() {
         connect(bornes, &LigneBornes::bornesChoisies, this, &PanneauTailles::bornesChoisies);
         const int rang = taille - TailleCombMin + 1;
         grille->addWidget(bornes->bouton, rang, 0);
+        if (taille >= TailleMarqueMin)
+            grille->addWidget(creerMarque(taille), rang, 0, Qt::AlignRight | Qt::AlignTop);
         int place = 2;
         for (const LigneBornes::Cote* cote : {&bornes->inf, &bornes->sup}) {
             const int hauteur = bornes->bouton->minimumHeight();
@@ -110,6 +116,21 @@ QGridLayout* PanneauTailles::creerTailles() {
         }
     }
     return grille;
+}
+
+/// In the corner of the button, which takes the clicks.
+QLabel* PanneauTailles::creerMarque(int taille) {
+    auto* marque = new QLabel(u"TEA"_s, this);
+    marque->setObjectName(u"RxLabel%1"_s.arg(PremiereMarque + taille - TailleMarqueMin));
+    marque->setAttribute(Qt::WA_TransparentForMouseEvents);
+    marque->setContentsMargins(0, 2, Unite, 0);
+    QFont petite = marque->font();
+    petite.setPixelSize(QFontInfo(petite).pixelSize() * 2 / 3);
+    petite.setBold(true);
+    marque->setFont(petite);
+    marque->hide();
+    marques_[static_cast<std::size_t>(taille - TailleCombMin)] = marque;
+    return marque;
 }
 
 QVBoxLayout* PanneauTailles::creerIntervalle() {
@@ -181,6 +202,12 @@ void PanneauTailles::montrerSeries(bool series) {
 void PanneauTailles::montrerRecherche(int taille) {
     for (LigneBornes* bornes : lignes_) bornes->montrerArret(bornes->taille() == taille);
     modeListe_->setEnabled(taille == 0);
+}
+
+void PanneauTailles::montrerEcartAvance(int taille) {
+    for (std::size_t i = 0; i < NbTailles; ++i)
+        if (marques_[i] != nullptr)
+            marques_[i]->setVisible(static_cast<int>(i) + TailleCombMin == taille);
 }
 
 QList<QWidget*> PanneauTailles::ordreTabulation() const {

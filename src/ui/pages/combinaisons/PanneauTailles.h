@@ -46,6 +46,8 @@ class PanneauTailles final : public QWidget {
     void montrerSeries(bool series);
     /// The size whose search runs, 0 for none.
     void montrerRecherche(int taille);
+    /// The size that the advanced sort by gap waits for, 0 for none.
+    void montrerEcartAvance(int taille);
 
     // Where a search shows itself.
     QProgressBar& jauge() { return *jauge_; }
@@ -66,12 +68,14 @@ class PanneauTailles final : public QWidget {
     void changeEvent(QEvent* evenement) override;
 
  private:
+    QLabel* creerMarque(int taille);
     QComboBox* creerModes();
     QGridLayout* creerTailles();
     QVBoxLayout* creerIntervalle();
     QGroupBox* creerStockage();
 
     std::array<LigneBornes*, NbTailles> lignes_{};
+    std::array<QLabel*, NbTailles> marques_{};  ///< "TEA", of the sizes from 4 on
     QComboBox* modeListe_;
     QCheckBox* series_ = nullptr;
     QPushButton* intervalle_ = nullptr;

@@ -86,8 +86,8 @@ void CalculGains::lancerBilan() {
             *texte = RedigerBilan(base, inf, sup, grilles, monnaie, suivi).value_or(std::string());
             return Rien{};
         });
-    if (!contexte_.travaux.lancer(std::move(travail),
-                                  {u"Bilan des gains en cours..."_s, jauge_, nullptr}, this,
+    if (!contexte_.travaux.lancer(std::move(travail), {u"Bilan des gains en cours..."_s, jauge_},
+                                  this,
                                   [this, texte](Travail& fini) { finirBilan(*texte, fini); })) {
         contexte_.services.messages->MessageErreur(contexte_.travaux.erreur(), u"Erreur"_s);
     }

@@ -36,6 +36,19 @@ struct Enregistrement {
 /// True when the file is there.
 bool enregistrerSous(Contexte& contexte, QWidget* parent, const Enregistrement& demande);
 
+/// Where to save what takes long: the same questions, and the writing is left to a job.
+struct FichierChoisi {
+    QString nom;             ///< complete
+    std::size_t format = 0;  ///< place in the formats
+};
+/// Nothing when cancelled. `propose`: folder, or folder and name.
+std::optional<FichierChoisi> demanderFichier(Contexte& contexte, QWidget* parent,
+                                             const QString& titre, QString propose,
+                                             const std::vector<FormatFichier>& formats);
+
+/// The name of a file as the houses take it.
+std::filesystem::path cheminDe(const QString& fichier);
+
 /// `nom` with the suffix of a format: as it is when it bears one (then in lower case), else with
 /// that of `formats[defaut]` behind the whole of it. `format` tells which.
 QString nomComplet(const QString& nom, const std::vector<FormatFichier>& formats,

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The one place where long work is started: it counts it, polls it, paints gauge, time and status
-// text, and delivers its end to whoever asked.
+// The one place where long work is started: it counts it, polls it, paints gauge and
+// status text, and delivers its end to whoever asked.
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <QObject>
 #include <QPointer>
@@ -13,16 +12,14 @@
 
 #include "base/Travail.h"
 
-class QLabel;
 class QProgressBar;
 
 namespace norvane::ui {
 
-/// Where a work shows itself beside the status bar; both may be absent.
+/// Where a work shows itself.
 struct VueTravail {
     QString texte;                  ///< for the status bar
     QProgressBar* jauge = nullptr;  ///< runs from 0 to the work's total, empty at the end
-    QLabel* temps = nullptr;        ///< the computing time, written at the end
 };
 
 class Travaux final : public QObject {
@@ -47,8 +44,6 @@ class Travaux final : public QObject {
     const Travail* enCours() const { return travail_.get(); }
     /// Why the last start failed.
     const QString& erreur() const { return erreur_; }
-    /// Seconds that the last work took.
-    double duree() const { return duree_; }
 
  Q_SIGNALS:
     /// Text for the status bar: of the work in hand, empty at its end.
@@ -65,13 +60,10 @@ class Travaux final : public QObject {
     PtrTravail travail_;
     VueTravail vue_;
     QPointer<QProgressBar> jauge_;
-    QPointer<QLabel> temps_;
     QPointer<QObject> pour_;
     std::function<void(Travail&)> fin_;
-    std::chrono::steady_clock::time_point debut_;
     QTimer rythme_;  ///< steps of the gauge
     QString erreur_;
-    double duree_ = 0;
 };
 
 }  // namespace norvane::ui

@@ -8,6 +8,7 @@
 #include <QAbstractListModel>
 #include <QListView>
 #include <QStyledItemDelegate>
+#include <vector>
 
 #include "lists/Liste.h"
 
@@ -35,6 +36,7 @@ class ModeleCombinaisons final : public QAbstractListModel {
 
     /// Null: no line. The list stays its owner's: after it changed, show it again.
     void montrer(const Liste* liste);
+    const Liste* liste() const { return liste_; }
     /// Without bounds every line is an ordinary one.
     void poserBornes(std::optional<BornesLignes> bornes);
 
@@ -43,6 +45,7 @@ class ModeleCombinaisons final : public QAbstractListModel {
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
     BorneLigne borne(const Combinaison& combinaison) const;
@@ -70,6 +73,8 @@ class DelegueCombinaisons final : public QStyledItemDelegate {
 /// What an empty list says, in the middle of its viewport.
 void peindreInvite(QWidget& boite, const QString& invite);
 
+/// Several lines may be chosen; chosen lines can be dragged to another such list that takes them,
+/// once exchanges are allowed.
 class ListeCombinaisons final : public QListView {
     Q_OBJECT
 
@@ -77,6 +82,17 @@ class ListeCombinaisons final : public QListView {
     ListeCombinaisons(const QString& nom, QWidget* parent);
 
     ModeleCombinaisons& modele() { return *modele_; }
+    /// Shows the lines of a list, none for null. The place stays when it is the list on show
+    /// already, and the lines chosen too when they are as many as before; nothing is told of them.
+    void montrer(const Liste* liste);
+    /// No line chosen, the first one on top.
+    void revenirEnTete();
+    /// Zero-based, ascending, each once.
+    std::vector<std::size_t> lignesChoisies() const;
+    /// Whether its lines can be dragged away. Where they cannot, the mouse chooses lines.
+    void permettreDepart(bool permis);
+    /// Whether it takes lines of other lists.
+    void permettreArrivee(bool permise) { setAcceptDrops(permise); }
     /// What an empty list says.
     void poserInvite(const QString& invite);
     /// The width of a line of ten numbers.
@@ -85,14 +101,26 @@ class ListeCombinaisons final : public QListView {
  Q_SIGNALS:
     /// A line was clicked or reached with the keys.
     void ligneChoisie(int ligne);
+    /// The lines chosen in the list of that object name were let down here.
+    void lignesDeposees(const QString& source);
 
  protected:
     void paintEvent(QPaintEvent* evenement) override;
+    void startDrag(Qt::DropActions actions) override;
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dragMoveEvent(QDragMoveEvent* evenement) override;
+    void dragLeaveEvent(QDragLeaveEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
     void currentChanged(const QModelIndex& actuel, const QModelIndex& ancien) override;
 
  private:
+    /// The name of the list whose lines come, empty for anything else.
+    QString source(const QDropEvent& evenement) const;
+    void montrerSurvol(bool survol);
+
     ModeleCombinaisons* modele_;
     QString invite_;
+    bool survolee_ = false;  // lines are being dragged over it
 };
 
 }  // namespace norvane::ui
