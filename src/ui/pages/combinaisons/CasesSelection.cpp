@@ -127,7 +127,7 @@ CasesSelection::CasesSelection(QWidget* parent)
 
 QSize CasesSelection::minimumSizeHint() const {
     const int h = fontMetrics().height();
-    return {Colonnes * 2 * h, Rangees * (h + Unite)};
+    return {Colonnes * 5 * h / 3, Rangees * (h + Unite)};
 }
 
 QSize CasesSelection::sizeHint() const {
@@ -137,7 +137,8 @@ QSize CasesSelection::sizeHint() const {
 
 void CasesSelection::resizeEvent(QResizeEvent* evenement) {
     QListView::resizeEvent(evenement);
-    setGridSize({viewport()->width() / Colonnes, viewport()->height() / Rangees});
+    // A row that fills the width to the last pixel would lose its last tile to the next one.
+    setGridSize({(viewport()->width() - 1) / Colonnes, viewport()->height() / Rangees});
 }
 
 void CasesSelection::presser(QMouseEvent* evenement) {

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "combinaisons/BoutonEtroit.h"
 #include "combinaisons/CasesSelection.h"
 #include "combinaisons/CommandesSelection.h"
 #include "combinaisons/SelectionsPanel.h"
@@ -45,14 +46,6 @@ QLabel* pastille(Priorite priorite, QWidget* parent) {
     p.drawRoundedRect(image.rect(), 3, 3);
     etiquette->setPixmap(image);
     return etiquette;
-}
-
-QPushButton* commande(const QString& nom, const QString& libelle, const QString& indice,
-                      QWidget* parent) {
-    auto* b = new QPushButton(libelle, parent);
-    b->setObjectName(nom);
-    poserIndice(b, indice);
-    return b;
 }
 
 }  // namespace
@@ -98,10 +91,11 @@ QSpinBox* PanneauSelections::creerNombre(const char16_t* nom, const QString& ind
 void PanneauSelections::creerBoutons() {
     const auto creer = [this](const char16_t* nom, const char16_t* libelle,
                               const char16_t* indice) {
-        return commande(QString::fromUtf16(nom), QString::fromUtf16(libelle),
-                        QString::fromUtf16(indice), this);
+        return boutonEtroit(QString::fromUtf16(nom), QString::fromUtf16(libelle),
+                            QString::fromUtf16(indice), this);
     };
-    selectionner_ = creer(u"ButtonSelect", u"&Sélectionner", u"");
+    // As wide as the longer of its two captions.
+    selectionner_ = creer(u"ButtonSelect", u"Valider votre sélection", u"");
     vider_ = creer(u"ButtonDecocher", u"&Vider", u"Décocher tous les numéros");
     tirage_ = creer(u"BitBtnWithColor14", u"Tirage",
                     u"Cocher les numéros du tirage actif dans l'onglet Résultats");
