@@ -272,6 +272,17 @@ class TestSelections : public EssaisQt {
         for (std::size_t l = 0; l < liste.nombre(); ++l) combinaisons += liste.nbFois(l);
         QCOMPARE(combinaisons, 50 * 10);  // ten triples a draw
 
+        // Stopped on the way: every record is still there, of one interval or of the other.
+        const auto nombre = liste.nombre();
+        reponses = {CodeBouton1, CodeBouton1};
+        e.choisirIntervalle(90, 150);
+        e.de("BitBtnWithColor1")->click();
+        QCOMPARE(e.dernier(), u"Stopper le calcul en cours"_s);
+        QVERIFY(e.dernierDetail().endsWith(u"  %1"_s.arg(nombre)));
+        QVERIFY(e.forme->findChild<Travaux*>()->enCours()->arrete());
+        e.finir();
+        QCOMPARE(liste.nombre(), nombre);
+
         reponses = {CodeBouton2};
         e.choisirIntervalle(1, 300);
         QVERIFY(e.a.ListeMemoire.vide() && e.mode()->currentIndex() == 0);

@@ -77,7 +77,7 @@ class TestSystemes : public EssaisQt {
         QCOMPARE(e.texte("Label86"), u"Aucun système en mémoire..."_s);
         QVERIFY(!e.numero->isEnabled());
         e.type(u"GARANTIE 4/5");
-        QVERIFY(e.liste->hasFocus());
+        QCOMPARE(e.forme->focusWidget(), e.liste);
         QCOMPARE(e.liste->currentIndex().row(), 0);
         e.ligne(u"Sélection: 12 Garantie: 4/5 Base: 1"_s);
         QCOMPARE(e.a.systemeDisponible.Selection, 12);
@@ -165,7 +165,7 @@ class TestSystemes : public EssaisQt {
         for (const char* nom : {"BitBtn10", "Button84", "Button85", "BoutonGarantie"}) {
             clic(nom);
             QCOMPARE(e.dernier(), u"Aucun système en mémoire, générez d'abord un système..."_s);
-            QVERIFY(e.liste->hasFocus());
+            QCOMPARE(e.forme->focusWidget(), e.liste);
         }
         e.generer();
         const Systeme systeme = e.a.SystemeCourant;

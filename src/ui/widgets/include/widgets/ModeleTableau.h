@@ -58,6 +58,7 @@ LigneTableau ligneTableau(std::span<const Cellule> cellules);
 template <typename Lignes>
 std::vector<LigneTableau> lignesTableau(const Lignes& lignes) {
     std::vector<LigneTableau> rangees;
+    rangees.reserve(std::size(lignes));
     for (const auto& ligne : lignes) rangees.push_back(ligneTableau(ligne.cellules));
     return rangees;
 }
