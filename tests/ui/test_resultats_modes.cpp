@@ -227,7 +227,7 @@ class TestResultatsModes final : public EssaisQt {
         QCOMPARE(tour.join(u' '),
                  u"DateTimePicker ComboBox3 EditTirGlob MaskEdit1 Button40 AdvStringGrid8 "
                  u"RadioButtonSimple ReInit CommunsButton VerifGains ChargerGrilles SelectGrilles "
-                 u"Consultation"_s);
+                 u"Consultation Majweb"_s);
         e.cliquer({u"ReInit"});
         e.de(u"Button40"_s)->setFocus();
         aller(Qt::Key_Return);
