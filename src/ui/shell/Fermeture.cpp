@@ -5,6 +5,7 @@
 
 #include <cstdio>
 
+#include "comb/FichiersFiltre.h"
 #include "tickets/FichiersGrilles.h"
 
 namespace norvane::ui {
@@ -71,7 +72,7 @@ bool Fermeture::sauverBase() {
 
 bool Fermeture::restaurerFiltre() {
     if (!contexte_.atelier.FiltreActif) return true;
-    const auto rendu = RestaurerFichiersFiltre(contexte_.atelier.Repertoire);
+    const auto rendu = RendreFichiersFiltre(contexte_.atelier.Repertoire);
     return rendu || quitterMalgre(versQt(rendu.erreur()));
 }
 
