@@ -61,7 +61,11 @@ bool Fermeture::sauver(Mode mode) {
 bool Fermeture::sauverGrilles() {
     const auto grilles = contexte_.atelier.saisie.grillesSecours();
     if (grilles.empty()) return true;
-    const auto ecrit = SauverGrillesSecours(grilles, contexte_.atelier.Repertoire);
+    const auto& repertoire = contexte_.atelier.Repertoire;
+    auto ecrit = SauverGrillesSecours(grilles, repertoire);
+    if (ecrit)
+        ecrit = EcrireOptions(contexte_.atelier.bulletins.options,
+                              FichierOptions(repertoire / DossierGrilles / NomGrillesSecours));
     return ecrit || quitterMalgre(versQt(ecrit.erreur()));
 }
 
