@@ -12,8 +12,8 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include "combinaisons/CasesSelection.h"
 #include "soutien/EssaiCombinaisons.h"
+#include "widgets/CasesNumeros.h"
 
 using namespace norvane::ui::essais;
 
@@ -21,7 +21,7 @@ namespace {
 
 /// The page in front, on a small base.
 struct EssaiSelections : EssaiCombinaisons {
-    CasesSelection* cases = de<CasesSelection>("RxCheckListBox1");
+    CasesNumeros* cases = de<CasesNumeros>("RxCheckListBox1");
     QPushButton* select = de<QPushButton>("ButtonSelect");
 
     explicit EssaiSelections(const Base& base) : EssaiCombinaisons(&base) {
@@ -115,7 +115,8 @@ class TestSelections : public EssaisQt {
     }
 
     void dixCasesParRangee() {
-        CasesSelection cases(nullptr);
+        const AspectsCases aspects{};
+        CasesNumeros cases(u"Cases"_s, u"Cases"_s, aspects, 10, nullptr);
         cases.show();
         for (int largeur = 300; largeur <= 330; ++largeur) {
             cases.resize(largeur, 200);
