@@ -125,16 +125,16 @@ void ManipulationListes::operer(QuelleListe laquelle, std::function<void(Liste&)
                                     operation(*prise);
                                     return Resultat<Rien>(Rien{});
                                 });
-    const auto rendre = [this, laquelle, prise](Travail&) {
+    const auto rendre = [this, laquelle, prise] {
         contexte_.atelier.liste(laquelle) = std::move(*prise);
         contexte_.relais.annoncer({.listes = true});
     };
     const VueTravail vue{u"Opération mémoire en cours..."_s};
-    if (contexte_.travaux.lancer(std::move(travail), vue, this, rendre)) {
+    if (contexte_.travaux.lancer(std::move(travail), vue, this, [rendre](Travail&) { rendre(); })) {
         contexte_.relais.annoncer({.listes = true});
         return;
     }
-    rendre(*travail);
+    rendre();
     dire(contexte_.travaux.erreur());
 }
 
