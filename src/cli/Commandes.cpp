@@ -5,6 +5,7 @@
 #include "CommandeAnalyses.h"
 #include "CommandeBulletins.h"
 #include "CommandeCombBornes.h"
+#include "CommandeFiltre.h"
 #include "CommandeHistorique.h"
 #include "CommandeImporter.h"
 #include "CommandeListe.h"
@@ -28,6 +29,7 @@ std::vector<std::unique_ptr<Commande>> DeclarerCommandes(CLI::App& racine) {
     std::vector<std::unique_ptr<Commande>> commandes;
     commandes.push_back(std::make_unique<CommandeBase>(racine));
     commandes.push_back(std::make_unique<CommandeTirages>(racine));
+    commandes.push_back(std::make_unique<CommandeFiltre>(racine));
     commandes.push_back(std::make_unique<CommandeImporter>(racine));
     CLI::App& stats =
         Groupe(racine, "stats", "Statistiques des numéros ou des chances sur l'intervalle");

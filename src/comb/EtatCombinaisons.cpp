@@ -13,6 +13,7 @@
 
 #include "base/Fichiers.h"
 #include "base/Textes.h"
+#include "EchangeFichiers.h"
 #include "IndexTirages.h"
 
 namespace norvane {
@@ -104,16 +105,6 @@ Resultat<std::vector<fs::path>> Variantes(const fs::path& repertoire, const std:
     });
     return trouvees;
 }
-
-struct Echange {
-    const char* enUsage;
-    const char* sauvegarde;
-};
-constexpr Echange Echanges[] = {{NomCombCalc, "Combcalc.~in"},
-                                {"comb2.dat", "comb2.~da"},
-                                {"comb3.dat", "comb3.~da"},
-                                {"comb4.dat", "comb4.~da"},
-                                {"comb5.dat", "comb5.~da"}};
 
 Resultat<Rien> SupprimerVariantes(const fs::path& repertoire, const std::string& nom) {
     const auto variantes = Variantes(repertoire, nom);

@@ -10,6 +10,7 @@
 #include "base/Fichiers.h"
 #include "base/Stockage.h"
 #include "Dossier.h"
+#include "Tuer.h"
 
 namespace norvane {
 namespace {
@@ -296,20 +297,6 @@ TEST_F(Stockage, LectureSeule) {
     droits(dossier.chemin(), owner_all);
     droits(fichier, owner_read | owner_write);
     EXPECT_TRUE(memes(charger(false), base));
-}
-
-/// A child that does `travail` for ever, killed at a random moment before `limite` microseconds.
-template <typename Travail>
-void tuer(std::mt19937& alea, unsigned limite, Travail travail) {
-    const pid_t pid = ::fork();
-    ASSERT_GE(pid, 0);
-    for (int i = 1; pid == 0; ++i)
-        if (!travail(i)) ::_exit(9);
-    ::usleep(static_cast<useconds_t>(alea() % limite));
-    ::kill(pid, SIGKILL);
-    int etat = 0;
-    ASSERT_EQ(::waitpid(pid, &etat, 0), pid);
-    ASSERT_TRUE(WIFSIGNALED(etat));
 }
 
 // The disk is full in the middle of a save: the old base stays.

@@ -310,6 +310,28 @@ TEST_F(Cli, FichiersDeListesEtDeSelections) {
     refuse(std::string("selection lire b.slt"), "s'arrête après 49");
 }
 
+TEST_F(Cli, Filtre) {
+    std::string filtre = "0 1 0 0 0";  // those with a Chance
+    for (int k = 0; k < 50; ++k) filtre += " 0";
+    poser(dossier / "chances.flt", filtre);
+    // The prizes stay at their places.
+    Base base = QuatreTirages();
+    for (std::size_t i = 0; i < 4; ++i) base.Rapports[i][0] = {1.0, 10.0 * static_cast<double>(i)};
+    std::ostringstream entiere, attendue, seconde;
+    EcrireTableCsv(entiere, base, 0, 3);
+    poser(dossier / "base.csv", entiere.str());
+    base.Tirages[1] = base.Tirages[2];
+    EcrireTableCsv(attendue, base, 0, 1);
+    EXPECT_EQ(lancer("--base base.csv filtre chances.flt").out, attendue.str());
+    EcrireTableCsv(seconde, base, 1, 1);
+    EXPECT_EQ(lancer("--base base.csv --de 2 --a 4 filtre chances.flt").out, seconde.str());
+    poser(dossier / "tout.flt", "1 0" + filtre.substr(3));
+    refuse(std::string("--base base.csv filtre tout.flt"), "Tous les tirages ont été conservés");
+    poser(dossier / "rien.flt", filtre.substr(0, filtre.size() - 1) + "1");  // Sundays
+    refuse(std::string("--base base.csv filtre rien.flt"), "moins de 2 tirages");
+    refuse(std::string("--base base.csv filtre absent.flt"), "absent.flt");
+}
+
 TEST_F(Cli, MarquesDesBulletins) {
     poser(
         dossier / "a.grl", "7\n" + [] {

@@ -17,7 +17,7 @@ namespace {
 class Preuve : public testing::TestWithParam<TypeGarantie> {};
 
 /// The highest numbers, the base numbers in the middle of them.
-SelectionSysteme Selection(const SystemeDisponible& s) {
+SelectionSysteme SelectionPour(const SystemeDisponible& s) {
     Ensemble numeros, base;
     for (int i = 0; i < s.Selection; ++i) numeros.ajouter(NumeroMax - i);
     for (int i = 0; i < s.Base; ++i) base.ajouter(NumeroMax - 2 - i);
@@ -37,7 +37,7 @@ TEST_P(Preuve, ChaqueLigneTientSaPromesse) {
         precedente = place;
         ASSERT_EQ(std::pair(s.GarantieX, s.GarantieY), std::pair(type.X, type.Y));
 
-        const SelectionSysteme selection = Selection(s);
+        const SelectionSysteme selection = SelectionPour(s);
         const auto systeme = GenererSysteme(s, selection);
         ASSERT_TRUE(systeme) << systeme.erreur();
         const auto grilles = GrillesEnsembles(*systeme);

@@ -29,7 +29,8 @@ const QString Controles =
     u"Rapports PanneauAleatoire PanneauJoker  "
     u"Edit1 CheckBox2ND RadioButtonSimple RadioButtonJeu AddGrille SupprGrille SupprAllGrilles  "
     u"ReInit CommunsButton DeSelect ProgressBarBilan NormalMode VerifGains ChargerGrilles "
-    u"ButtonSauverGrilles SelectGrilles Consultation MajBaseManuelle"_s;
+    u"ButtonSauverGrilles SelectGrilles Consultation MajBaseManuelle  "
+    u"AjoutLibre VideRapports Button75"_s;
 
 QString imageDe(const Essai& e) {
     QString image;
@@ -131,32 +132,42 @@ class TestResultatsModes final : public EssaisQt {
                             const QString& image, const QString& textes) {
             QTest::newRow(nom) << CasEtat{depart, clics, image, textes};
         };
-        const QString saisie = u"----+ .+. -+..+++ -++.+---+--"_s;
+        const QString saisie = u"----+ .+. -+..+++ -++.+---+-- ..-"_s;
         const QString numeros = u"&Vérifier gains|C&onsultation|&Choix libre|Numéros JOKER+"_s;
         const QString sort =
             u"|&Vérifier gains|C&onsultation|&Choix libre|Tirage au sort de grilles"_s;
         const QString selection = u"Mode Sélection|"_s;
         const QString retour = selection + u"Retour au mode Normal"_s;
-        cas("normal", Normal, {}, u"+++++ +.. .-++... ++...++-++-"_s,
+        cas("normal", Normal, {}, u"+++++ +.. .-++... ++...++-+++ ..+"_s,
             u"Mode Normal|&Vérifier gains|C&onsultation|&Choix libre|Rapports du 2nd Tirage"_s);
-        cas("choix", Normal, u"ReInit"_s, u"----+ +.. .-..... +.+..------"_s,
+        cas("choix", Normal, u"ReInit"_s, u"----+ +.. .-..... +.+..------ ..-"_s,
             u"Mode Normal|&Vérifier gains|C&onsultation|&OK!|Rapports du 2nd Tirage"_s);
         cas("grilles", Grilles, {}, saisie, retour + sort);
         cas("reçu", Recu, {}, saisie,
             selection + u"Passer à la saisie des Numéros Joker+"_s + sort);
-        cas("vidé", Recu, u"SupprAllGrilles"_s, u"----+ .+. -+..+-- -++.+---+--"_s, retour + sort);
-        cas("compte", Recu, u"NormalMode"_s, u"----+ ..+ .-..... -+..+------"_s,
+        cas("vidé", Recu, u"SupprAllGrilles"_s, u"----+ .+. -+..+-- -++.+---+-- ..-"_s,
+            retour + sort);
+        cas("compte", Recu, u"NormalMode"_s, u"----+ ..+ .-..... -+..+------ ..-"_s,
             retour + u'|' + numeros);
-        cas("date", Recu, u"NormalMode RadioJoker0 Button66"_s, u"----+ ..+ .-..... -+..+------"_s,
+        cas("date", Recu, u"NormalMode RadioJoker0 Button66"_s,
+            u"----+ ..+ .-..... -+..+------ ..-"_s,
             retour + u"|&Vérifier gains|C&onsultation|&Choix libre|Participation du Reçu de Jeu"_s);
         const QString consultation =
             u"Mode Consultation|Retour au mode Normal|&Bilan Gains|&Terminer|&Choix libre|"_s;
         const QString premier = u"Rapports du 1er Tirage"_s;
-        cas("consultation", Consultation, {}, u"+++++ +.. +-++.++ -+..++++-+-"_s,
+        cas("consultation", Consultation, {}, u"+++++ +.. +-++.++ -+..++++-+- ..+"_s,
             consultation + premier);
-        cas("du reçu", Consultation, u"RadioButtonJeu"_s, u"+++++ +.. +-++.++ -+..+++.-+-"_s,
+        cas("du reçu", Consultation, u"RadioButtonJeu"_s, u"+++++ +.. +-++.++ -+..+++.-+- ..+"_s,
             u"Mode Consultation|Retour au mode Normal|&Vérifier gains|&Terminer|&Choix libre|"_s +
                 premier);
+        const QString edition =
+            u"Mode Mise à jour|&Vérifier gains|C&onsultation|&Choix libre|Rapports du 2nd Tirage"_s;
+        cas("mise à jour", Normal, u"MajBaseManuelle"_s, u"+++++ +.. .-...+. -+...------ +.-"_s,
+            edition);
+        cas("modification", Normal, u"MajBaseManuelle AjoutLibre"_s,
+            u"----+ +.. .-..... -.+..-----+ ++."_s, edition);
+        cas("abandon", Normal, u"MajBaseManuelle AjoutLibre MajBaseManuelle"_s,
+            u"+++++ +.. .-...+. -+...------ +.-"_s, edition);
     }
 
     void etats() {
@@ -192,8 +203,9 @@ class TestResultatsModes final : public EssaisQt {
     void regleOccupe() {
         Essai e(false);
         e.banc.atelier.activite.TraitementsEnCours = 1;
-        for (const QString& nom : {u"SelectGrilles"_s, u"Consultation"_s, u"NormalMode"_s,
-                                   u"ChargerGrilles"_s, u"VerifGains"_s}) {
+        for (const QString& nom :
+             {u"SelectGrilles"_s, u"Consultation"_s, u"NormalMode"_s, u"ChargerGrilles"_s,
+              u"VerifGains"_s, u"MajBaseManuelle"_s, u"Button75"_s}) {
             e.de(nom)->click();
             QCOMPARE(e.demandes(), QStringList{u"Attendez la fin du traitement en cours..."_s});
         }
@@ -227,7 +239,7 @@ class TestResultatsModes final : public EssaisQt {
         QCOMPARE(tour.join(u' '),
                  u"DateTimePicker ComboBox3 EditTirGlob MaskEdit1 Button40 AdvStringGrid8 "
                  u"RadioButtonSimple ReInit CommunsButton VerifGains ChargerGrilles SelectGrilles "
-                 u"Consultation"_s);
+                 u"Consultation MajBaseManuelle Majweb Button75"_s);
         e.cliquer({u"ReInit"});
         e.de(u"Button40"_s)->setFocus();
         aller(Qt::Key_Return);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
 
@@ -25,7 +26,10 @@ struct EssaiSystemes : FormeOuverte {
     QListView* grilles = de<QListView>("ListBox6");
     QLineEdit* numero = de<QLineEdit>("Edit25");
 
-    EssaiSystemes() { QTest::keyClick(forme.get(), Qt::Key_0, Qt::ControlModifier); }
+    EssaiSystemes() {
+        auto* onglets = de<QTabWidget>("PageControl1");
+        onglets->setCurrentIndex(onglets->indexOf(page));
+    }
 
     QString texte(const char* nom) const { return de<QLabel>(nom)->text(); }
     QString dernier() const { return posees.isEmpty() ? QString() : posees.last().instruction; }
@@ -47,12 +51,12 @@ struct EssaiSystemes : FormeOuverte {
     void cocher(std::initializer_list<int> numeros) const {
         for (const int n : numeros) tuile(n);
     }
-    /// A system of nine numbers, two of them base numbers.
+    /// A system of twelve numbers, two of them base numbers.
     void generer() const {
         type(u"GARANTIE 3/4");
-        ligne(u"Sélection: 09 Garantie: 3/4 Base: 2"_s);
+        ligne(u"Sélection: 12 Garantie: 3/4 Base: 2"_s);
         de("Button80")->click();
-        cocher({3, 8, 10, 21, 22, 30, 40, 44, 49, 8, 44});
+        cocher({3, 8, 10, 21, 22, 30, 31, 33, 40, 44, 45, 49, 8, 44});
         de("Button82")->click();
     }
     QString grille(int i) const { return grilles->model()->index(i, 0).data().toString(); }
@@ -73,7 +77,7 @@ class TestSystemes : public EssaisQt {
         QCOMPARE(e.texte("Label86"), u"Aucun système en mémoire..."_s);
         QVERIFY(!e.numero->isEnabled());
         e.type(u"GARANTIE 4/5");
-        QVERIFY(e.liste->hasFocus());
+        QCOMPARE(e.forme->focusWidget(), e.liste);
         QCOMPARE(e.liste->currentIndex().row(), 0);
         e.ligne(u"Sélection: 12 Garantie: 4/5 Base: 1"_s);
         QCOMPARE(e.a.systemeDisponible.Selection, 12);
@@ -132,7 +136,7 @@ class TestSystemes : public EssaisQt {
         const int nombre = e.a.systemeDisponible.Grilles;
         QCOMPARE(e.grilles->model()->rowCount(), nombre);
         QVERIFY(e.texte("Label84") ==
-                u"Sélection 09 Garantie 3/4 Base 2 Grilles %1"_s.arg(nombre, 4, 10, QChar(u'0')));
+                u"Sélection 12 Garantie 3/4 Base 2 Grilles %1"_s.arg(nombre, 4, 10, QChar(u'0')));
         for (int i = 0; i < nombre; ++i)
             QVERIFY(e.grille(i).contains(u"08 "_s) && e.grille(i).contains(u"44 "_s));
         QCOMPARE(e.texte("Label86"), e.grille(0).trimmed());
@@ -161,7 +165,7 @@ class TestSystemes : public EssaisQt {
         for (const char* nom : {"BitBtn10", "Button84", "Button85", "BoutonGarantie"}) {
             clic(nom);
             QCOMPARE(e.dernier(), u"Aucun système en mémoire, générez d'abord un système..."_s);
-            QVERIFY(e.liste->hasFocus());
+            QCOMPARE(e.forme->focusWidget(), e.liste);
         }
         e.generer();
         const Systeme systeme = e.a.SystemeCourant;
@@ -189,7 +193,7 @@ class TestSystemes : public EssaisQt {
         chemin = e.banc.dossier.filePath(u"a.syr"_s);
         clic("BitBtn8");
         QCOMPARE(e.a.SystemeCourant, systeme);
-        QCOMPARE(e.texte("Label88"), u"Sélection: 9     Base: 2"_s);
+        QCOMPARE(e.texte("Label88"), u"Sélection: 12     Base: 2"_s);
         e.banc.ecrire("a.syr", "rien");
         clic("BitBtn8");
         QVERIFY(e.dernier().contains(u"a.syr"_s));
@@ -202,7 +206,7 @@ class TestSystemes : public EssaisQt {
         e.de("BoutonGarantie")->click();
         e.finir();
         QVERIFY(e.texte("LabelGarantie") ==
-                u"Garantie 3/4 sur une sélection de 9 numéros dont 2 de base tenue : les 21 cas "
+                u"Garantie 3/4 sur une sélection de 12 numéros dont 2 de base tenue : les 45 cas "
                 u"possibles ont tous été vérifiés."_s);
         const auto& chances = e.de<VueTableau>("TableChances")->modele();
         QCOMPARE(chances.rowCount(), 4);

@@ -6,10 +6,10 @@
 #include <array>
 
 #include "analyses/PageAnalyses.h"
-#include "avenir/PageAVenir.h"
 #include "combinaisons/PageCombinaisons.h"
 #include "graphes/PageGraphes.h"
 #include "historiques/PageHistoriques.h"
+#include "impression/PageImpression.h"
 #include "nc/PageNC.h"
 #include "resultats/PageResultats.h"
 #include "statistiques/PageStats.h"
@@ -32,10 +32,7 @@ constexpr std::array<Fabrique, 10> Fabriques = {
     [](Contexte& c, QWidget* p) -> Page* { return new PageAnalyses(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageGraphes(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageHistoriques(c, p); },
-    [](Contexte& c, QWidget* p) -> Page* {
-        return new PageAVenir(c, u"Varo7"_s, u"Impression sur bulletins"_s,
-                              u"Cette page imprimera vos grilles sur les bulletins de jeu."_s, p);
-    },
+    [](Contexte& c, QWidget* p) -> Page* { return new PageImpression(c, p); },
     [](Contexte& c, QWidget* p) -> Page* { return new PageSystemes(c, p); },
 };
 

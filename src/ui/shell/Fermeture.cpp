@@ -5,6 +5,7 @@
 
 #include <cstdio>
 
+#include "comb/FichiersFiltre.h"
 #include "tickets/FichiersGrilles.h"
 
 namespace norvane::ui {
@@ -60,7 +61,11 @@ bool Fermeture::sauver(Mode mode) {
 bool Fermeture::sauverGrilles() {
     const auto grilles = contexte_.atelier.saisie.grillesSecours();
     if (grilles.empty()) return true;
-    const auto ecrit = SauverGrillesSecours(grilles, contexte_.atelier.Repertoire);
+    const auto& repertoire = contexte_.atelier.Repertoire;
+    auto ecrit = SauverGrillesSecours(grilles, repertoire);
+    if (ecrit)
+        ecrit = EcrireOptions(contexte_.atelier.bulletins.options,
+                              FichierOptions(repertoire / DossierGrilles / NomGrillesSecours));
     return ecrit || quitterMalgre(versQt(ecrit.erreur()));
 }
 
@@ -71,7 +76,7 @@ bool Fermeture::sauverBase() {
 
 bool Fermeture::restaurerFiltre() {
     if (!contexte_.atelier.FiltreActif) return true;
-    const auto rendu = RestaurerFichiersFiltre(contexte_.atelier.Repertoire);
+    const auto rendu = RendreFichiersFiltre(contexte_.atelier.Repertoire);
     return rendu || quitterMalgre(versQt(rendu.erreur()));
 }
 

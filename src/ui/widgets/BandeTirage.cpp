@@ -135,7 +135,8 @@ void BandeTirage::disposer(bool avecChance) {
 void BandeTirage::afficher(const Tirage& tirage, const Cases& communs) {
     for (std::size_t i = 0; i < NbBoules; ++i) {
         const int numero = tirage.Numeros[i];
-        cellules_[i]->montrer(numero, communs.contient(GenreStats::Numeros, numero));
+        const bool commun = numero != 0 && communs.contient(GenreStats::Numeros, numero);
+        cellules_[i]->montrer(numero, commun);
     }
     const bool commune = tirage.Chance != 0 && communs.contient(GenreStats::Chances, tirage.Chance);
     cellules_[NbBoules]->montrer(tirage.Chance, commune);

@@ -100,7 +100,7 @@ CasesNumeros::CasesNumeros(const QString& nom, const QString& sens, const Aspect
 
 QSize CasesNumeros::minimumSizeHint() const {
     const int h = fontMetrics().height();
-    return {colonnes_ * 2 * h, rangees() * (h + Unite)};
+    return {colonnes_ * 5 * h / 3, rangees() * (h + Unite)};
 }
 
 QSize CasesNumeros::sizeHint() const {
@@ -110,7 +110,8 @@ QSize CasesNumeros::sizeHint() const {
 
 void CasesNumeros::resizeEvent(QResizeEvent* evenement) {
     QListView::resizeEvent(evenement);
-    setGridSize({viewport()->width() / colonnes_, viewport()->height() / rangees()});
+    // A row that fills the width to the last pixel would lose its last tile to the next one.
+    setGridSize({(viewport()->width() - 1) / colonnes_, viewport()->height() / rangees()});
 }
 
 void CasesNumeros::presser(QMouseEvent* evenement) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QStyledItemDelegate>
 
 #include "base/Textes.h"
@@ -27,10 +28,26 @@ constexpr std::array<const char16_t*, NbRangs2nd> Rangs2nd{u"5N", u"4N", u"3N", 
 constexpr int HauteurLigne = 24;   // of the 800 x 600 design
 constexpr int LargeurTable = 300;  // of the same
 
-/// Leaves the cells the margin that the captions above them have.
+/// Leaves the cells the margin that the captions above them have, and gives what is typed in one to
+/// the table, not to the cell.
 class DelegueMarge final : public QStyledItemDelegate {
  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit DelegueMarge(TableRapports* table) : QStyledItemDelegate(table), table_(table) {}
+
+    /// The number without its separators and its currency.
+    void setEditorData(QWidget* editeur, const QModelIndex& place) const override {
+        const QString nombre = place.data().toString().section(u' ', 0, 0).remove(QChar::Nbsp);
+        auto* champ = qobject_cast<QLineEdit*>(editeur);
+        champ->setAlignment(Qt::AlignRight);
+        champ->setText(nombre);
+    }
+    void setModelData(QWidget* editeur, QAbstractItemModel*,
+                      const QModelIndex& place) const override {
+        const bool compte = place.column() == TableRapports::Gagnants;
+        Q_EMIT table_->celluleSaisie(place.row(),
+                                     compte ? ColonneRapport::Gagnants : ColonneRapport::Gain,
+                                     qobject_cast<QLineEdit*>(editeur)->text());
+    }
 
     void paint(QPainter* peintre, const QStyleOptionViewItem& option,
                const QModelIndex& place) const override {
@@ -41,6 +58,9 @@ class DelegueMarge final : public QStyledItemDelegate {
         cellule.rect.adjust(Unite / 2, 0, -Unite / 2, 0);
         style->drawControl(QStyle::CE_ItemViewItem, &cellule, peintre, cellule.widget);
     }
+
+ private:
+    TableRapports* table_;
 };
 
 }  // namespace
@@ -103,31 +123,41 @@ void TableRapports::poser(int rang, Colonne colonne, const QString& texte, const
     cellule->setStatusTip(longue);
 }
 
+void TableRapports::poserValeurs(int rang, const RapportSaisi& rapport, const Reglages& reglages) {
+    QString gagnants, montant, francs;
+    if (rapport.Gagnants) {
+        gagnants = versQt(FormaterCompte(std::llround(*rapport.Gagnants)));
+        if (gagnants.isEmpty()) gagnants = u"0"_s;
+    }
+    if (rapport.Gain) {
+        montant = versQt(FormaterMontant(*rapport.Gain) + " " + reglages.SymboleMonnaie);
+        francs = u"Montant en Francs : "_s +
+                 versQt(FormaterMontant(*rapport.Gain * reglages.TauxConversion));
+    }
+    item(rang, Gagnants)->setText(gagnants);
+    poser(rang, Montants, montant, francs, francs);
+}
+
 void TableRapports::afficher(const Tirage& tirage, const RapportsTirage& rapports,
                              const Reglages& reglages) {
+    setEditTriggers(NoEditTriggers);
     for (int rang = 0; rang < rowCount(); ++rang) {
-        if (!RangExiste(tirage, rang)) {
-            viderRang(rang);
-            continue;
-        }
         const Rapport& r = rapports[static_cast<std::size_t>(rang)];
-        QString gagnants = versQt(FormaterCompte(std::llround(r.Gagnants)));
-        if (gagnants.isEmpty()) gagnants = u"0"_s;
-        item(rang, Gagnants)->setText(gagnants);
-        const QString francs =
-            u"Montant en Francs : "_s + versQt(FormaterMontant(r.Gain * reglages.TauxConversion));
-        poser(rang, Montants, versQt(FormaterMontant(r.Gain) + " " + reglages.SymboleMonnaie),
-              francs, francs);
+        const bool existe = RangExiste(tirage, rang);
+        poserValeurs(rang, existe ? RapportSaisi{r.Gagnants, r.Gain} : RapportSaisi{}, reglages);
+    }
+}
+
+void TableRapports::editer(const RapportsSaisis& saisis, const Reglages& reglages) {
+    setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
+    for (int rang = 0; rang < rowCount(); ++rang) {
+        poserValeurs(rang, saisis[static_cast<std::size_t>(rang)], reglages);
     }
 }
 
 void TableRapports::vider() {
-    for (int rang = 0; rang < rowCount(); ++rang) viderRang(rang);
-}
-
-void TableRapports::viderRang(int rang) {
-    item(rang, Gagnants)->setText({});
-    poser(rang, Montants, {}, {}, {});
+    setEditTriggers(NoEditTriggers);
+    for (int rang = 0; rang < rowCount(); ++rang) poserValeurs(rang, {}, {});
 }
 
 void TableRapports::setFacteurs(const Facteurs& facteurs) {

@@ -50,7 +50,7 @@ struct EtatMoteur {
     EtatCombinaisons combinaisons;
 };
 
-struct Atelier {
+struct Atelier {  // NOLINT(clang-analyzer-optin.performance.Padding): one of it, for readers
     std::filesystem::path Repertoire;  ///< the program's directory; every file is relative to it
     Configuration configuration;
     Base base;

@@ -20,10 +20,8 @@ struct BaseMiseAJour {
 Resultat<BaseMiseAJour> PreparerMiseAJour(const Base& base, std::string_view octets,
                                           std::string_view nom, const Suivi& suivi = {});
 
-/// Puts that base in the place of the atelier's and saves it. Where draws already known changed,
-/// the engine's results are forgotten first: a kill in between leaves a whole base and results that
-/// are to be computed again, never results of another base. On an error the base in memory and the
-/// one on the disk are as before.
+/// Puts that base in the place of the atelier's and saves it (Atelier::sauverBase). On an error the
+/// base in memory and the one on the disk are as before.
 Resultat<Rien> AppliquerMiseAJour(Atelier& atelier, BaseMiseAJour&& venue);
 
 }  // namespace norvane

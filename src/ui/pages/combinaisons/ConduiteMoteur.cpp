@@ -166,8 +166,8 @@ void ConduiteMoteur::continuer(const Travail& travail, const FinTraitement& fin)
         case GenreTravail::Bornes:
             return apresListe(fin.message.empty());
         case GenreTravail::Adaptation:
-            trier();
-            return contexte_.relais.aller(VersListe{});
+            RevenirPage_ = true;
+            return trier();
         case GenreTravail::Tri:
             Q_EMIT reordonnee();
             break;
@@ -201,6 +201,7 @@ void ConduiteMoteur::trier() {
 /// All that was to be done is done.
 void ConduiteMoteur::conclure() {
     contexte_.relais.annoncer({.listes = true});
+    if (std::exchange(RevenirPage_, false)) contexte_.relais.aller(VersListe{});
     if (!aDire_.isEmpty()) contexte_.relais.dire(std::exchange(aDire_, {}));
 }
 

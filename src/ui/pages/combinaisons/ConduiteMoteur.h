@@ -62,7 +62,8 @@ class ConduiteMoteur final : public QObject {
     QProgressBar& jaugeRecherche_;
     QProgressBar& jaugeListe_;
     Alerte* alerte_ = nullptr;
-    QString aDire_;  ///< for the status bar, once all is through
+    bool RevenirPage_ = false;  ///< the list in memory is to be shown, once all is through
+    QString aDire_;             ///< for the status bar, once all is through
 };
 
 }  // namespace norvane::ui

@@ -182,6 +182,7 @@ bool PageCombinaisons::ouvrir(const Destination& destination) {
     } else {
         contexte.relais.annoncer({.listes = true});
     }
+    if (std::get<VersListe>(destination).adapter) conduite_->adapterListe();
     return true;
 }
 

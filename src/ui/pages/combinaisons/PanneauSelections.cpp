@@ -3,6 +3,7 @@
 
 #include "combinaisons/PanneauSelections.h"
 
+#include <algorithm>
 #include <QHBoxLayout>
 #include <QHideEvent>
 #include <QLabel>
@@ -10,12 +11,13 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-#include "combinaisons/CasesSelection.h"
+#include "combinaisons/BoutonEtroit.h"
 #include "combinaisons/CommandesSelection.h"
 #include "combinaisons/SelectionsPanel.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
 #include "stats/TableauStats.h"
+#include "widgets/CasesNumeros.h"
 #include "widgets/Fiche.h"
 
 namespace norvane::ui {
@@ -33,6 +35,21 @@ constexpr std::array<Compte, 2> Comptes = {
     {{u"LabelNumsSelects", u"Priorité absolue: ", Priorite::Absolue},
      {u"LabelNumsSelects2", u"Priorité secondaire: ", Priorite::Secondaire}}};
 
+constexpr int Colonnes = 10;
+/// By Priorite.
+constexpr AspectsCases Aspects = {{
+    {Qt::Unchecked, u"sans priorité", 0, 0},
+    {Qt::Checked, u"priorité absolue", qRgb(0x1F, 0x8A, 0x4C), qRgb(0xFF, 0xFF, 0xFF)},
+    {Qt::PartiallyChecked, u"priorité secondaire", qRgb(0xF2, 0xB5, 0x44), qRgb(0x3A, 0x26, 0x00)},
+}};
+
+EtatsCases etatsDe(const GrilleSelection& grille) {
+    EtatsCases etats{};
+    std::ranges::transform(grille, etats.begin(),
+                           [](Priorite p) { return static_cast<std::uint8_t>(p); });
+    return etats;
+}
+
 /// The colour of a priority, as large as a letter.
 QLabel* pastille(Priorite priorite, QWidget* parent) {
     auto* etiquette = new QLabel(parent);
@@ -41,18 +58,10 @@ QLabel* pastille(Priorite priorite, QWidget* parent) {
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(Qt::NoPen);
-    p.setBrush(DelegueSelection::fond(priorite));
+    p.setBrush(QColor(Aspects.at(static_cast<std::size_t>(priorite)).fond));
     p.drawRoundedRect(image.rect(), 3, 3);
     etiquette->setPixmap(image);
     return etiquette;
-}
-
-QPushButton* commande(const QString& nom, const QString& libelle, const QString& indice,
-                      QWidget* parent) {
-    auto* b = new QPushButton(libelle, parent);
-    b->setObjectName(nom);
-    poserIndice(b, indice);
-    return b;
 }
 
 }  // namespace
@@ -61,7 +70,8 @@ PanneauSelections::PanneauSelections(Contexte& ctx, QWidget* parent)
     : QWidget(parent),
       contexte_(ctx),
       commandes_(new CommandesSelection(ctx, this)),
-      cases_(new CasesSelection(this)) {
+      cases_(new CasesNumeros(u"RxCheckListBox1"_s, u"Grille de sélection de numéros"_s, Aspects,
+                              Colonnes, this)) {
     poserIndice(cases_,
                 u"Numéros de la sélection|Un clic ou la barre d'espace : priorité absolue, puis "
                 u"secondaire, puis aucune ; Suppr : aucune"_s);
@@ -98,10 +108,11 @@ QSpinBox* PanneauSelections::creerNombre(const char16_t* nom, const QString& ind
 void PanneauSelections::creerBoutons() {
     const auto creer = [this](const char16_t* nom, const char16_t* libelle,
                               const char16_t* indice) {
-        return commande(QString::fromUtf16(nom), QString::fromUtf16(libelle),
-                        QString::fromUtf16(indice), this);
+        return boutonEtroit(QString::fromUtf16(nom), QString::fromUtf16(libelle),
+                            QString::fromUtf16(indice), this);
     };
-    selectionner_ = creer(u"ButtonSelect", u"&Sélectionner", u"");
+    // As wide as the longer of its two captions.
+    selectionner_ = creer(u"ButtonSelect", u"Valider votre sélection", u"");
     vider_ = creer(u"ButtonDecocher", u"&Vider", u"Décocher tous les numéros");
     tirage_ = creer(u"BitBtnWithColor14", u"Tirage",
                     u"Cocher les numéros du tirage actif dans l'onglet Résultats");
@@ -156,7 +167,12 @@ void PanneauSelections::relier() {
     connect(aleatoire_, &QPushButton::clicked, this,
             [this] { commandes_->AdvGlowButton8Click(absolus_->value(), secondaires_->value()); });
     connect(liste_, &QPushButton::clicked, this, &PanneauSelections::ouvrirListe);
-    connect(cases_, &CasesSelection::demande, commandes_, &CommandesSelection::cocher);
+    connect(cases_, &CasesNumeros::avanceDemandee, this, [this](int numero) {
+        const GrilleSelection& grille = GrilleMontree(contexte_.atelier);
+        commandes_->cocher(numero, Suivante(grille.at(static_cast<std::size_t>(numero - 1))));
+    });
+    connect(cases_, &CasesNumeros::retraitDemande, commandes_,
+            [this](int numero) { commandes_->cocher(numero, Priorite::Aucune); });
 }
 
 /// There are 49 numbers for both.
@@ -169,7 +185,7 @@ void PanneauSelections::suivre() {
     const Atelier& a = contexte_.atelier;
     const GrilleSelection& grille = GrilleMontree(a);
     const bool saisie = a.saisieSelection.enCours;
-    cases_->montrer(grille);
+    cases_->montrer(etatsDe(grille));
     cases_->setEnabled(saisie);
     for (std::size_t i = 0; i < Comptes.size(); ++i) {
         comptes_.at(i)->setText(

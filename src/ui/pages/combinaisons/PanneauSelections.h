@@ -18,7 +18,7 @@ class QSpinBox;
 
 namespace norvane::ui {
 
-class CasesSelection;
+class CasesNumeros;
 class CommandesSelection;
 class SelectionsPanel;
 struct Contexte;
@@ -56,7 +56,7 @@ class PanneauSelections final : public QWidget {
     CommandesSelection* commandes_;
     std::array<QLabel*, 2> comptes_{};  ///< absolute, secondary
     QLabel* intervalle_ = nullptr;
-    CasesSelection* cases_;
+    CasesNumeros* cases_;
     QPushButton *selectionner_, *vider_, *tirage_, *choixLibre_, *aleatoire_, *ouvrir_, *sauver_,
         *liste_;
     QSpinBox *absolus_, *secondaires_;

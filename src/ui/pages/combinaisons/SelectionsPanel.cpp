@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "combinaisons/BoutonEtroit.h"
 #include "combinaisons/CommandesSelection.h"
 #include "common/Contexte.h"
 #include "common/Theme.h"
@@ -47,22 +48,25 @@ SelectionsPanel::SelectionsPanel(Contexte& ctx, CommandesSelection& commandes, Q
     pile->addWidget(mode_);
     pile->addLayout(creerAjouts());
     pile->addLayout(creerFichiers());
-    resize(90 * fontMetrics().averageCharWidth(), 28 * fontMetrics().height());
+    // In the lower left of the window: what a line is shown in stands on its right.
+    const QSize taille(parent->width() * 45 / 100, 24 * fontMetrics().height());
+    resize(taille.expandedTo(minimumSizeHint()));
+    move(parent->mapToGlobal(QPoint(2 * Unite, parent->height() - height() - 6 * Unite)));
 
     connect(liste_, &QListWidget::currentRowChanged, this, &SelectionsPanel::montrerLigne);
     // A line that is the active one already can be asked for again.
-    connect(liste_, &QListWidget::itemClicked, this,
+    connect(liste_, &QListWidget::itemActivated, this,
             [this] { montrerLigne(liste_->currentRow()); });
     direMode();
     suivre();
 }
 
 QLayout* SelectionsPanel::creerAjouts() {
-    auto* enCours = bouton(u"Button71"_s, u"Ajouter la sélection en cours"_s,
-                           u"Ajouter à la liste les numéros absolus de la grille"_s, this);
+    auto* enCours = boutonEtroit(u"Button71"_s, u"Ajouter la sélection en cours"_s,
+                                 u"Ajouter à la liste les numéros absolus de la grille"_s, this);
     auto* memoire =
-        bouton(u"Button76"_s, u"Ajout de la sélection"_s,
-               u"Ajouter à la liste les premiers numéros de la liste en mémoire"_s, this);
+        boutonEtroit(u"Button76"_s, u"Ajout de la sélection"_s,
+                     u"Ajouter à la liste les premiers numéros de la liste en mémoire"_s, this);
     auto* taille = new QSpinBox(this);
     taille->setObjectName(u"RxSpinEditSelection"_s);
     taille->setAccessibleName(u"Nombre de numéros à prendre dans la liste en mémoire"_s);
@@ -81,18 +85,18 @@ QLayout* SelectionsPanel::creerAjouts() {
 QLayout* SelectionsPanel::creerFichiers() {
     const auto creer = [this](const QString& nom, const QString& libelle, const QString& indice,
                               void (CommandesSelection::*geste)()) {
-        auto* b = bouton(nom, libelle, indice, this);
+        auto* b = boutonEtroit(nom, libelle, indice, this);
         connect(b, &QPushButton::clicked, &commandes_, geste);
         return b;
     };
-    auto* supprimer = bouton(u"AdvGlowButton1"_s, u"Supprimer"_s,
-                             u"Supprimer la sélection active de la liste"_s, this);
+    auto* supprimer = boutonEtroit(u"AdvGlowButton1"_s, u"Supprimer"_s,
+                                   u"Supprimer la sélection active de la liste"_s, this);
     connect(supprimer, &QPushButton::clicked, this,
             [this] { commandes_.AdvGlowButton1Click(liste_->currentRow()); });
     auto* mode =
-        bouton(u"Button87"_s, u"Mode"_s,
-               u"Montrer la ligne choisie dans la grille ou dans les statistiques"_s, this);
-    stats_ = bouton(u"SpeedButton5"_s, u"Stats"_s, mode->toolTip(), this);
+        boutonEtroit(u"Button87"_s, u"Mode"_s,
+                     u"Montrer la ligne choisie dans la grille ou dans les statistiques"_s, this);
+    stats_ = boutonEtroit(u"SpeedButton5"_s, u"Stats"_s, mode->toolTip(), this);
     stats_->setCheckable(true);
     for (const QPushButton* b : {mode, stats_})
         connect(b, &QPushButton::clicked, this, &SelectionsPanel::basculer);

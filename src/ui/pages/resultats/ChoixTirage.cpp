@@ -85,6 +85,16 @@ void ChoixTirage::ChoisirSousTirage(int sousTirage) {
             return;
         }
     }
+    const bool possible = sousTirage == 1 || date_ >= DateSecondTirage || date_ < DateNouveauLoto;
+    if (!absents_ || !possible) return;
+    TirageAvant = sousTirage == 2 ? indice_ : indice_ - 1;
+    SousTirage_ = sousTirage;
+    DateSansTirage = true;
+    indice_ = -1;
+}
+
+PlaceTirage ChoixTirage::place() const {
+    return {indice_, indice_ < 0 ? TirageAvant : indice_ - 1, date_, SousTirage_};
 }
 
 }  // namespace norvane::ui

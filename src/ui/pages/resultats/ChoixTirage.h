@@ -5,7 +5,7 @@
 // here; a base without records leaves everything as it is.
 #pragma once
 
-#include "base/Base.h"
+#include "atelier/EditionBase.h"
 
 namespace norvane::ui {
 
@@ -28,11 +28,16 @@ class ChoixTirage {
     /// The draw has the prizes of a 2nd Tirage.
     bool rapportsSecond() const { return second() && date_ >= DateSecondTirage; }
 
+    /// Where a record of this date and Tirage stands, or would stand.
+    PlaceTirage place() const;
+    /// Whether a Tirage that a date does not have can be chosen: it is about to be entered.
+    void permettreAbsents(bool permis) { absents_ = permis; }
+
     void ChoisirParDate(int date);
     /// One-based; out of range: the nearest. After a date without a draw: the draw before that
     /// date, whatever the number.
     void ChoisirParNumero(int numero);
-    /// 1 or 2: that record of the date, if there is one.
+    /// 1 or 2: that record of the date, if there is one; where it may be missing: none.
     void ChoisirSousTirage(int sousTirage);
     /// Draw `numero`, also after a date without a draw.
     void montrer(int numero);
@@ -52,6 +57,7 @@ class ChoixTirage {
     bool DateSansTirage = false;
     int date_ = 0;
     int SousTirage_ = 1;
+    bool absents_ = false;
 };
 
 }  // namespace norvane::ui

@@ -301,8 +301,9 @@ bool CommandesBillets::sauver() {
                             u"Grilles enregistrées"_s,
                             [this](const std::filesystem::path& fichier, std::size_t) {
                                 auto ecrit = saisie_.sauver(fichier);
-                                if (ecrit) annoncer();
-                                return ecrit;
+                                if (!ecrit) return ecrit;
+                                annoncer();
+                                return contexte_.atelier.bulletins.sauver(fichier);
                             }});
 }
 
@@ -338,7 +339,10 @@ void CommandesBillets::ouvrirGrilles(const std::filesystem::path& fichier) {
             u"Voulez-vous sauvegarder les grilles précédemment sélectionnées ?"_s, Confirmation);
         if (reponse == CodeFerme || (reponse == CodeBouton1 && !sauver())) return;
     }
-    if (reussi(saisie_.ouvrirGrilles(fichier))) annoncer();
+    if (!reussi(saisie_.ouvrirGrilles(fichier))) return;
+    const auto options = contexte_.atelier.bulletins.ouvrir(fichier);
+    annoncer();
+    reussi(options);
 }
 
 void CommandesBillets::CopierversBulletins(std::span<const Grille> grilles) {

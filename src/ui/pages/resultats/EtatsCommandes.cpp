@@ -22,8 +22,10 @@ namespace {
 constexpr unsigned Consultations = EtatConsultationGrilles | EtatConsultationRecu;
 constexpr unsigned Planche = EtatGrilles | EtatRecu;
 constexpr unsigned Jokers = EtatJokerCompte | EtatJokerNumeros | EtatJokerDate;
-constexpr unsigned Libres = EtatNormal | Consultations;  // draws can be browsed
-constexpr unsigned Tous = Libres | EtatChoix | Planche | Jokers;
+constexpr unsigned Libres = EtatNormal | Consultations;
+constexpr unsigned Parcours = Libres | EtatMiseAJour;  // draws can be browsed
+constexpr unsigned Editions = EtatMiseAJour | EtatModification;
+constexpr unsigned Tous = Libres | EtatChoix | Planche | Jokers | Editions;
 
 enum class Acces { Actif, Inactif, LectureSeule };
 constexpr auto Actif = Acces::Actif;
@@ -34,6 +36,14 @@ constexpr auto SansTouche = true;
 
 constexpr const char16_t* RetourNormal = u"Retour au mode Normal";
 constexpr const char16_t* Terminer = u"&Terminer";
+constexpr const char16_t* IndiceSupprimer = u"Supprimer l'enregistrement en cours";
+constexpr const char16_t* IndiceSupprimerGrille = u"Supprimer la grille courante";
+constexpr const char16_t* MiseAJour = u"&Mise à jour";
+constexpr const char16_t* IndiceMiseAJour = u"Mise à jour des tirages (mode manuel)";
+constexpr const char16_t* Filtrer = u"&Filtrer la base des tirages";
+constexpr const char16_t* IndiceFiltrer = u"Filtrer la base des tirages";
+constexpr const char16_t* BaseTotale = u"&Retour à la base totale des tirages";
+constexpr const char16_t* IndiceBaseTotale = u"Revenir à la base totale des tirages";
 constexpr const char16_t* IndiceVerifier =
     u"Calcul des gains pour toutes les grilles (voir le fichier \"Lotoveri.dat\")\n";
 constexpr const char16_t* IndiceBilan =
@@ -57,18 +67,22 @@ namespace {
 
 /// Control by control; of the lines of one, the first that holds is the one.
 constexpr auto Regles = std::to_array<RegleCommande>({
-    {"DateTimePicker", Libres, nullptr, Visible, Actif},
+    {"DateTimePicker", Parcours, nullptr, Visible, Actif},
     {"DateTimePicker", Tous, nullptr, Visible, Inactif},
-    {"ComboBox3", Libres, nullptr, Visible, Actif},
+    {"ComboBox3", Parcours, nullptr, Visible, Actif},
     {"ComboBox3", Tous, nullptr, Visible, Inactif},
-    {"EditTirGlob", Libres, nullptr, Visible, Actif},
+    {"EditTirGlob", Parcours, nullptr, Visible, Actif},
     {"EditTirGlob", Tous, nullptr, Visible, Inactif},
-    {"UpDown1", Libres, nullptr, Visible, Actif},
+    {"UpDown1", Parcours, nullptr, Visible, Actif},
     {"UpDown1", Tous, nullptr, Visible, Inactif},
     {"CaseJoker", EtatJokerNumeros, nullptr, Cache, Actif},
     {"CaseJoker", Tous, nullptr, Visible, Actif},
+    {"MaskEdit1", EtatModification, nullptr, Visible, Actif},
+    {"MaskEdit1", Tous, nullptr, Visible, Acces::LectureSeule},
 
-    {"Rapports", Libres | EtatChoix, nullptr, Visible, Actif},
+    {"VideRapports", EtatModification, nullptr, Visible, Actif},
+    {"VideRapports", Tous, nullptr, Cache, Actif},
+    {"Rapports", Parcours | EtatChoix | EtatModification, nullptr, Visible, Actif},
     {"Rapports", Tous, nullptr, Cache, Actif},
     {"PanneauAleatoire", Planche, nullptr, Visible, Actif},
     {"PanneauAleatoire", Tous, nullptr, Cache, Actif},
@@ -92,8 +106,13 @@ constexpr auto Regles = std::to_array<RegleCommande>({
     {"RadioButtonJeu", Tous, nullptr, Cache, Actif},
     {"AddGrille", Planche, nullptr, Visible, Actif},
     {"AddGrille", Tous, nullptr, Cache, Actif},
-    {"SupprGrille", Planche | Consultations, &Situation::sansGrille, Visible, Inactif},
-    {"SupprGrille", Planche | Consultations, nullptr, Visible, Actif},
+    {"SupprGrille", EtatMiseAJour, &Situation::sansTirage, Visible, Inactif, nullptr,
+     IndiceSupprimer},
+    {"SupprGrille", EtatMiseAJour, nullptr, Visible, Actif, nullptr, IndiceSupprimer},
+    {"SupprGrille", Planche | Consultations, &Situation::sansGrille, Visible, Inactif, nullptr,
+     IndiceSupprimerGrille},
+    {"SupprGrille", Planche | Consultations, nullptr, Visible, Actif, nullptr,
+     IndiceSupprimerGrille},
     {"SupprGrille", Tous, nullptr, Cache, Actif},
     {"SupprAllGrilles", Planche | Consultations, &Situation::sansGrille, Visible, Inactif},
     {"SupprAllGrilles", Planche | Consultations, nullptr, Visible, Actif},
@@ -103,9 +122,9 @@ constexpr auto Regles = std::to_array<RegleCommande>({
     {"ReInit", EtatNormal, nullptr, Visible, Actif, u"&Choix libre",
      u"Sélection libre de numéros à vérifier"},
     {"ReInit", Tous, nullptr, Visible, Inactif},
-    {"CommunsButton", EtatChoix, nullptr, Cache, Actif},
+    {"CommunsButton", EtatChoix | EtatModification, nullptr, Cache, Actif},
     {"CommunsButton", Tous, nullptr, Visible, Actif},
-    {"DeSelect", EtatChoix | Planche, nullptr, Visible, Actif},
+    {"DeSelect", EtatChoix | Planche | EtatModification, nullptr, Visible, Actif},
     {"DeSelect", EtatNormal, &Situation::tenus, Visible, Actif},
     {"DeSelect", Tous, nullptr, Cache, Actif},
     {"ProgressBarBilan", Tous, &Situation::bilanEnCours, Visible, Actif},
@@ -135,8 +154,22 @@ constexpr auto Regles = std::to_array<RegleCommande>({
      u"Vérification des grilles en mémoire"},
     {"Consultation", Tous, nullptr, Visible, Inactif, u"C&onsultation",
      u"Vérification des grilles en mémoire"},
-    // Editing by hand comes with a later version.
-    {"MajBaseManuelle", Tous, nullptr, Visible, Inactif},
+    {"AjoutLibre", EtatMiseAJour, nullptr, Visible, Actif, u"&Modifier",
+     u"Modifier l'enregistrement en cours"},
+    {"AjoutLibre", EtatModification, nullptr, Visible, Actif, u"&Valider",
+     u"Valider les modifications en mémoire"},
+    {"AjoutLibre", Tous, nullptr, Cache, Actif},
+    {"MajBaseManuelle", EtatModification, nullptr, Visible, Actif, u"&Annuler",
+     u"Abandonner la saisie en cours"},
+    {"MajBaseManuelle", EtatNormal, nullptr, Visible, Actif, MiseAJour, IndiceMiseAJour},
+    {"MajBaseManuelle", Tous, nullptr, Visible, Inactif, MiseAJour, IndiceMiseAJour},
+    {"Majweb", EtatModification, nullptr, Cache, Actif},
+    {"Majweb", Tous, nullptr, Visible, Actif},
+    {"Button75", EtatModification, nullptr, Cache, Actif},
+    {"Button75", Libres, &Situation::filtre, Visible, Actif, BaseTotale, IndiceBaseTotale},
+    {"Button75", Libres, nullptr, Visible, Actif, Filtrer, IndiceFiltrer, SansTouche},
+    {"Button75", Tous, &Situation::filtre, Visible, Inactif, BaseTotale, IndiceBaseTotale},
+    {"Button75", Tous, nullptr, Visible, Inactif, Filtrer, IndiceFiltrer, SansTouche},
 });
 
 /// The lines of one control stand together, and the last of them holds whatever else.

@@ -20,7 +20,9 @@ enum EtatPage : unsigned {
     EtatJokerNumeros = 1U << 5U,
     EtatJokerDate = 1U << 6U,
     EtatConsultationGrilles = 1U << 7U,
-    EtatConsultationRecu = 1U << 8U
+    EtatConsultationRecu = 1U << 8U,
+    EtatMiseAJour = 1U << 9U,     ///< the base is edited: a record is looked for
+    EtatModification = 1U << 10U  ///< one is open
 };
 
 /// The state, and what else the commands hang on.
@@ -34,6 +36,8 @@ struct Situation {
     bool sansRecu = false, sansChoix = false;  ///< that list cannot be chosen now
     bool versJoker = false, versDate = false;  ///< what the end of a receipt's grids leads to
     bool second = false;                       ///< the 2nd Tirage of a date is asked for
+    bool sansTirage = false;                   ///< no draw is on show
+    bool filtre = false;                       ///< the base is filtered
 };
 
 /// One line of the table: how a control is in some states.

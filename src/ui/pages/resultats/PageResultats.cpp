@@ -4,10 +4,12 @@
 #include "resultats/PageResultats.h"
 
 #include <QHBoxLayout>
+#include <QPushButton>
 
 #include "common/Theme.h"
 #include "resultats/CalculGains.h"
 #include "resultats/CommandesBillets.h"
+#include "resultats/CommandesEdition.h"
 #include "resultats/FicheGrille.h"
 #include "resultats/PanneauAleatoire.h"
 #include "resultats/PanneauInternet.h"
@@ -16,6 +18,7 @@
 #include "resultats/PanneauTirage.h"
 #include "resultats/RangeeCommandes.h"
 #include "resultats/TextesBillets.h"
+#include "widgets/Fiche.h"
 #include "widgets/PlancheNumeros.h"
 
 namespace norvane::ui {
@@ -27,15 +30,24 @@ PageResultats::PageResultats(Contexte& ctx, QWidget* parent)
     construire();
     billets_ = new CommandesBillets(contexte, this);
     gains_ = new CalculGains(contexte, rangee_->jauge(), this);
+    edition_ = new CommandesEdition(contexte, this);
     commandes_ = std::make_unique<EtatsCommandes>(*this);
     relierTirage();
     relierFiche();
     relierCommandes();
     relierJoker();
+    relierEdition();
     montrer();
 }
 
 void PageResultats::construire() {
+    internet_ = new PanneauInternet(contexte, this);
+    // Made for the longer of its captions: neither it nor its going moves what stands beside.
+    filtre_ = bouton(u"Button75"_s, u"Retour à la base totale des tirages"_s, {}, this);
+    filtre_->setMinimumHeight(0);
+    QSizePolicy garde = filtre_->sizePolicy();
+    garde.setRetainSizeWhenHidden(true);
+    filtre_->setSizePolicy(garde);
     tirage_ = new PanneauTirage(contexte, this);
     planche_ = new PlancheNumeros(this);
     rapports_ = new PanneauRapports(contexte, this);
@@ -48,7 +60,7 @@ void PageResultats::construire() {
 
     auto* gauche = new QVBoxLayout;
     gauche->setSpacing(2 * Unite);
-    gauche->addWidget(internet_ = new PanneauInternet(contexte, this));
+    gauche->addLayout(rangee({internet_, filtre_}));
     gauche->addWidget(tirage_);
     gauche->addWidget(planche_, 1);
     auto* droite = new QVBoxLayout;
@@ -86,7 +98,13 @@ void PageResultats::relierFiche() {
         connect(fiche_, signal, billets_, geste);
     };
     relier(&FicheGrille::AddGrilleClick, &CommandesBillets::AddGrilleClick);
-    relier(&FicheGrille::SupprGrilleClick, &CommandesBillets::SupprGrilleClick);
+    connect(fiche_, &FicheGrille::SupprGrilleClick, this, [this] {
+        if (edition_->enMode()) {
+            edition_->SupprGrilleClick(tirage_->choix().indice());
+        } else {
+            billets_->SupprGrilleClick();
+        }
+    });
     relier(&FicheGrille::SupprAllGrillesClick, &CommandesBillets::SupprAllGrillesClick);
     connect(fiche_, &FicheGrille::optionChoisie, billets_, &CommandesBillets::poserOption);
     connect(fiche_, &FicheGrille::listeChoisie, billets_, &CommandesBillets::choisirListe);
@@ -121,6 +139,21 @@ void PageResultats::relierJoker() {
     connect(billets_, &CommandesBillets::jokerAttendu, joker_, &PanneauJoker::viser);
 }
 
+void PageResultats::relierEdition() {
+    connect(rangee_, &RangeeCommandes::MajBaseManuelleClick, edition_,
+            &CommandesEdition::MajBaseManuelleClick);
+    connect(rangee_, &RangeeCommandes::AjoutLibreClick, this,
+            [this] { edition_->AjoutLibreClick(tirage_->choix().place()); });
+    connect(filtre_, &QPushButton::clicked, edition_, &CommandesEdition::Button75Click);
+    connect(rapports_, &PanneauRapports::VideRapportsClick, edition_,
+            &CommandesEdition::VideRapportsClick);
+    connect(rapports_, &PanneauRapports::celluleSaisie, edition_, &CommandesEdition::poserRapport);
+    connect(tirage_, &PanneauTirage::jokerSaisi, edition_, &CommandesEdition::poserJoker);
+    connect(edition_, &CommandesEdition::saisieChange, this, &PageResultats::montrer);
+    connect(edition_, &CommandesEdition::jokerAttendu, tirage_, &PanneauTirage::viserJoker);
+    connect(edition_, &CommandesEdition::tirageDemande, tirage_, &PanneauTirage::montrerTirage);
+}
+
 void PageResultats::premierAffichage() {
     tirage_->reprendre();
 }
@@ -138,7 +171,15 @@ void PageResultats::surChange(const Changement& changement) {
 }
 
 bool PageResultats::ouvrir(const Destination& destination) {
-    if (const auto* voulu = std::get_if<VersTirage>(&destination)) {
+    const auto* voulu = std::get_if<VersTirage>(&destination);
+    const bool billets = std::holds_alternative<VersGrille>(destination) ||
+                         std::holds_alternative<VersTickets>(destination);
+    // The record in hand keeps the page, and its editing the board.
+    if (edition_->enMode() && (billets || (voulu != nullptr && edition_->ModificationEnCours()))) {
+        edition_->refuserDestination();
+        return true;
+    }
+    if (voulu != nullptr) {
         quitterChoix();
         billets_->quitterConsultation();
         tirage_->montrerTirage(voulu->numero);
@@ -164,6 +205,10 @@ bool PageResultats::ouvrir(const Destination& destination) {
 void PageResultats::presser(GenreStats genre, int valeur) {
     if (saisie_.surPlanche()) {
         billets_->Button1Click(genre, valeur);
+        return;
+    }
+    if (edition_->enMode()) {
+        if (edition_->ModificationEnCours()) edition_->Button1Click(genre, valeur);
         return;
     }
     Cases& choix = contexte.atelier.choixLibre;
@@ -202,6 +247,8 @@ void PageResultats::quitterChoix() {
 void PageResultats::DeSelectClick() {
     if (saisie_.surPlanche()) {
         saisie_.decocherTout();
+    } else if (edition_->ModificationEnCours()) {
+        edition_->DeSelectClick();
     } else {
         lever(contexte.atelier.choixLibre);
     }
@@ -213,6 +260,11 @@ void PageResultats::DeSelectClick() {
 // ---- What is on show ---------------------------------------------------------------------------
 
 EtatPage PageResultats::etat() const {
+    if (edition_->ModificationEnCours()) return EtatModification;
+    return edition_->enMode() ? EtatMiseAJour : etatTickets();
+}
+
+EtatPage PageResultats::etatTickets() const {
     switch (saisie_.etat()) {
         case EtatTickets::Grilles:
             return EtatGrilles;
@@ -241,17 +293,22 @@ Situation PageResultats::situation() const {
     s.versJoker = saisie_.suite() == SuiteSaisie::NumerosJoker;
     s.versDate = saisie_.suite() == SuiteSaisie::DateParticipation;
     s.second = tirage_->choix().second();
+    s.sansTirage = tirage_->choix().indice() < 0;
+    s.filtre = contexte.atelier.FiltreActif;
     return s;
 }
 
 /// The board belongs to the draw unless numbers are being chosen on it.
 Cases PageResultats::eclairees() const {
     const Tirage* tirage = tirage_->choix().tirage();
-    const bool libre = !choixEnCours_ && !saisie_.enSelection();
+    const bool libre = !choixEnCours_ && !saisie_.enSelection() && !edition_->ModificationEnCours();
     return tirage != nullptr && libre ? CasesDe(*tirage) : Cases{};
 }
 
 Cases PageResultats::tenues() const {
+    if (edition_->enMode()) {
+        return edition_->ModificationEnCours() ? edition_->saisie()->cases : Cases{};
+    }
     if (saisie_.etat() == EtatTickets::Normal) return contexte.atelier.choixLibre;
     const Grille& grille = saisie_.grilleEnMain();
     return {grille.numeros.ensemble(), grille.chances.ensemble()};
@@ -279,10 +336,32 @@ void PageResultats::montrer() {
     planche_->eclairer(eclairees());
     planche_->tenir(tenues());
     commandes_->appliquer(situation());
+    montrerSaisie();
     montrerFiche();
     const bool rendue = normal && etatMontre_ != EtatTickets::Normal;
     etatMontre_ = saisie_.etat();
     if (rendue) rangee_->viserSelection();
+}
+
+/// The record in hand takes the place of the draw on show.
+void PageResultats::montrerSaisie() {
+    tirage_->permettreAbsents(edition_->enMode());
+    tirage_->saisir(edition_->saisie());
+    rapports_->saisir(edition_->saisie(), tirage_->choix());
+}
+
+void PageResultats::montrerTexteEdition() {
+    QString texte =
+        u"« Modifier » ouvre l'enregistrement affiché, « Supprimer » l'efface.\nUne date sans "
+        u"tirage permet d'en ajouter un."_s;
+    if (edition_->ModificationEnCours()) {
+        texte =
+            u"Cochez les numéros sur la planche, complétez le Joker+ et les rapports, puis "
+            u"validez."_s;
+    } else if (tirage_->choix().indice() < 0) {
+        texte = u"Pas de tirage à cette date.\n« Modifier » en ajoute un."_s;
+    }
+    fiche_->montrerTexte(u"Mise à jour de la base"_s, texte);
 }
 
 void PageResultats::montrerFiche() {
@@ -291,6 +370,10 @@ void PageResultats::montrerFiche() {
     if (saisie_.surPlanche()) aleatoire_->poserReste(saisie_.reste(), saisie_.libres());
     if (!saisie_.enConsultation()) rapports_->montrerGains(false, {});
     switch (etat()) {
+        case EtatMiseAJour:
+        case EtatModification:
+            montrerTexteEdition();
+            break;
         case EtatNormal:
             fiche_->montrerTexte(u"En mémoire"_s, texteMemoire(contexte.atelier));
             break;

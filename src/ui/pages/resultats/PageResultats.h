@@ -10,10 +10,13 @@
 #include "pages/Page.h"
 #include "resultats/EtatsCommandes.h"
 
+class QPushButton;
+
 namespace norvane::ui {
 
 class CalculGains;
 class CommandesBillets;
+class CommandesEdition;
 class FicheGrille;
 class PanneauAleatoire;
 class PanneauInternet;
@@ -39,6 +42,7 @@ class PageResultats final : public Page {
     void relierFiche();
     void relierCommandes();
     void relierJoker();
+    void relierEdition();
 
     // What the board serves besides the tickets.
     void presser(GenreStats genre, int valeur);
@@ -50,12 +54,15 @@ class PageResultats final : public Page {
 
     // What is on show, as the state makes it.
     EtatPage etat() const;
+    EtatPage etatTickets() const;
     Situation situation() const;
     Cases eclairees() const;
     Cases tenues() const;
     void montrerTirage();
     void montrer();
+    void montrerSaisie();
     void montrerFiche();
+    void montrerTexteEdition();
     void montrerGrille();
 
     SaisieBillets& saisie_;
@@ -73,6 +80,8 @@ class PageResultats final : public Page {
     RangeeCommandes* rangee_ = nullptr;
     CommandesBillets* billets_ = nullptr;
     CalculGains* gains_ = nullptr;
+    QPushButton* filtre_ = nullptr;
+    CommandesEdition* edition_ = nullptr;
     std::unique_ptr<EtatsCommandes> commandes_;
 };
 

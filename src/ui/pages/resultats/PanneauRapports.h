@@ -6,8 +6,10 @@
 
 #include <QWidget>
 
+#include "atelier/EditionBase.h"
 #include "tickets/Rangs.h"
 
+class QHBoxLayout;
 class QStackedWidget;
 
 namespace norvane::ui {
@@ -25,11 +27,20 @@ class PanneauRapports final : public QWidget {
     /// A panel that can take the place of the prizes.
     void ajouter(QWidget* panneau);
     void montrer(const ChoixTirage& choix);
+    /// The prizes of the draw in hand, which can be changed; null: those of `choix` again.
+    void saisir(const SaisieTirage* saisie, const ChoixTirage& choix);
     /// Wins of the ticket on show in the table of a 1er or of a 2nd Tirage; all 0 for none.
     void montrerGains(bool second, const ComptesRangs& comptes);
 
+ Q_SIGNALS:
+    void celluleSaisie(int rang, norvane::ColonneRapport colonne, const QString& texte);
+    void VideRapportsClick();
+
  private:
+    QHBoxLayout* creerTete(QWidget* fiche);
+
     Contexte& contexte_;
+    bool saisie_ = false;  ///< a draw in hand is on show
     QStackedWidget* volet_ = nullptr;
     QStackedWidget* tables_ = nullptr;
     TableRapports* premier_ = nullptr;

@@ -25,6 +25,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Seven digits, the missing ones as blanks.
+const QString MasqueJoker = u"0.0.0.0.0.0.0;_"_s;
+
+QString chiffresDe(const QString& texte) {
+    QString chiffres;
+    for (const QChar c : texte) {
+        if (c.isDigit()) chiffres += c;
+    }
+    return chiffres;
+}
+
+/// What of a draw in hand the cells show.
+Tirage enCellules(const SaisieTirage& saisie) {
+    Tirage tirage{};
+    std::ranges::copy(saisie.cases.numeros.valeurs(), tirage.Numeros);
+    if (!saisie.cases.chances.vide()) tirage.Chance = *saisie.cases.chances.begin();
+    return tirage;
+}
+
 int enEntier(QDate date) {
     return date.year() * 10000 + date.month() * 100 + date.day();
 }
@@ -139,6 +158,8 @@ void PanneauTirage::relier() {
     };
     connect(numero_, &ChampNumero::deplacement, this, pas);
     connect(fleches_, &HautBas::deplacement, this, pas);
+    connect(joker_, &QLineEdit::textEdited, this,
+            [this](const QString& texte) { Q_EMIT jokerSaisi(chiffresDe(texte)); });
     connect(numero_, &ChampNumero::extremite, this, [this](bool derniere) {
         montrerTirage(derniere ? contexte_.atelier.base.NbTirages : 1);
     });
@@ -177,11 +198,34 @@ void PanneauTirage::montrer() {
         bande_->disposer(choix_.avecChance());
         montrerCellules();
         montrerNumeroAnnee();
+        if (!saisie_) joker_->setText(texteJoker());
     }
     Q_EMIT tirageChange();
 }
 
+void PanneauTirage::saisir(const SaisieTirage* saisie) {
+    const bool avant = saisie_.has_value();
+    if (!avant && saisie == nullptr) return;
+    saisie_ = saisie != nullptr ? std::optional(*saisie) : std::nullopt;
+    montrerCellules();
+    montrerNumeroAnnee();
+    if (avant == saisie_.has_value()) return;  // what is typed in the field stays as it is
+    joker_->setInputMask(avant ? QString() : MasqueJoker);
+    joker_->setText(avant ? texteJoker() : versQt(saisie_->joker));
+    joker_->setCursorPosition(0);
+}
+
+void PanneauTirage::viserJoker() {
+    joker_->setFocus();
+    joker_->setCursorPosition(
+        static_cast<int>(std::max<qsizetype>(joker_->displayText().indexOf(u'_'), 0)));
+}
+
 void PanneauTirage::montrerCellules() {
+    if (saisie_) {
+        bande_->afficher(enCellules(*saisie_), {});
+        return;
+    }
     const Tirage* tirage = choix_.tirage();
     if (tirage == nullptr) {
         bande_->vider();
@@ -193,23 +237,28 @@ void PanneauTirage::montrerCellules() {
     bande_->afficher(*tirage, communs);
 }
 
-/// Number in the year, year and Joker+.
+/// Number in the year and year.
 void PanneauTirage::montrerNumeroAnnee() {
     QString annee, numero;
-    QStringList chiffres;
-    if (const Tirage* tirage = choix_.tirage(); tirage != nullptr) {
+    if (saisie_) {
+        annee = QString::number(saisie_->annee);
+        numero = QString::number(saisie_->numero);
+    } else if (const Tirage* tirage = choix_.tirage(); tirage != nullptr) {
         const NumeroAnnee na = LireNumeroAnnee(tirage->AnneeNumero);
         annee = QString::number(na.annee);
         numero = QString::number(na.numero);
-        if (tirage->Joker != JokerAbsent) {
-            for (const int chiffre : ChiffresJoker(tirage->Joker)) {
-                chiffres << QString::number(chiffre);
-            }
-        }
     }
     annee_->setText(annee);
     numeroAnnee_->setText(numero);
-    joker_->setText(chiffres.join(u'.'));
+}
+
+/// The Joker+ number of the draw on show.
+QString PanneauTirage::texteJoker() const {
+    const Tirage* tirage = choix_.tirage();
+    if (tirage == nullptr || tirage->Joker == JokerAbsent) return {};
+    QStringList chiffres;
+    for (const int chiffre : ChiffresJoker(tirage->Joker)) chiffres << QString::number(chiffre);
+    return chiffres.join(u'.');
 }
 
 void PanneauTirage::poserLimites() {

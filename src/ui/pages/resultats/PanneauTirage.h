@@ -4,6 +4,7 @@
 // The panel of the draw on show: its choice by date and number, its cells, its Joker+ number.
 #pragma once
 
+#include <optional>
 #include <QWidget>
 
 #include "resultats/ChoixTirage.h"
@@ -35,12 +36,19 @@ class PanneauTirage final : public QWidget {
     void montrerTirage(int numero);
     /// A date, yyyymmdd, that may lie ahead.
     void choisirDate(int date);
+    /// Whether a Tirage that its date does not have can be chosen.
+    void permettreAbsents(bool permis) { choix_.permettreAbsents(permis); }
+    /// The draw in hand in the cells, and its Joker+ number to be typed; null: the draw on show.
+    void saisir(const SaisieTirage* saisie);
+    void viserJoker();
     /// Whether what a draw has in common with the one before stands out.
     void montrerCommuns(bool communs);
 
  Q_SIGNALS:
     /// The draw on show, or what is asked of its date, changed.
     void tirageChange();
+    /// The digits of the Joker+ number, as far as they are typed.
+    void jokerSaisi(const QString& chiffres);
 
  private:
     QLayout* creerChoix(QWidget* fiche);
@@ -49,12 +57,14 @@ class PanneauTirage final : public QWidget {
     void montrer();
     void montrerCellules();
     void montrerNumeroAnnee();
+    QString texteJoker() const;
     void poserLimites();
 
     Contexte& contexte_;
     ChoixTirage choix_;
     bool garde_ = false;  ///< the controls follow the choice: what they tell is no wish
     bool communs_ = false;
+    std::optional<SaisieTirage> saisie_;  ///< the draw in hand
 
     ChampDate* date_ = nullptr;
     QComboBox* selecteur_ = nullptr;

@@ -20,7 +20,7 @@ struct Bouton {
     const char16_t* nom;
     const char16_t* texte;
     const char16_t* indice;
-    void (RangeeCommandes::*signal)();  ///< null: the command comes with a later version
+    void (RangeeCommandes::*signal)();
 };
 
 constexpr Bouton ChoixLibre{u"ReInit", u"&Choix libre", u"Sélection libre de numéros à vérifier",
@@ -42,7 +42,10 @@ constexpr Bouton Consultation{u"Consultation", u"C&onsultation",
                               u"Vérification des grilles en mémoire",
                               &RangeeCommandes::ConsultationClick};
 constexpr Bouton Edition{u"MajBaseManuelle", u"&Mise à jour",
-                         u"Mise à jour des tirages (mode manuel)", nullptr};
+                         u"Mise à jour des tirages (mode manuel)",
+                         &RangeeCommandes::MajBaseManuelleClick};
+constexpr Bouton Ajout{u"AjoutLibre", u"&Modifier", u"Modifier l'enregistrement en cours",
+                       &RangeeCommandes::AjoutLibreClick};
 
 }  // namespace
 
@@ -53,7 +56,7 @@ RangeeCommandes::RangeeCommandes(QWidget* parent) : QWidget(parent) {
     const auto ajouter = [this, ligne](const Bouton& b) {
         auto* cree = bouton(QString::fromUtf16(b.nom), QString::fromUtf16(b.texte),
                             QString::fromUtf16(b.indice), this);
-        if (b.signal != nullptr) connect(cree, &QPushButton::clicked, this, b.signal);
+        connect(cree, &QPushButton::clicked, this, b.signal);
         ligne->addWidget(cree);
         return cree;
     };
@@ -64,6 +67,7 @@ RangeeCommandes::RangeeCommandes(QWidget* parent) : QWidget(parent) {
     ligne->addStretch(1);
     ligne->addWidget(jauge_ = creerJauge());
     ajouter(Terminer);
+    ajouter(Ajout);
     ajouter(Verifier);
     ajouter(Ouvrir);
     auto* sauver = ajouter(Sauver);

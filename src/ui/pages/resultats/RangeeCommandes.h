@@ -34,6 +34,8 @@ class RangeeCommandes final : public QWidget {
     void ButtonSauverGrillesClick();
     void SelectGrillesClick();
     void ConsultationClick();
+    void AjoutLibreClick();
+    void MajBaseManuelleClick();
 
  private:
     QProgressBar* creerJauge();

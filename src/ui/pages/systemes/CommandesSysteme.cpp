@@ -143,7 +143,6 @@ void CommandesSysteme::Button84Click() {
     a.ListeMemoire = ListeDuSysteme(a.SystemeCourant, a.modeStockage,
                                     FormeGains::de(a.configuration.reglages.GainsNominaux),
                                     a.occurrences.IntervalleInf, a.occurrences.IntervalleSup);
-    a.modeListe = ModeListe::Manipulation;
     contexte_.relais.dire({});
     contexte_.relais.annoncer({.listes = true});
     contexte_.relais.aller(VersListe{true});

@@ -43,7 +43,8 @@ class BandeTirage final : public QWidget {
     /// Five narrow cells with the Chance, or five wide ones without it.
     void disposer(bool avecChance);
 
-    /// `communs`: the values that are shown as common with the record before.
+    /// `communs`: the values that are shown as common with the record before. A number 0 stands for
+    /// none.
     void afficher(const Tirage& tirage, const Cases& communs);
     void vider();
 

@@ -7,13 +7,14 @@
 #include <array>
 #include <QTableWidget>
 
+#include "atelier/EditionBase.h"
 #include "base/Configuration.h"
 #include "base/Tirage.h"
 
 namespace norvane::ui {
 
-/// Columns "RANGS", "GAGNANTS", "RAPPORTS", "N"; one row a rank. Read-only unless the owner sets
-/// edit triggers: only the cells of GAGNANTS and RAPPORTS carry the flag that lets them be edited.
+/// Columns "RANGS", "GAGNANTS", "RAPPORTS", "N"; one row a rank. Read-only but while a draw is
+/// entered: then the cells of GAGNANTS and RAPPORTS can be edited.
 class TableRapports final : public QTableWidget {
     Q_OBJECT
 
@@ -28,6 +29,8 @@ class TableRapports final : public QTableWidget {
     /// Winners, amounts with the currency symbol, and the value in francs as hint of the amount;
     /// nothing for a rank that the game did not have on the day of `tirage`.
     void afficher(const Tirage& tirage, const RapportsTirage& rapports, const Reglages& reglages);
+    /// The prizes of a draw in hand, and the way to change them.
+    void editer(const RapportsSaisis& saisis, const Reglages& reglages);
     /// Every cell of winners and amounts empty.
     void vider();
     /// Column N and the hints of the rows that are won.
@@ -36,8 +39,13 @@ class TableRapports final : public QTableWidget {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+ Q_SIGNALS:
+    /// A text was typed in a cell of winners or amounts, which shows it once the owner has taken
+    /// it.
+    void celluleSaisie(int rang, norvane::ColonneRapport colonne, const QString& texte);
+
  private:
-    void viderRang(int rang);
+    void poserValeurs(int rang, const RapportSaisi& rapport, const Reglages& reglages);
     void poser(int rang, Colonne colonne, const QString& texte, const QString& court,
                const QString& longue);
 
