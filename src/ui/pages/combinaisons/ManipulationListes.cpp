@@ -107,8 +107,7 @@ void ManipulationListes::CopierversBulletins(QuelleListe source) {
     if (grilles) contexte_.relais.aller(VersTickets{*std::move(grilles)});
 }
 
-// -------------------------------------------------------------------------------------- in one
-// list
+// ------------------------------------------------------------------------------------- in a list
 
 /// A short list at once; a long one is taken away while a job works on it.
 void ManipulationListes::operer(QuelleListe laquelle, std::function<void(Liste&)> operation) {
@@ -130,7 +129,11 @@ void ManipulationListes::operer(QuelleListe laquelle, std::function<void(Liste&)
         contexte_.relais.annoncer({.listes = true});
     };
     const VueTravail vue{u"Opération mémoire en cours..."_s};
-    if (contexte_.travaux.lancer(std::move(travail), vue, this, [rendre](Travail&) { rendre(); })) {
+    const auto finir = [this, rendre](const Travail& fini) {
+        rendre();
+        if (!fini.erreur().empty()) dire(versQt(fini.erreur()));
+    };
+    if (contexte_.travaux.lancer(std::move(travail), vue, this, finir)) {
         contexte_.relais.annoncer({.listes = true});
         return;
     }
