@@ -3,10 +3,12 @@
 
 #include "combinaisons/ActionsListe.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
+#include "combinaisons/LegendeLignes.h"
 #include "combinaisons/PanneauDivision.h"
 #include "combinaisons/PanneauTri.h"
 #include "common/Contexte.h"
@@ -47,6 +49,9 @@ TypeTri typeMontre(const EtatTri& voulu, const Liste& liste) {
 
 ActionsListe::ActionsListe(Contexte& ctx, QWidget* parent)
     : QWidget(parent),
+      contexte_(ctx),
+      legende_(new LegendeLignes(this)),
+      verrou_(new QCheckBox(u"&Glisser/Déplacer verrouillé"_s, this)),
       genre_(legende({}, this)),
       tri_(bouton(u"ButtonTri"_s, u"&Trier"_s, u"Trier la liste en mémoire"_s, this)),
       rangs_(bouton(u"ButtonTriProfondeur"_s, u"&Rangs"_s,
@@ -54,6 +59,14 @@ ActionsListe::ActionsListe(Contexte& ctx, QWidget* parent)
       details_(bouton(u"BitBtnWithColor1"_s, u"&Détails"_s,
                       u"Ce que contient la liste en mémoire, ou arrêt du calcul en cours"_s, this)),
       division_(new PanneauDivision(ctx, this)) {
+    verrou_->setObjectName(u"CheckBoxDrag"_s);
+    poserIndice(verrou_,
+                u"Un clic choisit des lignes sans les afficher ni les glisser d'une liste à "
+                u"l'autre"_s);
+    connect(verrou_, &QCheckBox::clicked, this, [this](bool verrouille) {
+        contexte_.atelier.GlisserVerrouille = verrouille;
+        contexte_.relais.annoncer({.listes = true});
+    });
     genre_->setObjectName(u"Label25"_s);
     genre_->setWordWrap(true);
     // Two lines: the longest text of those that it shows.
@@ -72,6 +85,8 @@ ActionsListe::ActionsListe(Contexte& ctx, QWidget* parent)
     auto* pile = new QVBoxLayout(this);
     pile->setContentsMargins(0, 0, 0, 0);
     pile->setSpacing(Unite);
+    pile->addWidget(legende_);
+    pile->addWidget(verrou_);
     pile->addWidget(genre_);
     pile->addLayout(boutons);
     pile->addWidget(division_);
@@ -81,6 +96,10 @@ ActionsListe::ActionsListe(Contexte& ctx, QWidget* parent)
 }
 
 void ActionsListe::suivre(const VueTri& vue) {
+    const bool manipulation = contexte_.atelier.modeListe == ModeListe::Manipulation;
+    legende_->setVisible(!manipulation);
+    verrou_->setVisible(manipulation);
+    verrou_->setChecked(contexte_.atelier.GlisserVerrouille);
     tri_->setVisible(vue.plusieurs());
     rangs_->setVisible(vue.rangs ||
                        (vue.inferieurs() && vue.liste.NbCombRangs != vue.liste.nombre()));
@@ -91,7 +110,7 @@ void ActionsListe::suivre(const VueTri& vue) {
 }
 
 QList<QWidget*> ActionsListe::ordreTabulation() const {
-    return QList<QWidget*>{tri_, rangs_, details_} + division_->ordreTabulation();
+    return QList<QWidget*>{verrou_, tri_, rangs_, details_} + division_->ordreTabulation();
 }
 
 }  // namespace norvane::ui

@@ -1,17 +1,19 @@
 // SPDX-FileCopyrightText: 2026 the Norvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// What is done with the list in memory: it is sorted, its ranks are filled, it is told of, it is
-// cut.
+// What is done with the list in memory: its lines are held or let go, it is sorted, its ranks are
+// filled, it is told of, it is cut.
 #pragma once
 
 #include <QWidget>
 
+class QCheckBox;
 class QLabel;
 class QPushButton;
 
 namespace norvane::ui {
 
+class LegendeLignes;
 class PanneauDivision;
 struct Contexte;
 struct VueTri;
@@ -32,6 +34,9 @@ class ActionsListe final : public QWidget {
     void BitBtnWithColor1Click();
 
  private:
+    Contexte& contexte_;
+    LegendeLignes* legende_;  ///< gives its place to the lock where lists are handled
+    QCheckBox* verrou_;
     QLabel* genre_;
     QPushButton* tri_;
     QPushButton* rangs_;

@@ -139,12 +139,13 @@ void ConduiteMoteur::suivre(ReponseClic reponse, const QString& texte, QProgress
 }
 
 void ConduiteMoteur::lancer(PtrTravail travail, const QString& texte, QProgressBar& jauge) {
+    Travail& nouveau = *travail;  // stays ours where it cannot be started
     if (contexte_.travaux.lancer(std::move(travail), {texte, &jauge}, this,
                                  [this](Travail& fini) { TraitementTermine(fini); })) {
         Q_EMIT lance();
         return;
     }
-    moteur_.TraitementTermine(*travail);
+    moteur_.TraitementTermine(nouveau);
     contexte_.services.messages->MessageInfo(contexte_.travaux.erreur(), u"Message"_s);
 }
 

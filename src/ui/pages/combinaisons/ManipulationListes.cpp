@@ -107,8 +107,7 @@ void ManipulationListes::CopierversBulletins(QuelleListe source) {
     if (grilles) contexte_.relais.aller(VersTickets{*std::move(grilles)});
 }
 
-// -------------------------------------------------------------------------------------- in one
-// list
+// ------------------------------------------------------------------------------------- in a list
 
 /// A short list at once; a long one is taken away while a job works on it.
 void ManipulationListes::operer(QuelleListe laquelle, std::function<void(Liste&)> operation) {
@@ -125,16 +124,20 @@ void ManipulationListes::operer(QuelleListe laquelle, std::function<void(Liste&)
                                     operation(*prise);
                                     return Resultat<Rien>(Rien{});
                                 });
-    const auto rendre = [this, laquelle, prise](Travail&) {
+    const auto rendre = [this, laquelle, prise] {
         contexte_.atelier.liste(laquelle) = std::move(*prise);
         contexte_.relais.annoncer({.listes = true});
     };
     const VueTravail vue{u"Opération mémoire en cours..."_s};
-    if (contexte_.travaux.lancer(std::move(travail), vue, this, rendre)) {
+    const auto finir = [this, rendre](const Travail& fini) {
+        rendre();
+        if (!fini.erreur().empty()) dire(versQt(fini.erreur()));
+    };
+    if (contexte_.travaux.lancer(std::move(travail), vue, this, finir)) {
         contexte_.relais.annoncer({.listes = true});
         return;
     }
-    rendre(*travail);
+    rendre();
     dire(contexte_.travaux.erreur());
 }
 

@@ -12,7 +12,6 @@
 #include "combinaisons/CommandesIntervalle.h"
 #include "combinaisons/ConduiteMoteur.h"
 #include "combinaisons/DetailsListe.h"
-#include "combinaisons/LegendeLignes.h"
 #include "combinaisons/LigneBornes.h"
 #include "combinaisons/ManipulationListes.h"
 #include "combinaisons/PanneauCombinaison.h"
@@ -58,7 +57,6 @@ void PageCombinaisons::construire() {
     liste_ = new PanneauListe(ListePrincipale, contexte.atelier.ListeMemoire, milieu);
     milieu->setFixedWidth(liste_->boite().largeurLigne() + 4 * Unite);
     milieu->pile->addWidget(liste_, 1);
-    milieu->pile->addWidget(new LegendeLignes(milieu));
     milieu->pile->addWidget(actions_ = new ActionsListe(contexte, milieu));
     auto* choisie = new Fiche(this);
     combinaison_ = new PanneauCombinaison(contexte, CombinaisonChoisie, choisie);

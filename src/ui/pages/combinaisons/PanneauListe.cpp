@@ -104,20 +104,23 @@ void PanneauListe::disposerPrincipale(QBoxLayout* pile) {
     pile->addLayout(colonne(u"Combinaisons en mémoire"_s, memoire, this));
 }
 
+/// Three of them stand side by side below the statistics: the lines have most of the room.
 void PanneauListe::disposerTampon(QBoxLayout* pile) {
     intervalle_ = creerLegende(noms.intervalle);
-    pile->setSpacing(Unite / 2);
+    QFont grasse = font();
+    grasse.setBold(true);
+    for (QLabel* etiquette : {titre_, nombre_}) etiquette->setFont(grasse);
+    // None may claim the width of a long text.
+    for (QLabel* etiquette : {titre_, rang_, intervalle_})
+        etiquette->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* nombre = rangee({rang_, etat_, nombre_});
+    nombre->setStretch(0, 1);
+    pile->setSpacing(Unite / 3);
     pile->addWidget(titre_);
-    auto* nombre = rangee({nombre_, etat_});
-    nombre->addStretch(1);
     pile->addLayout(nombre);
     pile->addWidget(boite_, 1);
     pile->addWidget(jauge_);
-    pile->addWidget(rang_);
     pile->addWidget(intervalle_);
-    // Three of them stand side by side: none may claim the width of a long text.
-    for (QLabel* etiquette : {titre_, rang_, intervalle_})
-        etiquette->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void PanneauListe::afficher(const Liste* montree) {

@@ -4,7 +4,6 @@
 #include "combinaisons/PanneauTampons.h"
 
 #include <algorithm>
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSpinBox>
@@ -47,26 +46,11 @@ QPushButton* creerBouton(const QString& nom, const QString& texte, const QString
 }  // namespace
 
 PanneauTampons::PanneauTampons(Contexte& ctx, QWidget* parent)
-    : QWidget(parent),
-      contexte_(ctx),
-      fichiers_(new FichiersListes(ctx, this)),
-      verrou_(new QCheckBox(u"&Glisser/Déplacer verrouillé"_s, this)) {
-    verrou_->setObjectName(u"CheckBoxDrag"_s);
-    poserIndice(verrou_,
-                u"Un clic choisit des lignes sans les afficher ni les glisser d'une liste à "
-                u"l'autre"_s);
-    connect(verrou_, &QCheckBox::clicked, this, [this](bool verrouille) {
-        contexte_.atelier.GlisserVerrouille = verrouille;
-        contexte_.relais.annoncer({.listes = true});
-    });
-    auto* colonnes = new QHBoxLayout;
+    : QWidget(parent), contexte_(ctx), fichiers_(new FichiersListes(ctx, this)) {
+    auto* colonnes = new QHBoxLayout(this);
+    colonnes->setContentsMargins(0, 0, 0, 0);
     colonnes->setSpacing(2 * Unite);
     for (std::size_t i = 0; i < NbTampons; ++i) colonnes->addWidget(creerTampon(i), 1);
-    auto* pile = new QVBoxLayout(this);
-    pile->setContentsMargins(0, 0, 0, 0);
-    pile->setSpacing(Unite);
-    pile->addLayout(colonnes, 1);
-    pile->addWidget(verrou_, 0, Qt::AlignLeft);
 }
 
 QWidget* PanneauTampons::creerTampon(std::size_t i) {
@@ -114,7 +98,6 @@ QWidget* PanneauTampons::creerTampon(std::size_t i) {
 
 void PanneauTampons::suivre() {
     const Atelier& a = contexte_.atelier;
-    verrou_->setChecked(a.GlisserVerrouille);
     for (std::size_t i = 0; i < NbTampons; ++i) {
         const Tampon& t = tampons_.at(i);
         t.liste->afficher();
@@ -155,7 +138,7 @@ QList<QWidget*> PanneauTampons::ordreTabulation() const {
     QList<QWidget*> ordre;
     for (const Tampon& t : tampons_)
         ordre << &t.liste->boite() << t.sousListe << t.numero << t.ouvrir << t.sauver << t.exporter;
-    return ordre << verrou_;
+    return ordre;
 }
 
 }  // namespace norvane::ui

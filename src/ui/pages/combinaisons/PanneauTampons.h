@@ -9,7 +9,6 @@
 
 #include "lists/Liste.h"
 
-class QCheckBox;
 class QPushButton;
 class QSpinBox;
 
@@ -47,7 +46,6 @@ class PanneauTampons final : public QWidget {
     Contexte& contexte_;
     FichiersListes* fichiers_;
     std::array<Tampon, NbTampons> tampons_{};
-    QCheckBox* verrou_;
     Division division_;  ///< that the numbers were last proposed for
 };
 
