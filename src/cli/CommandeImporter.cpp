@@ -4,10 +4,14 @@
 
 #include <fmt/ostream.h>
 
+#include <algorithm>
+#include <span>
+
 #include "base/ArchiveOfficielle.h"
 #include "base/BaseIntegree.h"
 #include "base/Fichiers.h"
 #include "base/Stockage.h"
+#include "comb/EtatCombinaisons.h"
 #include "Phrases.h"
 
 namespace norvane {
@@ -38,8 +42,12 @@ Resultat<Rien> CommandeImporter::executer(const Contexte& contexte, std::ostream
     if (!octets) return Erreur{octets.erreur()};
     const auto archive = LireArchiveOfficielle(*octets, fichier_);
     if (!archive) return Erreur{archive.erreur()};
+    const std::vector<Tirage> avant = base->Tirages;
     const auto fusion = FusionnerArchive(*base, *archive);
     if (!fusion) return Erreur{fusion.erreur()};
+    // What the engine computed speaks of the draws known before, as they were.
+    if (!std::ranges::equal(avant, std::span(base->Tirages).first(avant.size())))
+        if (auto neutre = EcrireCombCalcNeutre(stockage.parent_path()); !neutre) return neutre;
     if (fusion->change() || !present)
         if (auto sauve = SauverBase(*base, stockage); !sauve) return sauve;
     for (const LigneRefusee& refusee : archive->refusees)
