@@ -8,7 +8,7 @@ declare -A groupes=(
   [construire]="g++ cmake ninja-build ccache mold pkg-config qt6-base-dev libqt6svg6-dev
     qt6-charts-dev qt6-translations-l10n libsqlite3-dev libzip-dev libssl-dev libxlsxwriter-dev
     libfmt-dev libsimpleini-dev libcli11-dev libgtest-dev libbenchmark-dev libgl-dev fonts-noto-core"
-  [essais]="poppler-utils"
+  [essais]="poppler-utils libxml2-utils"
   [controle]="clang-format-14 clang-tidy-14"
   [ecran]="xvfb xdotool imagemagick openbox"
 )
