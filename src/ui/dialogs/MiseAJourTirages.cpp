@@ -141,7 +141,7 @@ void MiseAJourTirages::importer(const QString& fichier) {
 }
 
 void MiseAJourTirages::lancer(PtrTravail travail, const QString& texte,
-                              std::shared_ptr<Travaille> travaille) {
+                              const std::shared_ptr<Travaille>& travaille) {
     const bool parti =
         contexte_.travaux.lancer(std::move(travail), {texte, jauge_}, this,
                                  [this, travaille](Travail& fini) { terminer(*travaille, fini); });

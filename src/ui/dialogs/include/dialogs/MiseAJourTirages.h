@@ -45,7 +45,8 @@ class MiseAJourTirages final : public QObject {
  private:
     struct Travaille;
     bool refuser();
-    void lancer(PtrTravail travail, const QString& texte, std::shared_ptr<Travaille> travaille);
+    void lancer(PtrTravail travail, const QString& texte,
+                const std::shared_ptr<Travaille>& travaille);
     void terminer(Travaille& travaille, const Travail& travail);
     bool direTransport(const Travaille& travaille);
     void rapporter(BaseMiseAJour&& venue);
