@@ -30,7 +30,7 @@ PagesVoulues pagesVoulues(const QPrinter& imprimante) {
 QString nommerPdf(Contexte& contexte, const QPrinter& imprimante) {
     std::size_t format = 0;
     const QString choisi = imprimante.outputFileName();
-    const QString fichier = nomComplet(choisi, {{u"Document PDF (*.pdf)"_s, u"pdf"_s}}, 0, format);
+    QString fichier = nomComplet(choisi, {{u"Document PDF (*.pdf)"_s, u"pdf"_s}}, 0, format);
     // The dialog asked about the name that it was given.
     if (fichier != choisi && !accepteRemplacement(contexte, fichier)) return {};
     return fichier;

@@ -79,8 +79,8 @@ void PanneauRapports::montrer(const ChoixTirage& choix) {
 }
 
 void PanneauRapports::saisir(const SaisieTirage* saisie, const ChoixTirage& choix) {
-    if (std::exchange(saisie_, saisie != nullptr) && !saisie_) montrer(choix);
-    if (!saisie_) return;
+    if (std::exchange(saisie_, saisie != nullptr) && saisie == nullptr) montrer(choix);
+    if (saisie == nullptr) return;
     TableRapports* table = saisie->rangs() == NbRangs2nd ? second_ : premier_;
     table->editer(saisie->rapports, contexte_.atelier.configuration.reglages);
     tables_->setCurrentWidget(table);
