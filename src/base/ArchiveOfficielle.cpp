@@ -272,9 +272,11 @@ Resultat<ArchiveOfficielle> LireTable(std::string_view texte, std::string_view n
                                      : fmt::format(" : ligne {}, {}", archive.refusees[0].numero,
                                                    archive.refusees[0].raison))};
     std::ranges::stable_sort(archive.tirages, Avant);
-    const auto doubles = std::ranges::unique(
-        archive.tirages, [](const auto& a, const auto& b) { return !Avant(a, b); });
-    archive.tirages.erase(doubles.begin(), doubles.end());
+    const auto memeTirage = [](const TirageArchive& a, const TirageArchive& b) {
+        return !Avant(a, b);
+    };
+    archive.tirages.erase(std::unique(archive.tirages.begin(), archive.tirages.end(), memeTirage),
+                          archive.tirages.end());
     suivi.poser(100);
     return archive;
 }
