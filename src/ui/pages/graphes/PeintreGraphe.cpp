@@ -111,7 +111,7 @@ void graduerPlaces(const ToileGraphe& t) {
         if (place % pas != 0 && !(pas > 2 && place == 1)) continue;
         const QPointF bord = t.repere.placer(place, s.y.de, 0);
         t.p.setPen(t.style.discret);
-        t.p.drawText(QRectF(bord.x() - 30, bord.y() + Unite / 2, 60, m.height()),
+        t.p.drawText(QRectF(bord.x() - 30, bord.y() + Unite / 2.0, 60, m.height()),
                      Qt::AlignHCenter | Qt::AlignTop, QString::number(place));
     }
     if (s.x.contient(FinNumeros)) {
@@ -156,7 +156,7 @@ void peindreTitres(const ToileGraphe& t, const QRectF& tout) {
     t.p.setFont(t.style.fonte);
     t.p.setPen(t.style.discret);
     const double ligne = QFontMetricsF(t.style.fonte).height();
-    t.p.drawText(QRectF(cadre.left(), tout.bottom() - ligne - Unite / 2, cadre.width(), ligne),
+    t.p.drawText(QRectF(cadre.left(), tout.bottom() - ligne - Unite / 2.0, cadre.width(), ligne),
                  Qt::AlignCenter, u"Numéros + Chances"_s);
     t.p.save();
     t.p.translate(tout.left() + Unite, cadre.center().y());
